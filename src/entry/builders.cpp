@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: MIT
+#include "entry/builders.h"
+
+#include "entry/keyedline.h"
+#include "platform/msgbox.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Grids of the ticket, in the order of BetClasses.
+enum Grid { Top3, Tod3, Top2, Tod2, TopRun, Bottom3, Bottom2, BottomRun, NoGrid };
+
+/// Grids that a number of one length goes to, in the order of writing.
+struct Targets
+{
+    Grid first = NoGrid;
+    Grid second = NoGrid;
+};
+
+/// What sets a builder of one number and one amount apart. The length of the number as keyed,
+/// not trimmed, picks the targets; a length without targets adds nothing.
+struct SingleLine
+{
+    unsigned checks;
+    bool showTopTab;
+    std::array<Targets, 3> targetsByLength; ///< for 1, 2 and 3 characters
+};
+
+constexpr unsigned Multi = NumberGiven | AtLeastTwoDigits | AtMostThreeDigits | AmountGood;
+constexpr unsigned Single = NumberGiven | OneDigit | AmountGood;
+
+constexpr SingleLine TongUp{Multi, true, {{{}, {Top2}, {Top3}}}};
+constexpr SingleLine TongDown{Multi, false, {{{}, {Bottom2}, {Bottom3}}}};
+constexpr SingleLine TodUp{Multi | DigitsDiffer, true, {{{}, {Tod2}, {Tod3}}}};
+constexpr SingleLine TongTod{Multi | DigitsDiffer, true, {{{}, {Top2, Tod2}, {Top3, Tod3}}}};
+constexpr SingleLine RunUp{Single, true, {{{TopRun}, {}, {}}}};
+constexpr SingleLine RunDown{Single, false, {{{BottomRun}, {}, {}}}};
+// The only one to take one digit as well as more, and it shows the top although it writes the
+// bottom first.
+constexpr SingleLine DownAndUp{NumberGiven | AtMostThreeDigits | AmountGood,
+                               true,
+                               {{{BottomRun, TopRun}, {Bottom2, Top2}, {Bottom3, Top3}}}};
+
+void addSingleLine(Ticket &ticket, const SingleLine &builder)
+{
+    if (!passesChecks(ticket, builder.checks))
+        return;
+    ticket.ShowTopTab = builder.showTopTab;
+    const auto length = ticket.KeyedNumber.size();
+    if (length < 1 || length > 3)
+        return;
+    const Targets &targets = builder.targetsByLength[length - 1];
+    if (targets.first != NoGrid)
+        ticket.AddLine(targets.first, ticket.KeyedNumber, ticket.KeyedAmount, 0);
+    if (targets.second != NoGrid)
+        ticket.AddLine(targets.second, ticket.KeyedNumber, ticket.KeyedAmount, 1);
+}
+
+} // namespace
+
+void tongup(Ticket &ticket)
+{
+    addSingleLine(ticket, TongUp);
+}
+
+void tongdown(Ticket &ticket)
+{
+    addSingleLine(ticket, TongDown);
+}
+
+void todup(Ticket &ticket)
+{
+    addSingleLine(ticket, TodUp);
+}
+
+void runup(Ticket &ticket)
+{
+    addSingleLine(ticket, RunUp);
+}
+
+void rundown(Ticket &ticket)
+{
+    addSingleLine(ticket, RunDown);
+}
+
+void tongtod(Ticket &ticket)
+{
+    addSingleLine(ticket, TongTod);
+}
+
+void downAndup(Ticket &ticket)
+{
+    addSingleLine(ticket, DownAndUp);
+}
+
+void runBuilder(Ticket &ticket, BetKind kind)
+{
+    switch (kind) {
+    case BetKind::Top:
+        return tongup(ticket);
+    case BetKind::TodKind:
+        return todup(ticket);
+    case BetKind::Bottom:
+        return tongdown(ticket);
+    case BetKind::RunTop:
+        return runup(ticket);
+    case BetKind::RunBottom:
+        return rundown(ticket);
+    case BetKind::StraightAndTod:
+        return tongtod(ticket);
+    case BetKind::TopAndBottom:
+        return downAndup(ticket);
+    default:
+        refuse(u"ไม่สามารถเพิ่มเลขได้ ( ประเภทนี้ยังไม่เปิดใช้งาน ) โปรดเลือกประเภทอื่น.. "_s);
+    }
+}

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: MIT
+#include "entry/save.h"
+
+#include "ledger/ledger.h"
+#include "runtime/values.h"
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Grids in the order of saving: the tod grid of two digits goes before its straight one.
+constexpr std::array<int, ClassCount> SaveOrder{0, 1, 3, 2, 4, 5, 6, 7};
+
+/// The other orders of a tod number's digits, given as places in the number.
+constexpr std::array<const char *, 5> ThreeDigitOrders{"021", "120", "102", "201", "210"};
+constexpr std::array<const char *, 1> TwoDigitOrders{"10"};
+
+template<typename Orders>
+QVariantList rearranged(const QString &number, const Orders &orders)
+{
+    QVariantList numbers;
+    for (const char *order : orders) {
+        QString other;
+        for (const char *place = order; *place != '\0'; ++place)
+            other += number[*place - '0'];
+        numbers += other;
+    }
+    return numbers;
+}
+
+void addBetLine(const BetClass &betClass, qint16 customer, const QString &number, qint32 amount)
+{
+    RecordsetA.openTable(u"tblNumber"_s);
+    RecordsetA.addNew();
+    RecordsetA.set(u"NPK"_s, SetupNewData2());
+    RecordsetA.set(u"NameFK"_s, customer);
+    RecordsetA.set(u"updown"_s, betClass.updown);
+    RecordsetA.set(u"numType"_s, betClass.numType);
+    RecordsetA.set(u"num23"_s, betClass.num23);
+    RecordsetA.set(u"numValue"_s, number);
+    RecordsetA.set(u"numBuy"_s, amount);
+    RecordsetA.set(u"nuser"_s, CurrentUser);
+    RecordsetA.update();
+}
+
+} // namespace
+
+qint32 SetupNewData2()
+{
+    return nextKey(u"tblNumber"_s, u"NPK"_s);
+}
+
+QString todSpelling(const QString &number)
+{
+    const QString keyed = trimBlanks(number);
+    Q_ASSERT(keyed.size() == 3 || keyed.size() == 2);
+    const QVariantList others = keyed.size() == 3 ? rearranged(keyed, ThreeDigitOrders)
+                                                  : rearranged(keyed, TwoDigitOrders);
+    const QStringList marks(others.size(), u"?"_s);
+    // The first row in text order is all that is wanted, so the engine stops at it.
+    RecordsetA.open(u"SELECT tblNumber.numValue"
+                    " FROM tblNumber INNER JOIN tblMember ON tblNumber.nameFK = tblMember.MPK"
+                    " WHERE [num23] = %1 AND [updown] = -1 AND [numType] = 2"
+                    " AND [numValue] IN (%2) ORDER BY numValue LIMIT 1"_s.arg(
+                            QString::number(keyed.size()), marks.join(u", "_s)),
+                    others);
+    const QString spelling = RecordsetA.recordCount() < 1
+            ? keyed
+            : RecordsetA.field(u"numValue"_s).toString();
+    RecordsetA.close();
+    return spelling;
+}
+
+void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progress)
+{
+    // Looked up at the first row and not before: looking up can register the name.
+    std::optional<qint16> customerKey;
+    for (const int at : SaveOrder) {
+        const SpreadModel &grid = ticket.grids[at];
+        const BetClass &betClass = BetClasses[at];
+        if (grid.rows() == 0)
+            continue;
+        progress.start(grid.rows());
+        for (int row = 1; row <= grid.rows(); ++row) {
+            const QString number = grid.text(row, NumberColumn);
+            const qint32 amount = CLng(grid.text(row, AmountColumn));
+            const QString filed = betClass.numType == Tod ? todSpelling(number) : number;
+            if (!customerKey)
+                customerKey = LookupKey(customer, u"tblMember"_s, u"MPK"_s, u"Mname"_s);
+            addBetLine(betClass, *customerKey, filed, amount);
+            progress.step();
+        }
+        RecordsetA.close();
+    }
+}
+
+void saveDiscount(const QString &discount)
+{
+    if (discount.isEmpty())
+        return;
+    RecordsetB.openTable(u"tblRMoney"_s);
+    RecordsetB.addNew();
+    // A number, not the text: a text with commas would spoil every sum over the column.
+    RecordsetB.set(u"rMoney"_s, CDbl(discount));
+    RecordsetB.update();
+    RecordsetB.close();
+}

@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: MIT
+// Filing a ticket: the one place where bets enter the Ledger.
+#pragma once
+
+#include "entry/ticket.h"
+#include "platform/progressbar.h"
+
+/// Next key of a bet line.
+qint32 SetupNewData2();
+
+/// The spelling under which a tod number of 3 or 2 digits is filed: the lowest rearrangement of
+/// its digits that the Ledger holds in that class, since a tod bet pays on any order and all
+/// bets of a family should stand together; else the number as keyed. Lines of customers that no
+/// longer exist do not count. Uses RecordsetA.
+QString todSpelling(const QString &number);
+
+/// Writes one bet line for each row of the grids, for the customer named by @p customer, row by
+/// row: each is durable before the next is begun, and there is no way back. Raises RunTimeError
+/// with the rows written up to then kept. Uses both slots.
+void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progress);
+
+/// Writes the ticket's discount money, given as its "#,##" text. An empty text writes nothing.
+void saveDiscount(const QString &discount);

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: MIT
+#include "entry/ticket.h"
+
+#include "runtime/values.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+Ticket::Ticket()
+{
+    SetupSpread();
+}
+
+bool Ticket::isEmpty() const
+{
+    return std::all_of(grids.begin(), grids.end(),
+                       [](const SpreadModel &grid) { return grid.rows() == 0; });
+}
+
+void Ticket::SetupSpread()
+{
+    for (int at = 0; at < ClassCount; ++at) {
+        SpreadModel &grid = grids[at];
+        grid.setup(2, 3);
+        grid.setHeader(CaptionRow, NumberColumn,
+                       {BetClasses[at].captionText(), Qt::AlignCenter, true, 2});
+        grid.setHeader(TotalRow, NumberColumn, {u"รวมเงิน"_s});
+        grid.setHeader(TotalRow, AmountColumn, {u"0"_s, Qt::AlignRight | Qt::AlignVCenter});
+        grid.setHeader(TitleRow, NumberColumn, {u"เลข"_s});
+        grid.setHeader(TitleRow, AmountColumn, {u"บาท"_s, Qt::AlignRight | Qt::AlignVCenter});
+        grid.setAlignment(NumberColumn, Qt::AlignHCenter);
+        grid.setAlignment(AmountColumn, Qt::AlignRight);
+    }
+}
+
+void Ticket::writeLine(int grid, int found, const QString &number, const QString &amount)
+{
+    SpreadModel &rows = grids[grid];
+    if (found >= 0) {
+        const double sum = CDbl(rows.text(found, AmountColumn)) + CDbl(amount);
+        rows.setText(found, AmountColumn, formatBaht(sum));
+        return;
+    }
+    rows.insertRow(1);
+    rows.setText(1, NumberColumn, number);
+    rows.setText(1, AmountColumn, formatBaht(CDbl(amount)));
+}
+
+void Ticket::AddLine(int grid, const QString &number, const QString &amount, int slot)
+{
+    FoundRow[slot] = grids[grid].searchColumn(NumberColumn, number);
+    writeLine(grid, FoundRow[slot], number, amount);
+}
+
+GridTotals Ticket::totalGrids()
+{
+    GridTotals totals{};
+    for (int at = 0; at < ClassCount; ++at) {
+        SpreadModel &grid = grids[at];
+        for (int row = 1; row <= grid.rows(); ++row)
+            totals[at] = CLng(CDbl(grid.text(row, AmountColumn)) + totals[at]);
+        grid.setText(TotalRow, AmountColumn, formatBaht(totals[at]));
+    }
+    return totals;
+}
+
+qint32 topTotal(const GridTotals &totals)
+{
+    return addLong(std::span(totals).first<TopClassCount>());
+}
+
+qint32 bottomTotal(const GridTotals &totals)
+{
+    return addLong(std::span(totals).subspan<TopClassCount>());
+}
+
+qint32 ticketTotal(const GridTotals &totals)
+{
+    return addLong(totals);
+}
+
+QString discountMoney(const QString &total, const QString &percent)
+{
+    return formatBaht(CDbl(total) * CDbl(percent) / 100);
+}

@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: MIT
+#include "entry/vocabulary.h"
+
+BetKind kindOfCaption(const QString &caption)
+{
+    for (const KindEntry &entry : KindEntries) {
+        if (caption == QStringView(entry.caption))
+            return entry.kind;
+    }
+    return BetKind::NoKind;
+}
+
+bool isTurnKind(BetKind kind)
+{
+    return kind == BetKind::TurnTop || kind == BetKind::TurnBottom;
+}

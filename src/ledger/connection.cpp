@@ -1,0 +1,209 @@
+// SPDX-License-Identifier: MIT
+// The only file that speaks to the database engine.
+#include "ledger/connection.h"
+
+#include "ledger/collation.h"
+#include "ledger/schema.h"
+#include "runtime/runtimeerror.h"
+
+#include <QFile>
+#include <QHash>
+#include <QScopeGuard>
+
+#define SQLITE_HAS_CODEC
+#include <sqlite3.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+[[noreturn]] void raiseFailure(const QString &words)
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure, words);
+}
+
+[[noreturn]] void raiseFailure(int code)
+{
+    raiseFailure(QString::fromUtf8(sqlite3_errstr(code)));
+}
+
+using Compare = int (*)(QStringView left, QStringView right);
+
+template<Compare compare>
+int compareUtf8(void *, int leftSize, const void *left, int rightSize, const void *right)
+{
+    return compare(QString::fromUtf8(static_cast<const char *>(left), leftSize),
+                   QString::fromUtf8(static_cast<const char *>(right), rightSize));
+}
+
+QVariant columnValue(sqlite3_stmt *statement, int column)
+{
+    switch (sqlite3_column_type(statement, column)) {
+    case SQLITE_INTEGER:
+        return qlonglong(sqlite3_column_int64(statement, column));
+    case SQLITE_FLOAT:
+        return sqlite3_column_double(statement, column);
+    case SQLITE_NULL:
+        return {};
+    default:
+        return QString::fromUtf8(
+                reinterpret_cast<const char *>(sqlite3_column_text(statement, column)),
+                sqlite3_column_bytes(statement, column));
+    }
+}
+
+int bindValue(sqlite3_stmt *statement, int place, const QVariant &value)
+{
+    switch (value.typeId()) {
+    case QMetaType::UnknownType:
+        return sqlite3_bind_null(statement, place);
+    case QMetaType::Bool:
+        return sqlite3_bind_int64(statement, place, value.toBool() ? -1 : 0);
+    case QMetaType::Double:
+        return sqlite3_bind_double(statement, place, value.toDouble());
+    case QMetaType::QString: {
+        const QByteArray text = value.toString().toUtf8();
+        return sqlite3_bind_text(statement, place, text.constData(), int(text.size()),
+                                 SQLITE_TRANSIENT);
+    }
+    default:
+        Q_ASSERT(value.canConvert<qlonglong>());
+        return sqlite3_bind_int64(statement, place, value.toLongLong());
+    }
+}
+
+} // namespace
+
+/// The engine's handle and the statements that it has prepared once.
+struct Connection::Engine
+{
+    explicit Engine(const QString &filePath) : path(filePath) {}
+    Q_DISABLE_COPY_MOVE(Engine)
+
+    ~Engine()
+    {
+        finalizeAll();
+        sqlite3_close(handle);
+    }
+
+    void finalizeAll()
+    {
+        for (sqlite3_stmt *statement : std::as_const(prepared))
+            sqlite3_finalize(statement);
+        prepared.clear();
+    }
+
+    void check(int code) const
+    {
+        if (code != SQLITE_OK)
+            raiseFailure(handle ? QString::fromUtf8(sqlite3_errmsg(handle))
+                                : QString::fromUtf8(sqlite3_errstr(code)));
+    }
+
+    void openFile(int flags, const QByteArray &password)
+    {
+        check(sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr));
+        check(sqlite3_key(handle, password.constData(), int(password.size())));
+        check(sqlite3_create_collation(handle, AnyCaseCollation, SQLITE_UTF8, nullptr,
+                                       compareUtf8<compareAnyCase>));
+        check(sqlite3_create_collation(handle, ThaiCollation, SQLITE_UTF8, nullptr,
+                                       compareUtf8<compareThai>));
+        // Newer engines default to another file format; this one is read everywhere.
+        execute("PRAGMA cipher_compatibility = 3");
+        // Exclusive from the first read on, so no file for shared memory is needed beside it.
+        execute("PRAGMA locking_mode = EXCLUSIVE");
+        execute("PRAGMA synchronous = FULL");
+        execute("PRAGMA secure_delete = ON");
+    }
+
+    void execute(const char *sql) const
+    {
+        check(sqlite3_exec(handle, sql, nullptr, nullptr, nullptr));
+    }
+
+    /// Lets go of a file that is refused. Closing would move a waiting journal into the file,
+    /// which must stay untouched, so with a journal the handle is left open; the program is
+    /// about to end.
+    void abandon()
+    {
+        if (!QFile::exists(path + u"-wal"_s))
+            return;
+        finalizeAll();
+        static QList<sqlite3 *> abandoned;
+        abandoned.append(std::exchange(handle, nullptr));
+    }
+
+    sqlite3_stmt *prepare(const QString &sql)
+    {
+        sqlite3_stmt *&statement = prepared[sql];
+        if (!statement) {
+            const QByteArray text = sql.toUtf8();
+            const char *rest = nullptr;
+            check(sqlite3_prepare_v2(handle, text.constData(), int(text.size()) + 1, &statement,
+                                     &rest));
+            if (*rest != '\0') // a text spliced in must never smuggle in a second statement
+                raiseFailure(SQLITE_ERROR);
+        }
+        return statement;
+    }
+
+    QString path;
+    sqlite3 *handle = nullptr;
+    QHash<QString, sqlite3_stmt *> prepared;
+};
+
+Connection::Connection(std::unique_ptr<Engine> engine) : m_engine(std::move(engine)) {}
+
+Connection::~Connection() = default;
+
+std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArray &password)
+{
+    std::unique_ptr<Connection> ledger(new Connection(std::make_unique<Engine>(path)));
+    Engine &engine = *ledger->m_engine;
+    try {
+        engine.openFile(SQLITE_OPEN_READWRITE, password);
+        // The engine takes an empty file with any password, and a file that it may only read;
+        // both would fail later, in the middle of a ticket.
+        if (sqlite3_db_readonly(engine.handle, "main") != 0)
+            raiseFailure(SQLITE_READONLY);
+        if (!isLedger(*ledger))
+            raiseFailure(SQLITE_NOTADB);
+    } catch (const RunTimeError &) {
+        engine.abandon();
+        throw;
+    }
+    return ledger;
+}
+
+std::unique_ptr<Connection> Connection::create(const QString &path, const QByteArray &password)
+{
+    if (QFile::exists(path))
+        raiseFailure(u"file exists: "_s + path);
+    std::unique_ptr<Connection> fresh(new Connection(std::make_unique<Engine>(path)));
+    fresh->m_engine->openFile(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, password);
+    return fresh;
+}
+
+ResultRows Connection::run(const QString &sql, const QVariantList &values)
+{
+    sqlite3_stmt *statement = m_engine->prepare(sql);
+    const auto reset = qScopeGuard([statement] { sqlite3_reset(statement); });
+    for (int place = 0; place < values.size(); ++place)
+        m_engine->check(bindValue(statement, place + 1, values[place]));
+
+    ResultRows result;
+    const int columns = sqlite3_column_count(statement);
+    for (int column = 0; column < columns; ++column)
+        result.columns += QString::fromUtf8(sqlite3_column_name(statement, column));
+    int code = sqlite3_step(statement);
+    for (; code == SQLITE_ROW; code = sqlite3_step(statement)) {
+        QVariantList row;
+        row.reserve(columns);
+        for (int column = 0; column < columns; ++column)
+            row += columnValue(statement, column);
+        result.rows += row;
+    }
+    if (code != SQLITE_DONE)
+        m_engine->check(code);
+    return result;
+}

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Program of the build: makes the empty Ledger that ships beside the program. It links only
+// desk_core, the proof that the logic stands without windows.
+#include "ledger/schema.h"
+#include "runtime/runtimeerror.h"
+
+#include <QCoreApplication>
+
+#include <cstdio>
+
+int main(int argc, char **argv)
+{
+    const QCoreApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("usage: make-empty-ledger FILE\n", stderr);
+        return 2;
+    }
+    try {
+        makeEmptyLedger(QCoreApplication::arguments().at(1));
+    } catch (const RunTimeError &error) {
+        std::fprintf(stderr, "make-empty-ledger: %s\n", qUtf8Printable(error.description()));
+        return 1;
+    }
+    return 0;
+}

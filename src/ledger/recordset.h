@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+// Working slots for statements: a recordset holds the rows that a statement read, or the row
+// that is being added to a table.
+#pragma once
+
+#include "ledger/connection.h"
+
+/// One slot. Opening it anew drops what it held. All operations work on LedgerConnection and
+/// raise RunTimeError DatabaseFailure when the engine fails.
+class Recordset
+{
+public:
+    /// Runs a reading statement; the first of its rows becomes the current one.
+    void open(const QString &sql, const QVariantList &values = {});
+
+    /// Readies the slot for adding rows to @p table, none of which are read.
+    void openTable(const QString &table);
+
+    /// Number of rows read.
+    int recordCount() const { return int(m_read.rows.size()); }
+
+    /// True once no current row is left.
+    bool eof() const { return m_current >= recordCount(); }
+
+    void moveNext() { ++m_current; }
+
+    /// Value of a column in the current row; column names go without regard to case.
+    QVariant field(const QString &column) const;
+
+    /// Starts a row of the table readied with openTable().
+    void addNew();
+
+    /// Sets one column of the row begun.
+    void set(const QString &column, const QVariant &value);
+
+    /// Writes the row. It is durable when this returns.
+    void update();
+
+    /// Lets go of everything.
+    void close() { *this = {}; }
+
+private:
+    ResultRows m_read;
+    int m_current = 0;
+    QString m_table;
+    QStringList m_columns;
+    QVariantList m_values;
+};

@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+// Dates and times as people of the machine's region read them. Under a Thai region the year is
+// the Buddhist era (2569 for 2026), as on a Thai desktop.
+#pragma once
+
+#include <QDate>
+#include <QLocale>
+#include <QString>
+#include <QTime>
+
+/// Day, month and full year in the region's short order, such as "22/11/2569".
+QString shortDate(QDate day, const QLocale &region = QLocale::system());
+
+/// The region's long date, with the name of the month.
+QString longDate(QDate day, const QLocale &region = QLocale::system());
+
+/// Hours and minutes as the region writes them.
+QString shortTime(QTime time, const QLocale &region = QLocale::system());

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+// What the agent pays per baht staked, and who of the pages is open: the globals of the main
+// window.
+#pragma once
+
+#include <QtGlobal>
+
+/// Payout per 1 baht staked, by class of bet. Read by LoadMoney() and kept as they stood then.
+extern qint16 Rate3up;
+extern qint16 Rate3tod;
+extern qint16 Rate2up;
+extern qint16 Rate2tod;
+extern qint16 Raterunup;
+extern qint16 Rate3down;
+extern qint16 Rate2down;
+extern qint16 Raterundown;
+
+/// Whence a cut is made: 0 any page but the board, 1 the board, 2 a top scan, 3 a bottom scan.
+/// Set by the navigation and by the scan.
+extern quint8 CutOrigin;
+
+/// Reads the eight rates from tblMoney. Without its one row they stay as they were. Raises
+/// "Overflow" for a rate above 32,767. Uses RecordsetA.
+void LoadMoney();
