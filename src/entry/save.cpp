@@ -56,19 +56,18 @@ QString todSpelling(const QString &number)
 {
     const QString keyed = trimBlanks(number);
     Q_ASSERT(keyed.size() == 3 || keyed.size() == 2);
-    const QVariantList others = keyed.size() == 3 ? rearranged(keyed, ThreeDigitOrders)
-                                                  : rearranged(keyed, TwoDigitOrders);
+    const QVariantList others =
+        keyed.size() == 3 ? rearranged(keyed, ThreeDigitOrders) : rearranged(keyed, TwoDigitOrders);
     const QStringList marks(others.size(), u"?"_s);
     // The first row in text order is all that is wanted, so the engine stops at it.
     RecordsetA.open(u"SELECT tblNumber.numValue"
                     " FROM tblNumber INNER JOIN tblMember ON tblNumber.nameFK = tblMember.MPK"
                     " WHERE [num23] = %1 AND [updown] = -1 AND [numType] = 2"
                     " AND [numValue] IN (%2) ORDER BY numValue LIMIT 1"_s.arg(
-                            QString::number(keyed.size()), marks.join(u", "_s)),
+                        QString::number(keyed.size()), marks.join(u", "_s)),
                     others);
-    const QString spelling = RecordsetA.recordCount() < 1
-            ? keyed
-            : RecordsetA.field(u"numValue"_s).toString();
+    const QString spelling =
+        RecordsetA.recordCount() < 1 ? keyed : RecordsetA.field(u"numValue"_s).toString();
     RecordsetA.close();
     return spelling;
 }

@@ -28,9 +28,9 @@ struct Ticket
     /// the newest in row 1; column 2 is its amount in the format "#,##".
     std::array<SpreadModel, ClassCount> grids;
 
-    QString KeyedNumber;    ///< left of the first dash of the keyed line
-    QString KeyedAmount;    ///< right of it
-    QString KeyedTryAmount; ///< for the kinds with two amounts, right of the second dash
+    QString KeyedNumber;     ///< left of the first dash of the keyed line
+    QString KeyedAmount;     ///< right of it
+    QString KeyedTryAmount;  ///< for the kinds with two amounts, right of the second dash
     bool ShowTopTab = false; ///< set by a builder once a line passed: true shows the top tab
     std::array<qint32, 6> FoundRow{}; ///< rows that a builder's searches gave, or -1
 

@@ -11,9 +11,9 @@
 /// BetClasses everywhere.
 struct BetClass
 {
-    int num23;    ///< digits of the number
-    bool updown;  ///< true = top (บน), false = bottom (ล่าง)
-    int numType;  ///< 1 straight (ตรง), 2 tod (โต๊ด), 3 run (วิ่ง)
+    int num23;   ///< digits of the number
+    bool updown; ///< true = top (บน), false = bottom (ล่าง)
+    int numType; ///< 1 straight (ตรง), 2 tod (โต๊ด), 3 run (วิ่ง)
     const char16_t *caption;
 
     QString captionText() const { return QString::fromUtf16(caption); }
@@ -26,7 +26,7 @@ inline constexpr int Run = 3;
 inline constexpr std::array BetClasses{
     BetClass{3, true, Straight, u"3 ตัวตรง"},  BetClass{3, true, Tod, u"3 ตัวโต๊ด"},
     BetClass{2, true, Straight, u"2 ตัวตรง"},  BetClass{2, true, Tod, u"2 ตัวโต๊ด"},
-    BetClass{1, true, Run, u"วิ่งบน"},         BetClass{3, false, Straight, u"3 ตัวล่าง"},
+    BetClass{1, true, Run, u"วิ่งบน"},          BetClass{3, false, Straight, u"3 ตัวล่าง"},
     BetClass{2, false, Straight, u"2 ตัวล่าง"}, BetClass{1, false, Run, u"วิ่งล่าง"},
 };
 inline constexpr int ClassCount = int(BetClasses.size());

@@ -47,8 +47,8 @@ QVariant columnValue(sqlite3_stmt *statement, int column)
         return {};
     default:
         return QString::fromUtf8(
-                reinterpret_cast<const char *>(sqlite3_column_text(statement, column)),
-                sqlite3_column_bytes(statement, column));
+            reinterpret_cast<const char *>(sqlite3_column_text(statement, column)),
+            sqlite3_column_bytes(statement, column));
     }
 }
 

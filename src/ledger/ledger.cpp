@@ -54,7 +54,7 @@ qint16 LookupKey(const QString &comboText, const QString &table, const QString &
     if (comboText == u"-"_s || comboText.isEmpty())
         return 0;
     RecordsetB.open(u"SELECT * FROM %1 WHERE [%2] = ? COLLATE AnyCase ORDER BY %3"_s.arg(
-                            table, textColumn, key),
+                        table, textColumn, key),
                     {trimBlanks(comboText)});
     qint16 found = 0;
     if (RecordsetB.recordCount() > 0) {

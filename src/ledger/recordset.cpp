@@ -21,9 +21,10 @@ void Recordset::openTable(const QString &table)
 
 QVariant Recordset::field(const QString &column) const
 {
-    const auto found = std::find_if(
-            m_read.columns.begin(), m_read.columns.end(),
-            [&](const QString &name) { return name.compare(column, Qt::CaseInsensitive) == 0; });
+    const auto found =
+        std::find_if(m_read.columns.begin(), m_read.columns.end(), [&](const QString &name) {
+            return name.compare(column, Qt::CaseInsensitive) == 0;
+        });
     Q_ASSERT_X(found != m_read.columns.end(), "Recordset::field", "no such column");
     return m_read.rows.at(m_current).at(found - m_read.columns.begin());
 }
@@ -43,7 +44,7 @@ void Recordset::set(const QString &column, const QVariant &value)
 void Recordset::update()
 {
     const QStringList marks(m_columns.size(), u"?"_s);
-    LedgerConnection->run(u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(
-                                  m_table, m_columns.join(u", "_s), marks.join(u", "_s)),
+    LedgerConnection->run(u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(m_table, m_columns.join(u", "_s),
+                                                                   marks.join(u", "_s)),
                           m_values);
 }

@@ -18,16 +18,16 @@ struct Table
 // A bet line: whole baht in numBuy; updown -1 is top, 0 bottom. Numbers are texts, since "012"
 // is not "12".
 constexpr const char *BetLineColumns =
-        "NPK INTEGER PRIMARY KEY, NameFK INTEGER, num23 INTEGER, updown INTEGER, "
-        "numType INTEGER, numValue TEXT, numBuy INTEGER, nuser TEXT";
+    "NPK INTEGER PRIMARY KEY, NameFK INTEGER, num23 INTEGER, updown INTEGER, "
+    "numType INTEGER, numValue TEXT, numBuy INTEGER, nuser TEXT";
 
 // moneyup is the agent's profit and moneydown the payout, whatever their names say. numdate is
 // a day as "2026-11-22", which sorts by the calendar.
 constexpr const char *ResultColumns =
-        "PK INTEGER PRIMARY KEY, num3up TEXT DEFAULT '', num3down1 TEXT DEFAULT '', "
-        "num3down2 TEXT DEFAULT '', num3down3 TEXT DEFAULT '', num3down4 TEXT DEFAULT '', "
-        "num2down TEXT DEFAULT '', numdate TEXT DEFAULT '', moneyup NUMERIC DEFAULT 0, "
-        "moneydown NUMERIC DEFAULT 0";
+    "PK INTEGER PRIMARY KEY, num3up TEXT DEFAULT '', num3down1 TEXT DEFAULT '', "
+    "num3down2 TEXT DEFAULT '', num3down3 TEXT DEFAULT '', num3down4 TEXT DEFAULT '', "
+    "num2down TEXT DEFAULT '', numdate TEXT DEFAULT '', moneyup NUMERIC DEFAULT 0, "
+    "moneydown NUMERIC DEFAULT 0";
 
 constexpr std::array Tables{
     // No customer ever has an empty discount: those named only by a ticket get "0" too.
@@ -60,8 +60,8 @@ bool isLedger(Connection &file)
         return false;
     for (const Table &table : Tables) {
         const ResultRows found =
-                file.run(u"SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?"_s,
-                         {QString::fromLatin1(table.name)});
+            file.run(u"SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?"_s,
+                     {QString::fromLatin1(table.name)});
         if (found.rows.isEmpty())
             return false;
     }
@@ -74,8 +74,8 @@ void makeEmptyLedger(const QString &path)
     file->run(u"PRAGMA journal_mode = WAL"_s);
     file->run(u"PRAGMA application_id = %1"_s.arg(LedgerApplicationId));
     for (const Table &table : Tables)
-        file->run(u"CREATE TABLE %1 (%2)"_s.arg(QLatin1String(table.name),
-                                                QLatin1String(table.columns)));
+        file->run(
+            u"CREATE TABLE %1 (%2)"_s.arg(QLatin1String(table.name), QLatin1String(table.columns)));
     for (const char *index : Indexes) {
         for (const QString &table : {u"tblNumber"_s, u"tblNumberCut"_s})
             file->run(QString::fromLatin1(index).arg(table));

@@ -15,8 +15,8 @@ namespace {
 /// The X server's connection, or nothing under another windowing system.
 Display *xDisplay()
 {
-    const auto *x11 = qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>()
-                              : nullptr;
+    const auto *x11 =
+        qGuiApp ? qGuiApp->nativeInterface<QNativeInterface::QX11Application>() : nullptr;
     return x11 ? x11->display() : nullptr;
 }
 
@@ -33,9 +33,9 @@ QByteArrayList keymapLayouts(Display *display)
     unsigned char *text = nullptr;
     const Atom names = XInternAtom(display, "_XKB_RULES_NAMES", True);
     if (names == None
-        || XGetWindowProperty(display, DefaultRootWindow(display), names, 0, 1024, False,
-                              XA_STRING, &type, &format, &length, &left, &text)
-                != Success
+        || XGetWindowProperty(display, DefaultRootWindow(display), names, 0, 1024, False, XA_STRING,
+                              &type, &format, &length, &left, &text)
+               != Success
         || !text)
         return {};
     const QByteArray all(reinterpret_cast<const char *>(text), qsizetype(length));
@@ -55,7 +55,7 @@ bool lockIndicator(unsigned int bit)
     unsigned int indicators = 0;
     Display *display = xDisplay();
     return display && XkbGetIndicatorState(display, XkbUseCoreKbd, &indicators) == Success
-            && (indicators & bit) != 0;
+           && (indicators & bit) != 0;
 }
 
 } // namespace

@@ -34,5 +34,7 @@ QString longDate(QDate day, const QLocale &region)
 
 QString shortTime(QTime time, const QLocale &region)
 {
-    return region.toString(time, QLocale::ShortFormat);
+    QString format = region.timeFormat(QLocale::ShortFormat);
+    static const QRegularExpression seconds(u"[.:]s+"_s); // some regions' short format has them
+    return region.toString(time, format.remove(seconds));
 }

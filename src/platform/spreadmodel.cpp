@@ -111,9 +111,8 @@ void SpreadModel::setHeader(int row, int column, const HeaderCell &cell)
 
 int SpreadModel::searchColumn(int column, const QString &text) const
 {
-    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&](const Row &row) {
-        return row[column].text == text;
-    });
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
+                                    [&](const Row &row) { return row[column].text == text; });
     return found == m_rows.end() ? -1 : int(found - m_rows.begin()) + 1;
 }
 

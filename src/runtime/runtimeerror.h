@@ -14,8 +14,8 @@ class RunTimeError : public std::exception
 public:
     /// The numbers that the runtime raises. A person who asks for support reads one out.
     enum Number : int {
-        Overflow = 6,                ///< a value outside the type it is stored in
-        TypeMismatch = 13,           ///< a text that is no number
+        Overflow = 6,                 ///< a value outside the type it is stored in
+        TypeMismatch = 13,            ///< a text that is no number
         DatabaseFailure = -2147467259 ///< any failure of the Ledger's engine (0x80004005)
     };
 

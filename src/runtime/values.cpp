@@ -66,7 +66,7 @@ Whole roundedTo(double value)
     if (rest > 0.5 || (rest == 0.5 && std::fmod(rounded, 2.0) != 0.0))
         rounded += 1.0;
     const bool fits = rounded >= double(std::numeric_limits<Whole>::min())
-            && rounded <= double(std::numeric_limits<Whole>::max());
+                      && rounded <= double(std::numeric_limits<Whole>::max());
     if (!fits)
         raiseOverflow();
     return static_cast<Whole>(rounded);

@@ -27,10 +27,10 @@ struct RateColumn
 };
 
 constexpr std::array RateColumns{
-    RateColumn{"3up", &Rate3up},       RateColumn{"3tod", &Rate3tod},
-    RateColumn{"2up", &Rate2up},       RateColumn{"2tod", &Rate2tod},
-    RateColumn{"runup", &Raterunup},   RateColumn{"3down", &Rate3down},
-    RateColumn{"2down", &Rate2down},   RateColumn{"rundown", &Raterundown},
+    RateColumn{"3up", &Rate3up},     RateColumn{"3tod", &Rate3tod},
+    RateColumn{"2up", &Rate2up},     RateColumn{"2tod", &Rate2tod},
+    RateColumn{"runup", &Raterunup}, RateColumn{"3down", &Rate3down},
+    RateColumn{"2down", &Rate2down}, RateColumn{"rundown", &Raterundown},
 };
 
 } // namespace

@@ -1,0 +1,105 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+#
+# What the other scripts share: the packages the project needs, and how to
+# install and build. Source it from a bash script that stands at the root of the
+# tree, or run it by itself ("bash packaging/prepare.sh") to install everything
+# a contributor needs.
+
+# One package a line: the group it belongs to, its name, and what it is for.
+#   build   to configure and compile the program
+#   screen  to show windows where there is no display
+#   test    to run the tests and the format check
+#   lint    to run the static checks by hand
+packages='
+build   build-essential   the C++ compiler, the linker and the system headers
+build   cmake             configures the build and runs the tests
+build   ninja-build       carries out the build
+build   pkg-config        tells the build where the libraries below are
+build   qt6-base-dev      windows, widgets and the X11 platform plugin
+build   libgl-dev         OpenGL headers, without which Qt is not found by CMake
+build   libsqlcipher-dev  the encrypted database that holds the book
+build   libx11-dev        the keyboard state of the X server
+build   libsdl2-mixer-dev plays sounds
+build   libbenchmark-dev  measures the benchmarks
+build   fonts-noto-core   draws Thai and Latin text
+screen  xvfb              a virtual screen
+screen  xauth             admits programs to the virtual screen
+test    sqlcipher         reads the book independently of the program
+test    clang-format      checks the layout of the source
+lint    clang-tidy        checks the source for common mistakes
+'
+
+# Says why the script cannot go on, and ends it.
+die()
+{
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+# install_missing GROUP...: installs the packages of the groups that are not yet
+# there. Asks the package system once, and touches nothing if all are present.
+install_missing()
+{
+    local group name why installed
+    local -a wanted=() missing=() as_root=()
+    local -A purpose=()
+
+    while read -r group name why; do
+        if [[ -n $group && " $* " == *" $group "* ]]; then
+            wanted+=("$name")
+            purpose[$name]=$why
+        fi
+    done <<<"$packages"
+
+    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
+        die "this is not a Debian system (no apt-get); needed are: ${wanted[*]}"
+    fi
+
+    # dpkg-query reports failure as soon as one package is unknown to it; the
+    # lines it prints for the others are what counts.
+    installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null) || true
+    for name in "${wanted[@]}"; do
+        if [[ $'\n'$installed$'\n' != *$'\n'"installed $name"$'\n'* ]]; then
+            missing+=("$name")
+        fi
+    done
+    ((${#missing[@]})) || return 0
+
+    echo "Packages to install:"
+    for name in "${missing[@]}"; do
+        printf '  %-18s %s\n' "$name" "${purpose[$name]}"
+    done
+
+    if ((EUID != 0)); then
+        command -v sudo >/dev/null ||
+            die "installing packages needs root, and there is no sudo; run as root: apt-get install ${missing[*]}"
+        as_root=(sudo)
+    fi
+    as_root+=(env DEBIAN_FRONTEND=noninteractive)
+
+    "${as_root[@]}" apt-get update -q ||
+        die "apt-get could not refresh its package lists"
+    "${as_root[@]}" apt-get install -q -y --no-install-recommends "${missing[@]}" ||
+        die "apt-get could not install: ${missing[*]}"
+}
+
+# build PRESET [TARGET...]: configures and builds the targets, or everything if
+# none is named. Once configured, Ninja itself notices changed CMakeLists.txt
+# files; only a change of the presets has to be looked for here.
+build()
+{
+    local preset=$1
+    shift
+    if [[ ! build/$preset/build.ninja -nt CMakePresets.json ]]; then
+        cmake --preset "$preset" || die "the $preset build could not be configured"
+    fi
+    cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"} ||
+        die "the $preset build failed"
+}
+
+if [[ ${BASH_SOURCE[0]} == "$0" ]]; then
+    set -euo pipefail
+    install_missing build screen test lint
+    echo "All packages are installed."
+fi

@@ -1,0 +1,292 @@
+// SPDX-License-Identifier: MIT
+#include "entry/form1.h"
+
+#include "ui_form1.h"
+
+#include "entry/builders.h"
+#include "entry/keyedline.h"
+#include "entry/save.h"
+#include "fields/fieldguard.h"
+#include "fields/filters.h"
+#include "ledger/ledger.h"
+#include "platform/msgbox.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/values.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int BottomTab = 0;
+constexpr int TopTab = 1;
+constexpr qsizetype LongestName = 50;
+
+constexpr QRgb KeyingColor = 0xDBE2E0;
+constexpr QRgb AwayColor = 0xFFC0C0;
+
+QString noCustomer()
+{
+    return u"ยังไม่เลือกลูกค้า"_s;
+}
+
+/// A fixed background comes with a dark text, whatever the desktop's colours are.
+void paintField(QWidget *field, QRgb background)
+{
+    QPalette colors = field->palette();
+    colors.setColor(QPalette::Base, QColor(background));
+    colors.setColor(QPalette::Text, Qt::black);
+    field->setPalette(colors);
+}
+
+} // namespace
+
+Form1::Form1(ProgressBar &progress, QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::Form1>()), m_progress(progress), m_focus(this)
+{
+    m_ui->setupUi(this);
+    m_spreads = {m_ui->fpSpread1, m_ui->fpSpread2, m_ui->fpSpread3, m_ui->fpSpread4,
+                 m_ui->fpSpread5, m_ui->fpSpread6, m_ui->fpSpread7, m_ui->fpSpread8};
+    for (int at = 0; at < ClassCount; ++at) {
+        m_spreads[at]->setSpreadModel(&m_ticket.grids[at]);
+        m_spreads[at]->setAccessibleName(BetClasses[at].captionText());
+    }
+    m_ui->SSTab1->addTab(QString());
+    m_ui->SSTab1->addTab(QString());
+    for (const KindEntry &kind : KindEntries)
+        m_ui->Combo2->addItem(QString::fromUtf16(kind.entry));
+    paintField(m_ui->Combo1, KeyingColor);
+    setFocusProxy(m_ui->Tnumber);
+    connectControls();
+    Form_Load();
+}
+
+Form1::~Form1() = default;
+
+void Form1::connectControls()
+{
+    const auto *guard = new FieldGuard(this, &m_focus);
+    connect(guard, &FieldGuard::entered, this, &Form1::Tnumber_KeyPress);
+    connect(&m_focus, &FocusTracker::gotFocus, this, &Form1::controlGotFocus);
+    connect(&m_focus, &FocusTracker::lostFocus, this, &Form1::controlLostFocus);
+    connect(m_ui->Combo1, &Combo::clicked, this, &Form1::Combo1_Click);
+    m_ui->Combo1->keyPress = [this](int code) { return Combo1_KeyPress(code); };
+    connect(m_ui->Combo2, &Combo::clicked, this, &Form1::Combo2_Click);
+    connect(m_ui->SSTab1, &TabStrip::clicked, this, &Form1::SSTab1_Click);
+    connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Form1::lvButtons_H0_Click);
+    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form1::lvButtons_H1_Click);
+    connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Form1::lvButtons_H2_Click);
+}
+
+void Form1::Form_Load()
+{
+    GridTouched = 0;
+    m_ui->Combo2->setListIndex(0);
+    m_ui->Combo1->setList(FillCombo(u"tblMember"_s, u"MPK"_s, u"Mname"_s));
+    m_ticket.SetupSpread();
+    showZeroTabs();
+}
+
+void Form1::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_ui->Tnumber->setFocus(); // so that keying can begin at once
+}
+
+void Form1::controlGotFocus(QWidget *control)
+{
+    if (control == m_ui->Tnumber)
+        Tnumber_GotFocus();
+    for (quint8 at = 0; at < ClassCount; ++at) {
+        if (control == m_spreads[at])
+            GridTouched = at + 1;
+    }
+}
+
+void Form1::controlLostFocus(QWidget *control)
+{
+    if (control == m_ui->Tnumber)
+        Tnumber_LostFocus();
+}
+
+void Form1::Tnumber_GotFocus()
+{
+    TnumberAway = false;
+    paintField(m_ui->Tnumber, KeyingColor);
+    m_ui->Tnumber->clear();
+}
+
+void Form1::Tnumber_LostFocus()
+{
+    TnumberAway = true;
+    paintField(m_ui->Tnumber, AwayColor);
+    m_ui->Tnumber->setText(u"คลิกเพื่อใส่เลขใหม่"_s);
+}
+
+/// Enter in the entry field: the line becomes rows of the ticket.
+void Form1::Tnumber_KeyPress()
+{
+    const BetKind kind = kindOfCaption(m_ui->Label3->text());
+    switch (splitLine(m_ticket, m_ui->Tnumber->text(), kind)) {
+    case LineForm::Refused:
+        return;
+    case LineForm::NoKindChosen:
+        m_ui->Combo2->setFocus();
+        return;
+    case LineForm::Good:
+        break;
+    }
+    resumeNext([&] { runBuilder(m_ticket, kind); });
+    resumeNext([this] { Nubyod(); });
+    m_ui->Tnumber->clear();
+    if (m_ui->Tname->text() == noCustomer())
+        m_ui->Combo1->setListIndex(-1);
+    else
+        resumeNext([this] { showDiscount(); });
+    m_ui->SSTab1->setTab(m_ticket.ShowTopTab ? TopTab : BottomTab);
+}
+
+void Form1::Combo2_Click()
+{
+    const KindEntry &entry = KindEntries[size_t(m_ui->Combo2->listIndex())];
+    m_ui->Label3->setText(QString::fromUtf16(entry.caption));
+    if (entry.kind != BetKind::NoKind)
+        m_ui->Tnumber->setFocus();
+}
+
+int Form1::Combo1_KeyPress(int code)
+{
+    if (code == EnterCode) {
+        m_ui->Tnumber->setFocus();
+        return 0;
+    }
+    const int passed = MaxLengthFilter(m_ui->Combo1->currentText().size(), LongestName, code);
+    return ComboAutoComplete(*m_ui->Combo1, passed);
+}
+
+/// Takes the customer for the ticket. Numbers come first: without a line he is not taken.
+void Form1::Combo1_Click()
+{
+    if (m_ticket.isEmpty())
+        return;
+    const bool read = resumeNext([this] {
+        RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE [Mname] Like ?"_s,
+                        {trimBlanks(m_ui->Combo1->currentText())});
+    });
+    if (!read)
+        return;
+    const bool known = RecordsetA.recordCount() > 0;
+    if (known) {
+        m_ui->Tname->setText(RecordsetA.field(u"Mname"_s).toString());
+        m_ui->text2->setText(RecordsetA.field(u"MPercen"_s).toString());
+    }
+    RecordsetA.close();
+    if (known)
+        resumeNext([this] { showDiscount(); });
+}
+
+/// " &บันทึก": files the ticket in the Ledger.
+void Form1::lvButtons_H0_Click()
+{
+    if (!confirmSave())
+        return;
+    saveLines(m_ticket, m_ui->Combo1->currentText(), m_progress);
+    m_ticket.SetupSpread();
+    saveDiscount(m_ui->text3->text());
+    m_progress.finish();
+    resetAfterSave();
+}
+
+bool Form1::confirmSave()
+{
+    if (m_ui->Combo1->listIndex() == -1) {
+        refuse(u"ไม่สามารถบันทึกได้ ( ชื่อลูกค้าไม่ถูกต้อง หรือ ไม่มีในระบบ )  โปรดลองใหม่อีกครั้ง . . ."_s);
+        return false;
+    }
+    if (m_ticket.isEmpty()) {
+        refuse(
+            u"ไม่สามารถบันทึกได้ ( โปรดเพิ่มข้อมูล เลข ก่อนการบันทึก ) โปรดทำการแก้ไข และ ลองใหม่อีกครั้ง . . ."_s);
+        return false;
+    }
+    // The title speaks of deleting, as keyers know it from all questions.
+    return ask(u"คุณแน่ใจว่าต้องการเพิ่มข้อมูล ตัวเลข เหล่านี้ ลงฐานข้อมูล ? . . ."_s, u"ยืนยันการลบข้อมูล"_s,
+               BoxIcon::Exclamation, BoxAnswer::Ok);
+}
+
+void Form1::resetAfterSave()
+{
+    m_ui->Combo1->setListIndex(-1);
+    m_ui->Tname->setText(noCustomer());
+    m_ui->text1->setText(u"0"_s);
+    m_ui->text2->clear();
+    m_ui->text3->clear();
+    showZeroTabs();
+}
+
+/// " &ลบเลข": takes one line out of the ticket, the active row of the grid touched last.
+void Form1::lvButtons_H1_Click()
+{
+    if (GridTouched == 0)
+        return;
+    const int touched = GridTouched - 1;
+    const int row = m_spreads[touched]->activeRow();
+    if (row == 0)
+        return;
+    const QString number = m_ticket.grids[touched].text(row, NumberColumn);
+    if (!ask(u"คุณแน่ใจว่าต้องการลบข้อมูล ( เลข "_s + number + u" ) ในหน้านี้ ?"_s, u"ยืนยันการลบข้อมูล"_s,
+             BoxIcon::Exclamation, BoxAnswer::Cancel))
+        return;
+    m_ticket.grids[touched].removeRow(row);
+    resumeNext([this] { Nubyod(); });
+    m_ui->SSTab1->setTab(touched < TopClassCount ? TopTab : BottomTab);
+    if (m_ui->Tname->text() != noCustomer())
+        resumeNext([this] { showDiscount(); });
+    m_ui->Tnumber->setFocus();
+}
+
+/// " &ลบเลขทั้งหมด": empties the grids. The customer and the amounts shown stay.
+void Form1::lvButtons_H2_Click()
+{
+    if (m_ticket.isEmpty())
+        return;
+    if (!ask(u"คุณแน่ใจว่าต้องการลบข้อมูล ( เลขทั้งหมด ) ในหน้านี้ ?"_s, u"ยืนยันการลบข้อมูล"_s,
+             BoxIcon::Exclamation, BoxAnswer::Cancel))
+        return;
+    m_ticket.SetupSpread();
+    showTab(BottomTab, u"   ล่าง ( ยอดรวม 0  )"_s); // its own two blanks
+    showTab(TopTab, u"   บน ( ยอดรวม 0 )"_s);
+}
+
+void Form1::SSTab1_Click()
+{
+    const bool top = m_ui->SSTab1->tab() == TopTab;
+    for (int at = 0; at < ClassCount; ++at)
+        m_spreads[at]->setVisible((at < TopClassCount) == top);
+}
+
+/// Totals the grids, the tabs and the ticket. Leaves the strip on the top tab.
+void Form1::Nubyod()
+{
+    const GridTotals totals = m_ticket.totalGrids();
+    showTab(BottomTab, u"   ล่าง ( ยอดรวม "_s + formatBaht(bottomTotal(totals)) + u" )"_s);
+    showTab(TopTab, u"   บน ( ยอดรวม "_s + formatBaht(topTotal(totals)) + u" )"_s);
+    m_ui->text1->setText(formatBaht(ticketTotal(totals)));
+}
+
+void Form1::showTab(int tab, const QString &caption)
+{
+    m_ui->SSTab1->setTab(tab);
+    m_ui->SSTab1->setTabText(tab, caption);
+}
+
+void Form1::showZeroTabs()
+{
+    showTab(BottomTab, u"   ล่าง ( ยอดรวม 0 )"_s);
+    showTab(TopTab, u"   บน ( ยอดรวม 0 )"_s);
+}
+
+void Form1::showDiscount()
+{
+    const QString total = m_ui->text1->text();
+    // The last line gone leaves the total empty, which counts as nothing.
+    m_ui->text3->setText(discountMoney(total.isEmpty() ? u"0"_s : total, m_ui->text2->text()));
+}

@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+// The page "หน้าหลัก": the keyer types one customer's ticket, line by line, eyes on the paper.
+#pragma once
+
+#include "entry/ticket.h"
+#include "platform/focustracker.h"
+#include "platform/progressbar.h"
+
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class Spread;
+
+namespace Ui {
+class Form1;
+}
+
+class Form1 : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p progress covers the wait of a save; it must outlive the page.
+    Form1(ProgressBar &progress, QWidget *parent);
+    ~Form1() override;
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void connectControls();
+    void Form_Load();
+
+    void controlGotFocus(QWidget *control);
+    void controlLostFocus(QWidget *control);
+    void Tnumber_GotFocus();
+    void Tnumber_LostFocus();
+    void Tnumber_KeyPress();
+
+    void Combo1_Click();
+    int Combo1_KeyPress(int code);
+    void Combo2_Click();
+
+    void lvButtons_H0_Click();
+    void lvButtons_H1_Click();
+    void lvButtons_H2_Click();
+    void SSTab1_Click();
+
+    void Nubyod();
+    void showDiscount();
+    void showTab(int tab, const QString &caption);
+    void showZeroTabs();
+    bool confirmSave();
+    void resetAfterSave();
+
+    std::unique_ptr<Ui::Form1> m_ui;
+    ProgressBar &m_progress;
+    FocusTracker m_focus;
+    Ticket m_ticket;
+    std::array<Spread *, ClassCount> m_spreads;
+    quint8 GridTouched = 0;  ///< 1 to 8: the grid activated last; 0 at load
+    bool TnumberAway = true; ///< false while Tnumber holds the focus
+};

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "platform/application.h"
+#include "platform/programend.h"
+#include "program.h"
+
+int main(int argc, char **argv)
+{
+    Application application(argc, argv);
+    try {
+        const auto window = startProgram();
+        return window ? Application::exec() : 1;
+    } catch (const RunTimeError &error) { // the start runs before the first event is handed out
+        endWithReport(error);
+    }
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "platform/application.h"
+
+#include "platform/messagebox.h"
+#include "platform/programend.h"
+
+#include <QFont>
+#include <QStyleFactory>
+
+using namespace Qt::StringLiterals;
+
+Application::Application(int &argc, char **argv) : QApplication(argc, argv)
+{
+    setApplicationName(u"mirakla-desk"_s);
+    setApplicationDisplayName(QString::fromUtf16(ProgramTitle));
+#ifndef Q_OS_WIN
+    // Latin digits and Thai letters of one design. Windows has its own Thai type.
+    QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s});
+    type.setPointSize(11);
+    setFont(type);
+    setStyle(QStyleFactory::create(u"Fusion"_s));
+#endif
+    setBoxShower(showMessageBox);
+}
+
+bool Application::notify(QObject *receiver, QEvent *event)
+{
+    try {
+        return QApplication::notify(receiver, event);
+    } catch (const RunTimeError &error) {
+        endWithReport(error);
+    }
+}

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: MIT
+// Keys as the characters that they give: what key filters look at.
+#pragma once
+
+class QKeyEvent;
+
+/// Code of the character that a key press gives: 8 for Backspace, 13 for both Enters, 27 for
+/// Esc, 1 to 26 for Ctrl with a letter, else the character's own. 0 for keys that give none:
+/// Delete, Tab, arrows, function keys, Alt with a letter.
+int characterCode(const QKeyEvent &key);

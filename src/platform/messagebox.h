@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: MIT
+// Message boxes as real, modal windows.
+#pragma once
+
+#include "platform/msgbox.h"
+
+/// Shows @p box over the active window and waits until it is answered. Esc and closing the
+/// window count as Cancel in a question.
+BoxAnswer showMessageBox(const Box &box);

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+// Puts the program together. With main.cpp the only place that knows all rooms.
+#include "program.h"
+
+#include "entry/form1.h"
+
+Pages programPages()
+{
+    Pages pages;
+    pages.makers[0] = [](const Frame &frame, QWidget *parent) {
+        return new Form1(frame.progress, parent);
+    };
+    return pages;
+}
+
+std::unique_ptr<MDIForm1> startProgram()
+{
+    auto window = std::make_unique<MDIForm1>(programPages());
+    if (!window->MDIForm_Load())
+        return nullptr;
+    window->openPage(0);
+    window->show();
+    window->activateWindow(); // the first key has to land in the entry field
+    return window;
+}

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "shell/mdiform1.h"
+
+#include "ui_mdiform1.h"
+
+#include "ledger/ledger.h"
+#include "platform/msgbox.h"
+#include "platform/programfolder.h"
+#include "platform/singleinstance.h"
+#include "runtime/runtimeerror.h"
+#include "shell/globals.h"
+#include "shell/skin.h"
+#include "shell/statuspanels.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QScreen>
+#include <QStyle>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What pressing a navigation button sets, in the order of the buttons.
+struct Navigation
+{
+    quint8 cutOrigin;
+    const char16_t *statusText;
+};
+
+constexpr std::array<Navigation, PageCount> NavigationTable{{
+    {0, u"หน้าหลัก"},
+    {0, u"ข้อมูลลูกค้า"},
+    {1, u"คัดหวย"},
+    {0, u"ตรวจหวย"},
+    {0, u"ข้อมูลย้อนหลัง"},
+}};
+
+/// Enables a navigation button, and lets the look mark the one whose page is open.
+void showButton(QPushButton &button, bool enabled, bool current)
+{
+    button.setEnabled(enabled);
+    button.setProperty("current", current);
+    button.style()->unpolish(&button);
+    button.style()->polish(&button);
+}
+
+/// Files that a crashed print or export may have left in the program's folder.
+void deleteTemporaryFiles()
+{
+    QDir folder(programFolder());
+    const QStringList files = folder.entryList({u"*.tmp"_s}, QDir::Files);
+    for (const QString &file : files)
+        folder.remove(file);
+}
+
+} // namespace
+
+MDIForm1::MDIForm1(Pages pages) : m_ui(std::make_unique<Ui::MDIForm1>()), m_pages(std::move(pages))
+{
+    m_ui->setupUi(this);
+    setWindowTitle(u"Mirakla Desk - 2.3"_s);
+    m_pageButtons = {m_ui->lvButtons_H0, m_ui->lvButtons_H1, m_ui->lvButtons_H2, m_ui->lvButtons_H3,
+                     m_ui->lvButtons_H4};
+    connectNavigation();
+    m_ui->Frame6->hide(); // shown while the board is filtered to one customer
+}
+
+MDIForm1::~MDIForm1() = default;
+
+bool MDIForm1::MDIForm_Load()
+{
+    if (!becomeOnlyInstance()) {
+        m_ended = true;
+        MsgBox(u"โปรแกรมถูกเปิดใช้อยู่แล้ว !!  ไม่สามารถเปิด ซ้อนกันเกิน 1 โปรแกรมในเครื่องเดียว.."_s,
+               {BoxButtons::Ok, BoxIcon::Critical});
+        return false;
+    }
+    CurrentUser = u"sv"_s;
+    ConnectLedger();
+    LoadMoney();
+    loadSkin(programFile(u"data/Styles/mirakla.qss"_s));
+    const QRect desktop = screen()->availableGeometry();
+    move(desktop.x() + (desktop.width() - width()) / 2,
+         desktop.y() + (desktop.height() - height()) / 2);
+    return true;
+}
+
+void MDIForm1::connectNavigation()
+{
+    for (int page = 0; page < PageCount; ++page) {
+        m_pageButtons[page]->setEnabled(bool(m_pages.makers[page]));
+        connect(m_pageButtons[page], &QPushButton::clicked, this, [this, page] { openPage(page); });
+    }
+    m_ui->lvButtons_H5->setEnabled(bool(m_pages.showSettings));
+    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this,
+            [this] { m_pages.showSettings(this); });
+}
+
+void MDIForm1::openPage(int page)
+{
+    CutOrigin = NavigationTable[page].cutOrigin;
+    for (int other = 0; other < PageCount; ++other)
+        showButton(*m_pageButtons[other], m_pages.makers[other] && other != page, other == page);
+    delete m_page; // an unsaved ticket goes with its page
+    m_page = m_pages.makers[page]({*m_ui->pb1}, m_ui->pageArea);
+    m_ui->pageArea->layout()->addWidget(m_page);
+    m_page->show();
+    if (!m_page->isAncestorOf(QApplication::focusWidget()))
+        m_page->setFocus(); // the pressed button is disabled and can keep no focus
+    m_ui->StatusBar->setPageName(QString::fromUtf16(NavigationTable[page].statusText));
+}
+
+void MDIForm1::closeEvent(QCloseEvent *event)
+{
+    event->setAccepted(MDIForm_QueryUnload());
+}
+
+bool MDIForm1::MDIForm_QueryUnload()
+{
+    if (m_ended)
+        return true;
+    if (!ask(u"คุณแน่ใจว่าต้องการจบการทำงานของโปรแกรม ?"_s, u"ยืนยันการจบรายการ"_s, BoxIcon::Question,
+             BoxAnswer::Cancel))
+        return false;
+    m_ended = true;
+    resumeNext([this] { UnloadAllForms(); });
+    resumeNext(deleteTemporaryFiles);
+    resumeNext(CloseLedger);
+    QApplication::quit();
+    return true;
+}
+
+void MDIForm1::UnloadAllForms()
+{
+    delete m_page;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window != this && window->isVisible())
+            window->close();
+    }
+}
