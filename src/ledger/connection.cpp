@@ -102,6 +102,7 @@ struct Connection::Engine
 
     void openFile(int flags, const QByteArray &password)
     {
+        journalWaited = QFile::exists(path + u"-wal"_s);
         check(sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr));
         check(sqlite3_key(handle, password.constData(), int(password.size())));
         check(sqlite3_create_collation(handle, AnyCaseCollation, SQLITE_UTF8, nullptr,
@@ -126,7 +127,7 @@ struct Connection::Engine
     /// about to end.
     void abandon()
     {
-        if (!QFile::exists(path + u"-wal"_s))
+        if (!journalWaited)
             return;
         finalizeAll();
         static QList<sqlite3 *> abandoned;
@@ -141,13 +142,16 @@ struct Connection::Engine
             const char *rest = nullptr;
             check(sqlite3_prepare_v2(handle, text.constData(), int(text.size()) + 1, &statement,
                                      &rest));
-            if (*rest != '\0') // a text spliced in must never smuggle in a second statement
+            if (*rest != '\0') { // a text spliced in must never smuggle in a second statement
+                sqlite3_finalize(prepared.take(sql));
                 raiseFailure(SQLITE_ERROR);
+            }
         }
         return statement;
     }
 
     QString path;
+    bool journalWaited = false; ///< the last owner was killed and left a journal
     sqlite3 *handle = nullptr;
     QHash<QString, sqlite3_stmt *> prepared;
 };

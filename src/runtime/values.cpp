@@ -99,8 +99,9 @@ double CDbl(QStringView text)
     const QByteArray plain = plainNumber(trimBlanks(text));
     if (plain.isEmpty())
         raiseTypeMismatch();
-    const double value = plain.toDouble();
-    if (!std::isfinite(value))
+    bool fits = false;
+    const double value = plain.toDouble(&fits);
+    if (!fits) // the form is good, so only the size can be wrong
         raiseOverflow();
     return value;
 }

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "support/outcome.h"
+
+#include "platform/programend.h"
+#include "runtime/runtimeerror.h"
+
+#include <QScopeGuard>
+
+#include <array>
+
+#include <linux/capability.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+std::optional<int> endStatus(const Statement &statement)
+{
+    auto before = setProgramEnder([](int status) { throw EndedProgram{status}; });
+    const auto restore = qScopeGuard([&] { setProgramEnder(before); });
+    try {
+        statement();
+    } catch (const EndedProgram &end) {
+        return end.status;
+    }
+    return std::nullopt;
+}
+
+QString errorOf(const Statement &statement)
+{
+    try {
+        statement();
+    } catch (const RunTimeError &error) {
+        return error.report();
+    }
+    return {};
+}
+
+void withPlainRights(const Statement &statement)
+{
+    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+    std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> rights{};
+    syscall(SYS_capget, &header, rights.data());
+    auto plain = rights;
+    plain[0].effective &= ~(1U << CAP_DAC_OVERRIDE);
+    if (syscall(SYS_capset, &header, plain.data()) != 0)
+        qFatal("the process cannot put its rights aside");
+    const auto restore = qScopeGuard([&] { syscall(SYS_capset, &header, rights.data()); });
+    statement();
+}

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "support/testledger.h"
+
+#include "ledger/ledger.h"
+#include "ledger/schema.h"
+#include "platform/programfolder.h"
+
+#include <QDir>
+#include <QProcess>
+
+using namespace Qt::StringLiterals;
+
+TestLedger::TestLedger()
+{
+    QDir(m_folder.path()).mkdir(u"data"_s);
+    makeEmptyLedger(path());
+    setProgramFolder(m_folder.path());
+    ConnectLedger();
+    CurrentUser = u"sv"_s;
+}
+
+TestLedger::~TestLedger()
+{
+    CloseLedger();
+    setProgramFolder({});
+}
+
+QString TestLedger::path() const
+{
+    return m_folder.filePath(u"data/ztkdata.ZDB"_s);
+}
+
+QStringList TestLedger::files() const
+{
+    return QDir(m_folder.filePath(u"data"_s)).entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
+}
+
+QStringList TestLedger::run(const QString &sql, const QVariantList &values) const
+{
+    QStringList lines;
+    for (const QVariantList &row : LedgerConnection->run(sql, values).rows) {
+        QStringList fields;
+        for (const QVariant &field : row)
+            fields += field.toString();
+        lines += fields.join(u' ');
+    }
+    return lines;
+}
+
+void TestLedger::addMember(int key, const QString &name, const QString &percent) const
+{
+    run(u"INSERT INTO tblMember (MPK, Mname, Mpercen) VALUES (?, ?, ?)"_s, {key, name, percent});
+}
+
+QString runStockTool(const QString &path, const QString &password, const QString &commands)
+{
+    QProcess tool;
+    tool.setProcessChannelMode(QProcess::MergedChannels);
+    tool.start(u"sqlcipher"_s, {u"-batch"_s, path});
+    if (!password.isEmpty())
+        tool.write(u"PRAGMA key = '%1'; PRAGMA cipher_compatibility = 3;\n"_s.arg(password).toUtf8());
+    tool.write(commands.toUtf8() + '\n');
+    tool.closeWriteChannel();
+    tool.waitForFinished();
+    return QString::fromUtf8(tool.readAll()).trimmed();
+}

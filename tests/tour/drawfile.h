@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// A draw as a text file: what is keyed, and what must come out. The files in draws/ say in their
+// heads how they are written.
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+struct DrawMember
+{
+    QString name;
+    QString telephone;
+    QString percent;
+};
+
+struct DrawLine
+{
+    QString kind;    ///< caption of the kind
+    QString text;    ///< as keyed
+    QString refusal; ///< words of the box that must answer it, or empty
+};
+
+struct DrawTicket
+{
+    QString customer;
+    QList<DrawLine> lines;
+    QString total;    ///< of the ticket, as shown
+    QString discount; ///< money, as shown
+    QStringList rows; ///< "class number amount" of every grid row, parted by tabs
+};
+
+struct Draw
+{
+    QList<DrawMember> members;
+    QList<DrawTicket> tickets;
+    QString book; ///< "lines money discounts" of the Ledger after all tickets, parted by tabs
+
+    /// Reads a draw; ends the program with a message when the file cannot be read.
+    static Draw read(const QString &path);
+};

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "tour/hands.h"
+
+#include <QApplication>
+#include <QEvent>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <utility>
+
+Hands::Hands()
+{
+    qApp->installEventFilter(this);
+}
+
+void Hands::type(const QString &text)
+{
+    for (const QChar character : text)
+        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(),
+                            Qt::Key(character.toUpper().unicode()), character, Qt::NoModifier);
+}
+
+void Hands::press(Qt::Key key)
+{
+    QTest::keyClick(QApplication::focusWidget(), key);
+}
+
+void Hands::click(QWidget *control)
+{
+    QTest::mouseClick(control, Qt::LeftButton);
+}
+
+QStringList Hands::takeBoxes()
+{
+    return std::exchange(m_boxes, {});
+}
+
+bool Hands::eventFilter(QObject *object, QEvent *event)
+{
+    auto *box = qobject_cast<QMessageBox *>(object);
+    if (box && event->type() == QEvent::Show)
+        QTimer::singleShot(0, box, [this, box] { answer(box); });
+    return QObject::eventFilter(object, event);
+}
+
+void Hands::answer(QMessageBox *box)
+{
+    m_boxes += box->text();
+    emit boxShown(box);
+    if (std::exchange(m_pressOk, false))
+        QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+    else
+        QTest::keyClick(box, Qt::Key_Return);
+}

@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+// The tour: plays whole draws in the real program with real key events, saves a picture of each
+// screen, and fails on any difference from what the draw files state.
+#include "ledger/ledger.h"
+#include "ledger/schema.h"
+#include "platform/application.h"
+#include "platform/programfolder.h"
+#include "program.h"
+#include "tour/player.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A program folder of its own, with an empty Ledger and the look of the real one.
+void layFolder(const QString &folder)
+{
+    QDir(folder).mkpath(u"data/Styles"_s);
+    QFile::copy(programFile(u"data/Styles/mirakla.qss"_s), folder + u"/data/Styles/mirakla.qss"_s);
+    makeEmptyLedger(folder + u"/data/ztkdata.ZDB"_s);
+    setProgramFolder(folder);
+}
+
+void registerMembers(const QList<DrawMember> &members)
+{
+    const auto ledger = Connection::open(programFile(u"data/ztkdata.ZDB"_s));
+    for (const DrawMember &member : members)
+        ledger->run(u"INSERT INTO tblMember (Mname, Mber, Mpercen) VALUES (?, ?, ?)"_s,
+                    {member.name, member.telephone, member.percent});
+}
+
+/// Plays one draw from an empty Ledger; true if all came out as the file states.
+bool playDraw(const QString &path, const QString &pictures)
+{
+    const QTemporaryDir folder;
+    const QString realFolder = programFolder();
+    layFolder(folder.path());
+    const Draw draw = Draw::read(path);
+    registerMembers(draw.members);
+
+    QElapsedTimer clock;
+    clock.start();
+    const auto window = startProgram();
+    if (!window || !QTest::qWaitForWindowActive(window.get()))
+        qFatal("the program did not come up");
+    Player player(*window, pictures, QFileInfo(path).baseName());
+    player.play(draw);
+    CloseLedger();
+    setProgramFolder(realFolder);
+
+    std::printf("%s: %d tickets, %d lines keyed in %.1f s, %d differences\n",
+                qPrintable(QFileInfo(path).fileName()), int(draw.tickets.size()),
+                player.linesKeyed(), double(clock.elapsed()) / 1000,
+                int(player.differences().size()));
+    for (const QString &difference : player.differences())
+        std::printf("%s\n", qUtf8Printable(difference));
+    return player.differences().isEmpty();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const QTemporaryDir ownPlace; // so that a running program is no second copy of this one
+    qputenv("TMPDIR", ownPlace.path().toUtf8());
+    const Application application(argc, argv);
+
+    QCommandLineParser options;
+    options.addHelpOption();
+    options.addOption({u"pictures"_s, u"Save a picture of each screen below <folder>."_s,
+                       u"folder"_s});
+    options.addPositionalArgument(u"draws"_s, u"Draw files to play; all if none is named."_s);
+    options.process(application);
+
+    const QString pictures = options.value(u"pictures"_s);
+    if (!pictures.isEmpty() && !QDir().mkpath(pictures))
+        qFatal("cannot make the folder for the pictures");
+    QStringList draws = options.positionalArguments();
+    if (draws.isEmpty())
+        draws = {QStringLiteral(TOUR_DRAWS "/draw0.txt")};
+
+    bool same = true;
+    for (const QString &draw : draws)
+        same = playDraw(draw, pictures) && same;
+    return same ? 0 : 1;
+}

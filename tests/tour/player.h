@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: MIT
+// Plays a draw in the real program and holds every figure against the draw file.
+#pragma once
+
+#include "tour/drawfile.h"
+#include "tour/hands.h"
+
+#include <QSet>
+
+class MDIForm1;
+
+class Player
+{
+public:
+    /// Pictures go to the folder @p pictures, named after @p name, the draw's.
+    Player(MDIForm1 &window, const QString &pictures, const QString &name);
+
+    /// Keys all tickets of @p draw and saves them.
+    void play(const Draw &draw);
+
+    /// What came out otherwise than the draw file says.
+    const QStringList &differences() const { return m_differences; }
+
+    int linesKeyed() const { return m_linesKeyed; }
+
+private:
+    void playTicket(const DrawTicket &ticket);
+    void playLine(const DrawLine &line);
+    void chooseKind(const QString &caption);
+    void chooseCustomer(const QString &name);
+    void clearField();
+    void save();
+
+    QStringList shownRows() const;
+    void checkBook(const QString &expected);
+    void compare(const QString &what, const QString &expected, const QString &found);
+    void takePicture(const QString &scene, QWidget *widget = nullptr);
+
+    template<typename Control>
+    Control *control(const char *name) const;
+
+    MDIForm1 &m_window;
+    QString m_pictures;
+    QString m_name;
+    Hands m_hands;
+    QStringList m_differences;
+    QSet<QString> m_scenes;
+    QString m_kind;
+    int m_ticket = 0;
+    int m_linesKeyed = 0;
+};
