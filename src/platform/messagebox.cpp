@@ -30,7 +30,10 @@ QMessageBox::Icon iconOf(BoxIcon icon)
 
 BoxAnswer showMessageBox(const Box &box)
 {
-    const QPointer<QWidget> opener = QApplication::activeWindow();
+    // Of two boxes in a row the second comes before the desktop has made their opener active again.
+    static QPointer<QWidget> opener;
+    if (QWidget *active = QApplication::activeWindow())
+        opener = active;
     QMessageBox window(opener);
     window.setObjectName(u"MsgBox"_s);
     window.setWindowModality(Qt::ApplicationModal);

@@ -169,8 +169,7 @@ void LedgerTest::failedConnectionTellsWhyAndEnds()
     setProgramFolder(folder.path());
     QCOMPARE(endStatus(ConnectLedger), 1);
     setProgramFolder({});
-    QCOMPARE(script.texts(),
-             QStringList(u"เชื่อมต่อฐานข้อมูลไม่ได้ : unable to open database file"_s));
+    QCOMPARE(script.texts(), QStringList(u"เชื่อมต่อฐานข้อมูลไม่ได้ : unable to open database file"_s));
     QCOMPARE(script.boxes().first().style.icon, BoxIcon::None);
     QCOMPARE(script.boxes().first().style.buttons, BoxButtons::Ok);
     QCOMPARE(script.boxes().first().title, u"Mirakla Desk"_s);
@@ -239,7 +238,8 @@ void LedgerTest::lookupOfAName_data()
     QTest::newRow("letters in the other case") << u"lEK"_s << qint16(5) << none;
     QTest::newRow("a new name is added once") << u"ใหม่"_s << qint16(6) << QStringList(u"6 ใหม่ 0"_s);
     QTest::newRow("an apostrophe") << u"O'Brien"_s << qint16(6) << QStringList(u"6 O'Brien 0"_s);
-    QTest::newRow("a percent sign is no wildcard") << u"%"_s << qint16(6) << QStringList(u"6 % 0"_s);
+    QTest::newRow("a percent sign is no wildcard")
+        << u"%"_s << qint16(6) << QStringList(u"6 % 0"_s);
 }
 
 void LedgerTest::lookupOfAName()
@@ -290,7 +290,7 @@ void LedgerTest::namesSortAsInAThaiDictionary()
 {
     const TestLedger ledger;
     const QStringList sorted{u"กมล"_s, u"เก่ง"_s, u"แก้ว"_s, u"โก้"_s, u"ใกล้"_s,
-                             u"ไก่"_s, u"ขจร"_s, u"แดง"_s,  u"ต้น"_s};
+                             u"ไก่"_s,  u"ขจร"_s, u"แดง"_s, u"ต้น"_s};
     for (qsizetype at = sorted.size(); at > 0; --at)
         ledger.addMember(int(sorted.size() - at) + 1, sorted[at - 1], u"0"_s);
     QCOMPARE(ledger.run(u"SELECT Mname FROM tblMember WHERE MPK > 0 "

@@ -29,7 +29,7 @@ void PlatformTest::gridKeepsItsRowsInOrder()
 {
     SpreadModel grid;
     const QAbstractItemModelTester tellsViewsTheTruth(
-            &grid, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        &grid, QAbstractItemModelTester::FailureReportingMode::QtTest);
     grid.setup(2, 3);
     grid.setHeader(FirstHeaderRow + 1, 2, {u"รวม"_s});
     QCOMPARE(grid.text(-999, 2), u"รวม"_s);
@@ -54,10 +54,11 @@ void PlatformTest::datesOfTheRegion_data()
     QTest::addColumn<QString>("shortForm");
     QTest::addColumn<QString>("longForm");
     QTest::newRow("a Thai region counts the Buddhist era")
-            << u"th_TH"_s << u"22/11/2569"_s << u"วันอาทิตย์ที่ 22 พฤศจิกายน 2569"_s;
-    QTest::newRow("British order") << u"en_GB"_s << u"22/11/2026"_s << u"Sunday, 22 November 2026"_s;
+        << u"th_TH"_s << u"22/11/2569"_s << u"วันอาทิตย์ที่ 22 พฤศจิกายน 2569"_s;
+    QTest::newRow("British order")
+        << u"en_GB"_s << u"22/11/2026"_s << u"Sunday, 22 November 2026"_s;
     QTest::newRow("American order, the year in full all the same")
-            << u"en_US"_s << u"11/22/2026"_s << u"Sunday, November 22, 2026"_s;
+        << u"en_US"_s << u"11/22/2026"_s << u"Sunday, November 22, 2026"_s;
 }
 
 void PlatformTest::datesOfTheRegion()

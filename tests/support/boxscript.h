@@ -17,8 +17,7 @@ public:
     explicit BoxScript(QList<BoxAnswer> answers = {})
         : m_answers(std::move(answers)),
           m_before(setBoxShower([this](const Box &box) { return answer(box); }))
-    {
-    }
+    {}
     ~BoxScript() { setBoxShower(m_before); }
     Q_DISABLE_COPY_MOVE(BoxScript)
 

@@ -58,7 +58,8 @@ QString runStockTool(const QString &path, const QString &password, const QString
     tool.setProcessChannelMode(QProcess::MergedChannels);
     tool.start(u"sqlcipher"_s, {u"-batch"_s, path});
     if (!password.isEmpty())
-        tool.write(u"PRAGMA key = '%1'; PRAGMA cipher_compatibility = 3;\n"_s.arg(password).toUtf8());
+        tool.write(
+            u"PRAGMA key = '%1'; PRAGMA cipher_compatibility = 3;\n"_s.arg(password).toUtf8());
     tool.write(commands.toUtf8() + '\n');
     tool.closeWriteChannel();
     tool.waitForFinished();

@@ -69,14 +69,14 @@ bool playDraw(const QString &path, const QString &pictures)
 
 int main(int argc, char **argv)
 {
-    const QTemporaryDir ownPlace; // so that a running program is no second copy of this one
+    static const QTemporaryDir ownPlace; // so that a running program is no second copy of this one
     qputenv("TMPDIR", ownPlace.path().toUtf8());
     const Application application(argc, argv);
 
     QCommandLineParser options;
     options.addHelpOption();
-    options.addOption({u"pictures"_s, u"Save a picture of each screen below <folder>."_s,
-                       u"folder"_s});
+    options.addOption(
+        {u"pictures"_s, u"Save a picture of each screen below <folder>."_s, u"folder"_s});
     options.addPositionalArgument(u"draws"_s, u"Draw files to play; all if none is named."_s);
     options.process(application);
 

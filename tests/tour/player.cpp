@@ -132,9 +132,9 @@ QStringList Player::shownRows() const
 void Player::checkBook(const QString &expected)
 {
     const QVariantList lines =
-            LedgerConnection->run(u"SELECT count(*), sum(numBuy) FROM tblNumber"_s).rows[0];
+        LedgerConnection->run(u"SELECT count(*), sum(numBuy) FROM tblNumber"_s).rows[0];
     const QVariantList discounts =
-            LedgerConnection->run(u"SELECT sum(rMoney) FROM tblRMoney"_s).rows[0];
+        LedgerConnection->run(u"SELECT sum(rMoney) FROM tblRMoney"_s).rows[0];
     const QStringList found{lines[0].toString(), lines[1].toString(), discounts[0].toString()};
     QString plain = expected;
     compare(u"book"_s, plain.remove(u','), found.join(u'\t'));
@@ -144,7 +144,7 @@ void Player::compare(const QString &what, const QString &expected, const QString
 {
     if (expected != found)
         m_differences += u"%1, ticket %2, %3:\n  expected %4\n  found    %5"_s.arg(
-                m_name, QString::number(m_ticket), what, expected, found);
+            m_name, QString::number(m_ticket), what, expected, found);
 }
 
 void Player::takePicture(const QString &scene, QWidget *widget)
@@ -153,5 +153,7 @@ void Player::takePicture(const QString &scene, QWidget *widget)
         return;
     m_scenes.insert(scene);
     QApplication::processEvents();
-    (widget ? widget : &m_window)->grab().save(m_pictures + u'/' + m_name + u'-' + scene + u".png"_s);
+    (widget ? widget : &m_window)
+        ->grab()
+        .save(m_pictures + u'/' + m_name + u'-' + scene + u".png"_s);
 }

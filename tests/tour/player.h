@@ -2,8 +2,8 @@
 // Plays a draw in the real program and holds every figure against the draw file.
 #pragma once
 
+#include "support/hands.h"
 #include "tour/drawfile.h"
-#include "tour/hands.h"
 
 #include <QSet>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "tour/hands.h"
+#include "support/hands.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -11,6 +11,13 @@
 
 #include <utility>
 
+QWidget *Hands::focus()
+{
+    if (!QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }))
+        qFatal("no control has the focus");
+    return QApplication::focusWidget();
+}
+
 Hands::Hands()
 {
     qApp->installEventFilter(this);
@@ -19,13 +26,13 @@ Hands::Hands()
 void Hands::type(const QString &text)
 {
     for (const QChar character : text)
-        QTest::sendKeyEvent(QTest::Click, QApplication::focusWidget(),
-                            Qt::Key(character.toUpper().unicode()), character, Qt::NoModifier);
+        QTest::sendKeyEvent(QTest::Click, focus(), Qt::Key(character.toUpper().unicode()),
+                            character, Qt::NoModifier);
 }
 
 void Hands::press(Qt::Key key)
 {
-    QTest::keyClick(QApplication::focusWidget(), key);
+    QTest::keyClick(focus(), key);
 }
 
 void Hands::click(QWidget *control)

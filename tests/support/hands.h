@@ -15,6 +15,9 @@ class Hands : public QObject
 public:
     Hands();
 
+    /// The control that has the focus, once a box that was answered has given it back.
+    static QWidget *focus();
+
     /// Types characters into whatever has the focus, as keys.
     static void type(const QString &text);
     static void press(Qt::Key key);

@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: MIT
+// The builders: keyed lines in, rows of the ticket and refusals out.
+#include "entry/builders.h"
+#include "entry/keyedline.h"
+#include "support/boxscript.h"
+#include "support/outcome.h"
+
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Keys lines such as "บน 123-50" one after the other, as the entry field does.
+void keyLines(Ticket &ticket, const QStringList &lines)
+{
+    for (const QString &line : lines) {
+        const BetKind kind = kindOfCaption(line.section(u' ', 0, -2));
+        if (splitLine(ticket, line.section(u' ', -1), kind) == LineForm::Good)
+            runBuilder(ticket, kind);
+    }
+}
+
+/// All rows, such as "1: 123=50", grids counted from 1, each from its row 1 down.
+QStringList rowsOf(const Ticket &ticket)
+{
+    QStringList rows;
+    for (int at = 0; at < ClassCount; ++at) {
+        const SpreadModel &grid = ticket.grids[at];
+        for (int row = 1; row <= grid.rows(); ++row)
+            rows += u"%1: %2=%3"_s.arg(QString::number(at + 1), grid.text(row, NumberColumn),
+                                       grid.text(row, AmountColumn));
+    }
+    return rows;
+}
+
+} // namespace
+
+class BuildersTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void linesBecomeRows_data();
+    void linesBecomeRows();
+    void refusedLineAddsNothing_data();
+    void refusedLineAddsNothing();
+    void refusalKeepsTheTabOfTheLastGoodLine();
+    void totalsOverflowInsteadOfWrapping();
+};
+
+void BuildersTest::linesBecomeRows_data()
+{
+    QTest::addColumn<QStringList>("lines");
+    QTest::addColumn<QStringList>("rows");
+    const auto row = [](const char *name, const QStringList &lines, const QStringList &rows) {
+        QTest::newRow(name) << lines << rows;
+    };
+    row("the newest number stands on top", {u"บน 123-50"_s, u"บน 456-50"_s},
+        {u"1: 456=50"_s, u"1: 123=50"_s});
+    row("a number merges where it stands, past the comma",
+        {u"บน 12-50"_s, u"บน 34-5"_s, u"บน 12-1000"_s, u"บน 12-7"_s},
+        {u"3: 34=5"_s, u"3: 12=1,057"_s});
+    row("leading zeros make another number", {u"บน 012-5"_s, u"บน 12-5"_s},
+        {u"1: 012=5"_s, u"3: 12=5"_s});
+    row("leading zeros of an amount do not", {u"บน 12-007"_s}, {u"3: 12=7"_s});
+    row("a row goes beyond the limit of one line", {u"ล่าง 12-60000"_s, u"ล่าง 12-60000"_s},
+        {u"7: 12=120,000"_s});
+    row("the full amount on both, straight and tod", {u"ตรง+โต๊ด 12-9"_s, u"ตรง+โต๊ด 121-9"_s},
+        {u"1: 121=9"_s, u"2: 121=9"_s, u"3: 12=9"_s, u"4: 12=9"_s});
+    row("the full amount on both sides, one digit too",
+        {u"บน+ล่าง 5-100"_s, u"บน+ล่าง 55-10"_s, u"บน+ล่าง 555-1"_s},
+        {u"1: 555=1"_s, u"3: 55=10"_s, u"5: 5=100"_s, u"6: 555=1"_s, u"7: 55=10"_s, u"8: 5=100"_s});
+    row("a straight number may repeat its digit", {u"บน 55-10"_s, u"ล่าง 111-1"_s},
+        {u"3: 55=10"_s, u"6: 111=1"_s});
+    row("runs", {u"วิ่งบน 0-10"_s, u"วิ่งล่าง 0-99999"_s}, {u"5: 0=10"_s, u"8: 0=99,999"_s});
+}
+
+void BuildersTest::linesBecomeRows()
+{
+    QFETCH(QStringList, lines);
+    const BoxScript script;
+    Ticket ticket;
+    keyLines(ticket, lines);
+    QTEST(rowsOf(ticket), "rows");
+    QCOMPARE(script.texts(), QStringList());
+}
+
+void BuildersTest::refusedLineAddsNothing_data()
+{
+    QTest::addColumn<QString>("line");
+    QTest::addColumn<QString>("words");
+    const QString noNumber = u"กรุณาระบุ ( เลข ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s;
+    const QString noAmount = u"กรุณาระบุ ( จำนวนเงิน ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s;
+    const QString tail = u" ) โปรดทำการแก้ไข ก่อนเริ่มบันทึก"_s;
+    const QString twoDigits = u"ไม่สามารถบันทึกได้ ( เลขต้องมีอย่างน้อย 2 หลัก"_s + tail;
+    const QString threeDigits = u"ไม่สามารถบันทึกได้ ( เลขมีได้สูงสุดเพียง 3 หลัก"_s + tail;
+    const QString oneDigit = u"ไม่สามารถบันทึกได้ ( เลขมีได้สูงสุดเพียง 1 หลัก"_s + tail;
+    const QString oneBaht = u"ไม่สามารถบันทึกได้ ( จำนวนเงิน ขั้นต่ำ = 1 บาท"_s + tail;
+    const QString tooMuch = u"ไม่สามารถบันทึกได้ ( จำนวนเงิน สูงสุด = 99,999 บาท"_s + tail;
+    const QString allEqual =
+        u"ไม่สามารถเพิ่มเลขได้ ( เนื่องจากตัวเลขซ้ำกันหมด ) โปรดบันทึกเป็นประเภท ตรง แทน.."_s;
+    const QString dashes = u"ไม่สามารถเพิ่มเลขได้ เลขกลับที่ถูกต้อง ( เลข-จำนวนเงินหลัก-จำนวนเงินลอง ) "
+                           "โปรดลองอีกครั้ง.. "_s;
+    const auto row = [](const QString &line, const QString &words) {
+        QTest::newRow(qUtf8Printable(line)) << line << words;
+    };
+    row(u"บน -50"_s, noNumber);
+    row(u"บน -"_s, noNumber);
+    row(u"บน 5-100"_s, twoDigits);
+    row(u"โต๊ด 1234-"_s, threeDigits); // the number is looked at before the amount
+    row(u"บน+ล่าง 1234-5"_s, threeDigits);
+    row(u"วิ่งบน 12-5"_s, oneDigit);
+    row(u"โต๊ด 555-0"_s, allEqual); // the digits are looked at before the amount
+    row(u"ตรง+โต๊ด 55-10"_s, allEqual);
+    row(u"บน 12-"_s, noAmount);
+    row(u"ล่าง 12-00"_s, oneBaht);
+    row(u"บน 12-100000"_s, tooMuch);
+    row(u"วิ่งล่าง 1-000100"_s, tooMuch); // digits are counted, whatever they say
+    row(u"บน 1-2-3"_s, dashes);
+    row(u"กลับบน 123-10"_s, dashes);
+}
+
+void BuildersTest::refusedLineAddsNothing()
+{
+    QFETCH(QString, line);
+    QFETCH(QString, words);
+    const BoxScript script;
+    Ticket ticket;
+    keyLines(ticket, {line});
+    QCOMPARE(script.texts(), QStringList(words));
+    QCOMPARE(script.boxes().first().title, u"รายงานสถานะ"_s);
+    QCOMPARE(script.boxes().first().style.icon, BoxIcon::Exclamation);
+    QVERIFY(ticket.isEmpty());
+}
+
+void BuildersTest::refusalKeepsTheTabOfTheLastGoodLine()
+{
+    const BoxScript script;
+    Ticket ticket;
+    keyLines(ticket, {u"บน+ล่าง 12-5"_s});
+    QVERIFY(ticket.ShowTopTab); // bottom is written first, and the top is shown
+    keyLines(ticket, {u"ล่าง 5-5"_s});
+    QVERIFY(ticket.ShowTopTab);
+    keyLines(ticket, {u"ล่าง 55-5"_s});
+    QVERIFY(!ticket.ShowTopTab);
+}
+
+void BuildersTest::totalsOverflowInsteadOfWrapping()
+{
+    Ticket ticket;
+    ticket.writeLine(0, -1, u"123"_s, u"2147483647"_s);
+    QCOMPARE(topTotal(ticket.totalGrids()), 2147483647);
+    ticket.writeLine(1, -1, u"123"_s, u"1"_s);
+    QCOMPARE(errorOf([&] { topTotal(ticket.totalGrids()); }), u"Run-time error '6': Overflow"_s);
+    ticket.writeLine(0, 1, u"123"_s, u"1"_s); // a row itself has no limit
+    QCOMPARE(ticket.grids[0].text(1, AmountColumn), u"2,147,483,648"_s);
+}
+
+QTEST_GUILESS_MAIN(BuildersTest)
+#include "test_builders.moc"

@@ -1,2 +1,0 @@
-#include <QTest>
-int main(){}
