@@ -89,7 +89,8 @@ void Form1::Form_Load()
 void Form1::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    m_ui->Tnumber->setFocus(); // so that keying can begin at once
+    if (!event->spontaneous())     // not when the desktop brings back a minimised window
+        m_ui->Tnumber->setFocus(); // so that keying can begin at once
 }
 
 void Form1::controlGotFocus(QWidget *control)
@@ -141,7 +142,7 @@ void Form1::Tnumber_KeyPress()
     if (m_ui->Tname->text() == noCustomer())
         m_ui->Combo1->setListIndex(-1);
     else
-        resumeNext([this] { showDiscount(); });
+        resumeNext([this] { showDiscount(m_ui->text1->text()); });
     m_ui->SSTab1->setTab(m_ticket.ShowTopTab ? TopTab : BottomTab);
 }
 
@@ -181,7 +182,7 @@ void Form1::Combo1_Click()
     }
     RecordsetA.close();
     if (known)
-        resumeNext([this] { showDiscount(); });
+        resumeNext([this] { showDiscount(m_ui->text1->text()); });
 }
 
 /// " &บันทึก": files the ticket in the Ledger.
@@ -238,8 +239,10 @@ void Form1::lvButtons_H1_Click()
     m_ticket.grids[touched].removeRow(row);
     resumeNext([this] { Nubyod(); });
     m_ui->SSTab1->setTab(touched < TopClassCount ? TopTab : BottomTab);
-    if (m_ui->Tname->text() != noCustomer())
-        resumeNext([this] { showDiscount(); });
+    if (m_ui->Tname->text() != noCustomer()) {
+        const QString total = m_ui->text1->text(); // empty once the last line is gone
+        resumeNext([&] { showDiscount(total.isEmpty() ? u"0"_s : total); });
+    }
     m_ui->Tnumber->setFocus();
 }
 
@@ -259,6 +262,11 @@ void Form1::lvButtons_H2_Click()
 void Form1::SSTab1_Click()
 {
     const bool top = m_ui->SSTab1->tab() == TopTab;
+    // A grid that is hidden would pass its focus from grid to grid, each noting that it was touched.
+    for (int at = 0; at < ClassCount; ++at) {
+        if ((at < TopClassCount) != top && m_spreads[at]->hasFocus())
+            m_ui->SSTab1->setFocus();
+    }
     for (int at = 0; at < ClassCount; ++at)
         m_spreads[at]->setVisible((at < TopClassCount) == top);
 }
@@ -284,9 +292,7 @@ void Form1::showZeroTabs()
     showTab(TopTab, u"   บน ( ยอดรวม 0 )"_s);
 }
 
-void Form1::showDiscount()
+void Form1::showDiscount(const QString &total)
 {
-    const QString total = m_ui->text1->text();
-    // The last line gone leaves the total empty, which counts as nothing.
-    m_ui->text3->setText(discountMoney(total.isEmpty() ? u"0"_s : total, m_ui->text2->text()));
+    m_ui->text3->setText(discountMoney(total, m_ui->text2->text()));
 }

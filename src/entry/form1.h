@@ -49,7 +49,7 @@ private:
     void SSTab1_Click();
 
     void Nubyod();
-    void showDiscount();
+    void showDiscount(const QString &total);
     void showTab(int tab, const QString &caption);
     void showZeroTabs();
     bool confirmSave();

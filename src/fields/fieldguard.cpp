@@ -59,7 +59,7 @@ bool FieldGuard::keyPressed(QLineEdit *field, const QKeyEvent &key)
     const FieldRule &rule = *m_rules.value(field);
     const int code = characterCode(key);
     if (code == 0)
-        return key.matches(QKeySequence::Paste); // Shift+Insert would get round the filter
+        return isStrayText(key) || key.matches(QKeySequence::Paste); // Shift+Insert
     if (code == EnterCode) {
         pressEnter(rule);
         return true;

@@ -12,7 +12,6 @@ using namespace Qt::StringLiterals;
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(u"mirakla-desk"_s);
-    setApplicationDisplayName(QString::fromUtf16(ProgramTitle));
 #ifndef Q_OS_WIN
     // Latin digits and Thai letters of one design. Windows has its own Thai type.
     QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s});

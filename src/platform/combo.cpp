@@ -3,6 +3,7 @@
 
 #include "platform/keycodes.h"
 
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
@@ -11,6 +12,7 @@
 Combo::Combo(QWidget *parent) : QComboBox(parent)
 {
     setInsertPolicy(NoInsert);
+    setFocusPolicy(Qt::StrongFocus); // the wheel must not even take the focus
     connect(this, &QComboBox::activated, this, &Combo::clicked);
     connect(this, &QComboBox::editTextChanged, this, &Combo::dropIndexOfForeignText);
 }
@@ -48,11 +50,25 @@ int Combo::findStart(const QString &text) const
 void Combo::keyPressEvent(QKeyEvent *event)
 {
     const int code = characterCode(*event);
-    if (code != 0 && keyPress && keyPress(code) == 0) {
+    if (keyPress && (isStrayText(*event) || (code != 0 && keyPress(code) == 0))) {
         event->accept();
         return;
     }
     QComboBox::keyPressEvent(event);
+}
+
+void Combo::inputMethodEvent(QInputMethodEvent *event)
+{
+    if (!keyPress || !isEditable() || event->commitString().isEmpty()) {
+        QComboBox::inputMethodEvent(event);
+        return;
+    }
+    QInputMethodEvent composing(event->preeditString(), event->attributes());
+    QComboBox::inputMethodEvent(&composing);
+    for (const QChar character : event->commitString()) {
+        if (keyPress(character.unicode()) != 0)
+            lineEdit()->insert(character);
+    }
 }
 
 void Combo::wheelEvent(QWheelEvent *event)
@@ -77,8 +93,9 @@ int ComboAutoComplete(Combo &combo, int code)
     QLineEdit &edit = *combo.lineEdit();
     if (edit.hasSelectedText())
         edit.del();
-    const QString search = edit.text() + QChar(code);
-    const int found = combo.findStart(search);
+    // A key that a filter has dropped adds nothing, and the proposal comes back as it was.
+    const QString search = code == 0 ? edit.text() : edit.text() + QChar(code);
+    const int found = search.isEmpty() ? -1 : combo.findStart(search);
     if (found < 0)
         return code;
     combo.setListIndex(found);

@@ -8,8 +8,9 @@
 
 /// The toolkit adds typed text to the list, completes it and keeps the index of an entry that
 /// has been typed over; none of that is wanted, since the index says whether the text is a known
-/// name. Typing over an entry drops the index and keeps the text. The wheel does nothing, as a
-/// touch of it would change the customer unseen.
+/// name. Typing over an entry drops the index and keeps the text. A text that is an entry to the
+/// letter chooses that entry when the combo is left. The wheel does nothing, as a touch of it
+/// would change the customer unseen.
 class Combo : public QComboBox
 {
     Q_OBJECT
@@ -18,7 +19,7 @@ public:
     explicit Combo(QWidget *parent = nullptr);
 
     /// Filter of the keys that give characters, called with the character's code before the
-    /// combo takes the key; 0 as result swallows it.
+    /// combo takes the key; 0 as result swallows it. Text of an input method passes it too.
     std::function<int(int code)> keyPress;
 
     /// Replaces the list and keeps the text. No entry is chosen.
@@ -37,6 +38,7 @@ signals:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
 
 private:

@@ -43,3 +43,11 @@ int characterCode(const QKeyEvent &key)
     }
     return key.text().isEmpty() ? 0 : key.text().front().unicode();
 }
+
+bool isStrayText(const QKeyEvent &key)
+{
+    constexpr char16_t Delete = 0x7f;
+    const QString text = key.text();
+    return characterCode(key) == 0 && !text.isEmpty() && text.front() >= u' '
+           && text.front() != Delete;
+}

@@ -8,3 +8,7 @@ class QKeyEvent;
 /// Esc, 1 to 26 for Ctrl with a letter, else the character's own. 0 for keys that give none:
 /// Delete, Tab, arrows, function keys, Alt with a letter.
 int characterCode(const QKeyEvent &key);
+
+/// True for a key that gives no character code and that a text field would take as text all the
+/// same: Alt with a letter, Ctrl with a sign of the key pad.
+bool isStrayText(const QKeyEvent &key);

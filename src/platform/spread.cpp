@@ -59,6 +59,22 @@ void Spread::setActiveRow(int row)
         setCurrentIndex(m_model->index(row - 1, 1));
 }
 
+void Spread::focusInEvent(QFocusEvent *event)
+{
+    QTableView::focusInEvent(event);
+    if (currentIndex().isValid()) // reached by Tab the toolkit makes a row active and marks none
+        selectRow(currentIndex().row());
+}
+
+QItemSelectionModel::SelectionFlags Spread::selectionCommand(const QModelIndex &index,
+                                                             const QEvent *) const
+{
+    if (!index.isValid())
+        return QItemSelectionModel::NoUpdate;
+    return QItemSelectionModel::ClearAndSelect
+           | QItemSelectionModel::Rows; // never unmarked by Ctrl
+}
+
 void Spread::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);

@@ -4,6 +4,7 @@
 
 #include "platform/spreadmodel.h"
 
+#include <QItemSelectionModel>
 #include <QTableView>
 
 /// One row is active at a time and shown whole; column 0 is hidden. Rows and columns count from
@@ -28,6 +29,9 @@ public:
     Q_INVOKABLE void setActiveRow(int row);
 
 protected:
+    void focusInEvent(QFocusEvent *event) override;
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
+                                                         const QEvent *event) const override;
     void changeEvent(QEvent *event) override;
 
 private:

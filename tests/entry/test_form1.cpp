@@ -12,6 +12,7 @@
 #include "support/outcome.h"
 #include "support/testledger.h"
 
+#include <QInputMethodEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
@@ -42,6 +43,8 @@ private slots:
     void customerIsTakenAfterTheFirstLine();
     void discountFollowsEachLine();
     void nameIsCompletedAndTakenBack();
+    void spelledOutNameIsChosen();
+    void composedNameIsCompleted();
     void wheelChangesNothing();
     void oneLineIsRemoved();
     void ticketIsCleared();
@@ -208,6 +211,36 @@ void Form1Test::nameIsCompletedAndTakenBack()
         QStringList(u"ไม่สามารถบันทึกได้ ( ชื่อลูกค้าไม่ถูกต้อง หรือ ไม่มีในระบบ )  โปรดลองใหม่อีกครั้ง . . ."_s));
 }
 
+void Form1Test::spelledOutNameIsChosen()
+{
+    m_ledger->addMember(3, u"สม"_s, u"5"_s);
+    m_page.emplace(*m_progress, nullptr);
+    m_page->show();
+    QVERIFY(QTest::qWaitForWindowActive(&*m_page));
+    choose("Combo2", 1);
+    key(u"12-1000"_s);
+    Hands::press(Qt::Key_Tab);
+    Hands::type(u"สม"_s); // the beginning of others that stand before it
+    Hands::press(Qt::Key_Delete);
+    QCOMPARE(control<Combo>("Combo1")->listIndex(), -1);
+    Hands::press(Qt::Key_Return);
+    QCOMPARE(Hands::focus()->objectName(), u"Tnumber"_s);
+    QCOMPARE(text("Tname"), u"สม"_s);
+    QCOMPARE(text("text3"), u"50"_s);
+}
+
+void Form1Test::composedNameIsCompleted()
+{
+    auto *names = control<Combo>("Combo1");
+    names->setFocus();
+    names->lineEdit()->clear();
+    QInputMethodEvent composed;
+    composed.setCommitString(u"สมห"_s);
+    QApplication::sendEvent(names, &composed);
+    QCOMPARE(names->currentText(), u"สมหญิง"_s);
+    QCOMPARE(names->listIndex(), 2);
+}
+
 void Form1Test::wheelChangesNothing()
 {
     choose("Combo2", 1);
@@ -233,6 +266,8 @@ void Form1Test::oneLineIsRemoved()
     grid->setActiveRow(2);
     click("lvButtons_H1"); // Enter answers Cancel
     QCOMPARE(grid->rows(), 2);
+    grid->setFocus();
+    control<TabStrip>("SSTab1")->setTab(1); // hides the grid, which stays the one touched last
     m_hands->answerNextWithOk();
     click("lvButtons_H1");
     const QString question = u"คุณแน่ใจว่าต้องการลบข้อมูล ( เลข 12 ) ในหน้านี้ ?"_s;
@@ -256,6 +291,10 @@ void Form1Test::ticketIsCleared()
     QCOMPARE(tabs(), QStringList({u"   ล่าง ( ยอดรวม 0  )"_s, u"   บน ( ยอดรวม 0 )"_s}));
     QCOMPARE(text("text1"), u"1,000"_s); // stays until the next line
     QCOMPARE(text("Tname"), u"สมชาย"_s);
+    key(u"-5"_s);
+    m_hands->takeBoxes();
+    QCOMPARE(text("text1"), QString());
+    QCOMPARE(text("text3"), u"100"_s); // cannot be worked out of nothing
 }
 
 void Form1Test::saveAsksAndResets()

@@ -126,6 +126,9 @@ void FieldsTest::noOtherWayIn()
         QApplication::clipboard()->setText(u"ab"_s, mode);
     QTest::keyClick(form.first(), Qt::Key_V, Qt::ControlModifier);
     QTest::keyClick(form.first(), Qt::Key_Insert, Qt::ShiftModifier);
+    QTest::sendKeyEvent(QTest::Click, form.first(), Qt::Key_X, u'x', Qt::AltModifier);
+    QTest::sendKeyEvent(QTest::Click, form.first(), Qt::Key_Plus, u'+',
+                        Qt::ControlModifier | Qt::KeypadModifier);
     QTest::mouseClick(form.first(), Qt::MiddleButton);
     QMimeData dropped;
     dropped.setText(u"ab"_s);
