@@ -2,7 +2,9 @@
 #include "entry/builders.h"
 
 #include "entry/keyedline.h"
-#include "platform/msgbox.h"
+#include "runtime/values.h"
+
+#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -57,6 +59,50 @@ void addSingleLine(Ticket &ticket, const SingleLine &builder)
         ticket.AddLine(targets.second, ticket.KeyedNumber, ticket.KeyedAmount, 1);
 }
 
+/// The orders of a number's digits that one line bets on: searched in this order, each into the
+/// slot of its place, and written in the order of the slots named. Slot 0 is the number as keyed.
+struct TurnOrders
+{
+    std::vector<const char *> searched;
+    std::vector<int> written;
+};
+
+const TurnOrders &turnOrders(const QString &number)
+{
+    static const TurnOrders twoDigits{{"01", "10"}, {0, 1}};
+    static const TurnOrders allDiffer{{"012", "021", "102", "120", "201", "210"},
+                                      {0, 5, 4, 3, 2, 1}};
+    static const TurnOrders firstPair{{"012", "021", "210"}, {0, 2, 1}};
+    static const TurnOrders outerPair{{"012", "021", "102"}, {0, 2, 1}};
+    static const TurnOrders lastPair{{"012", "201", "120"}, {0, 2, 1}};
+    if (number.size() == 2)
+        return twoDigits;
+    if (number[0] == number[1])
+        return firstPair;
+    if (number[0] == number[2])
+        return outerPair;
+    return number[1] == number[2] ? lastPair : allDiffer;
+}
+
+void addTurned(Ticket &ticket, bool top)
+{
+    if (!passesChecks(ticket, Multi | DigitsDiffer | TryAmountGood))
+        return;
+    ticket.ShowTopTab = top;
+    const QString &number = ticket.KeyedNumber;
+    if (number.size() != 2 && number.size() != 3)
+        return;
+    const Grid grid = number.size() == 3 ? (top ? Top3 : Bottom3) : (top ? Top2 : Bottom2);
+    const TurnOrders &orders = turnOrders(number);
+    for (size_t slot = 0; slot < orders.searched.size(); ++slot)
+        ticket.FoundRow[slot] = ticket.grids[grid].searchColumn(
+            NumberColumn, rearranged(number, orders.searched[slot]));
+    for (const int slot : orders.written)
+        ticket.writeLine(grid, ticket.FoundRow[size_t(slot)],
+                         rearranged(number, orders.searched[size_t(slot)]),
+                         slot == 0 ? ticket.KeyedAmount : ticket.KeyedTryAmount);
+}
+
 } // namespace
 
 void tongup(Ticket &ticket)
@@ -94,6 +140,45 @@ void downAndup(Ticket &ticket)
     addSingleLine(ticket, DownAndUp);
 }
 
+void kubup(Ticket &ticket)
+{
+    addTurned(ticket, true);
+}
+
+void kubdown(Ticket &ticket)
+{
+    addTurned(ticket, false);
+}
+
+void numpato(Ticket &ticket, BetKind kind)
+{
+    if (!passesChecks(ticket, Single))
+        return;
+    if (kind != BetKind::DoorsTop && kind != BetKind::DoorsBottom)
+        return;
+    ticket.ShowTopTab = kind == BetKind::DoorsTop;
+    const Grid grid = ticket.ShowTopTab ? Top2 : Bottom2;
+    const QString &door = ticket.KeyedNumber;
+    for (int other = 0; other <= 9; ++other)
+        ticket.AddLine(grid, door + QString::number(other), ticket.KeyedAmount);
+    for (int other = 0; other <= 9; ++other) {
+        if (other != CInt(door)) // the double is there already
+            ticket.AddLine(grid, QString::number(other) + door, ticket.KeyedAmount);
+    }
+}
+
+void soonkow(Ticket &ticket, BetKind kind)
+{
+    if (!passesChecks(ticket, NoNumber | AmountGood))
+        return;
+    if (kind != BetKind::SweepTop && kind != BetKind::SweepBottom)
+        return;
+    ticket.ShowTopTab = kind == BetKind::SweepTop;
+    const Grid grid = ticket.ShowTopTab ? Top2 : Bottom2;
+    for (const QChar digit : u"0123456789"_s)
+        ticket.AddLine(grid, QString(2, digit), ticket.KeyedAmount);
+}
+
 void runBuilder(Ticket &ticket, BetKind kind)
 {
     switch (kind) {
@@ -111,7 +196,17 @@ void runBuilder(Ticket &ticket, BetKind kind)
         return tongtod(ticket);
     case BetKind::TopAndBottom:
         return downAndup(ticket);
-    default:
-        refuse(u"ไม่สามารถเพิ่มเลขได้ ( ประเภทนี้ยังไม่เปิดใช้งาน ) โปรดเลือกประเภทอื่น.. "_s);
+    case BetKind::TurnTop:
+        return kubup(ticket);
+    case BetKind::TurnBottom:
+        return kubdown(ticket);
+    case BetKind::DoorsTop:
+    case BetKind::DoorsBottom:
+        return numpato(ticket, kind);
+    case BetKind::SweepTop:
+    case BetKind::SweepBottom:
+        return soonkow(ticket, kind);
+    case BetKind::NoKind:
+        return;
     }
 }

@@ -18,15 +18,11 @@ constexpr std::array<const char *, 5> ThreeDigitOrders{"021", "120", "102", "201
 constexpr std::array<const char *, 1> TwoDigitOrders{"10"};
 
 template<typename Orders>
-QVariantList rearranged(const QString &number, const Orders &orders)
+QVariantList allRearranged(const QString &number, const Orders &orders)
 {
     QVariantList numbers;
-    for (const char *order : orders) {
-        QString other;
-        for (const char *place = order; *place != '\0'; ++place)
-            other += number[*place - '0'];
-        numbers += other;
-    }
+    for (const char *order : orders)
+        numbers += rearranged(number, order);
     return numbers;
 }
 
@@ -56,8 +52,8 @@ QString todSpelling(const QString &number)
 {
     const QString keyed = trimBlanks(number);
     Q_ASSERT(keyed.size() == 3 || keyed.size() == 2);
-    const QVariantList others =
-        keyed.size() == 3 ? rearranged(keyed, ThreeDigitOrders) : rearranged(keyed, TwoDigitOrders);
+    const QVariantList others = keyed.size() == 3 ? allRearranged(keyed, ThreeDigitOrders)
+                                                  : allRearranged(keyed, TwoDigitOrders);
     const QStringList marks(others.size(), u"?"_s);
     // The first row in text order is all that is wanted, so the engine stops at it.
     RecordsetA.open(u"SELECT tblNumber.numValue"

@@ -14,3 +14,11 @@ bool isTurnKind(BetKind kind)
 {
     return kind == BetKind::TurnTop || kind == BetKind::TurnBottom;
 }
+
+QString rearranged(const QString &number, const char *order)
+{
+    QString other;
+    for (const char *place = order; *place != '\0'; ++place)
+        other += number[*place - '0'];
+    return other;
+}

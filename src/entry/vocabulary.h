@@ -88,6 +88,9 @@ inline constexpr std::array KindEntries{
 /// The kind that a caption names; the caption is the one place that holds the chosen kind.
 BetKind kindOfCaption(const QString &caption);
 
+/// The digits of a number in another order, given as places in it: "120" turns "abc" to "bca".
+QString rearranged(const QString &number, const char *order);
+
 /// True for the kinds that also bet on the other orders of the digits; their lines carry two
 /// amounts.
 bool isTurnKind(BetKind kind);

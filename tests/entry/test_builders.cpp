@@ -73,6 +73,31 @@ void BuildersTest::linesBecomeRows_data()
         {u"1: 555=1"_s, u"3: 55=10"_s, u"5: 5=100"_s, u"6: 555=1"_s, u"7: 55=10"_s, u"8: 5=100"_s});
     row("a straight number may repeat its digit", {u"บน 55-10"_s, u"ล่าง 111-1"_s},
         {u"3: 55=10"_s, u"6: 111=1"_s});
+    row("all other orders of three digits", {u"กลับบน 123-100-20"_s},
+        {u"1: 132=20"_s, u"1: 213=20"_s, u"1: 231=20"_s, u"1: 312=20"_s, u"1: 321=20"_s,
+         u"1: 123=100"_s});
+    row("a pair in front has three orders", {u"กลับล่าง 112-100-20"_s},
+        {u"6: 121=20"_s, u"6: 211=20"_s, u"6: 112=100"_s});
+    row("a pair outside", {u"กลับบน 121-100-20"_s},
+        {u"1: 112=20"_s, u"1: 211=20"_s, u"1: 121=100"_s});
+    row("a pair at the end", {u"กลับบน 122-100-20"_s},
+        {u"1: 212=20"_s, u"1: 221=20"_s, u"1: 122=100"_s});
+    row("two digits turned", {u"กลับล่าง 12-100-20"_s}, {u"7: 21=20"_s, u"7: 12=100"_s});
+    row("a group keyed again adds each to its own", {u"กลับบน 122-100-20"_s, u"กลับบน 122-100-20"_s},
+        {u"1: 212=40"_s, u"1: 221=40"_s, u"1: 122=200"_s});
+    row("a row found goes stale once another is inserted above it",
+        {u"บน 321-10"_s, u"กลับบน 123-100-20"_s},
+        {u"1: 132=20"_s, u"1: 213=20"_s, u"1: 231=20"_s, u"1: 312=20"_s, u"1: 123=120"_s,
+         u"1: 321=10"_s});
+    row("the doors of a digit, the double once, the full amount on each",
+        {u"บน 55-10"_s, u"19 ประตู (บน) 5-100"_s},
+        {u"3: 95=100"_s, u"3: 85=100"_s, u"3: 75=100"_s, u"3: 65=100"_s, u"3: 45=100"_s,
+         u"3: 35=100"_s, u"3: 25=100"_s, u"3: 15=100"_s, u"3: 05=100"_s, u"3: 59=100"_s,
+         u"3: 58=100"_s, u"3: 57=100"_s, u"3: 56=100"_s, u"3: 54=100"_s, u"3: 53=100"_s,
+         u"3: 52=100"_s, u"3: 51=100"_s, u"3: 50=100"_s, u"3: 55=110"_s});
+    row("the doubles", {u"00-99 (ล่าง) -500"_s},
+        {u"7: 99=500"_s, u"7: 88=500"_s, u"7: 77=500"_s, u"7: 66=500"_s, u"7: 55=500"_s,
+         u"7: 44=500"_s, u"7: 33=500"_s, u"7: 22=500"_s, u"7: 11=500"_s, u"7: 00=500"_s});
     row("runs", {u"วิ่งบน 0-10"_s, u"วิ่งล่าง 0-99999"_s}, {u"5: 0=10"_s, u"8: 0=99,999"_s});
 }
 
@@ -119,6 +144,17 @@ void BuildersTest::refusedLineAddsNothing_data()
     row(u"วิ่งล่าง 1-000100"_s, tooMuch); // digits are counted, whatever they say
     row(u"บน 1-2-3"_s, dashes);
     row(u"กลับบน 123-10"_s, dashes);
+    row(u"กลับบน 123-10-20-5"_s, dashes);
+    row(u"กลับบน 7-10-20"_s, twoDigits);
+    row(u"กลับล่าง 22-10-20"_s, allEqual);
+    row(u"กลับบน 123-10-"_s, noAmount);
+    row(u"กลับบน 123-0-20"_s, oneBaht); // either amount has to be good
+    row(u"กลับบน 123-10-0"_s, oneBaht);
+    row(u"19 ประตู (บน) 55-10"_s, oneDigit);
+    row(u"19 ประตู (ล่าง) -10"_s, noNumber);
+    row(u"00-99 (บน) 12-"_s, u"ไม่สามารถบันทึกได้ ( 00-99 ไม่ต้องใส่เลข ให้ใส่จำนวนเงิน เช่น -500 ) "
+                             "โปรดทำการแก้ไข ก่อนเริ่มบันทึก"_s); // before the amount is looked at
+    row(u"00-99 (บน) -"_s, noAmount);
 }
 
 void BuildersTest::refusedLineAddsNothing()
