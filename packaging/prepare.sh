@@ -11,6 +11,7 @@
 #   screen  to show windows where there is no display
 #   test    to run the tests and the format check
 #   lint    to run the static checks by hand
+#   voice   to make the recordings anew
 packages='
 build   build-essential   the C++ compiler, the linker and the system headers
 build   cmake             configures the build and runs the tests
@@ -28,6 +29,9 @@ screen  xauth             admits programs to the virtual screen
 test    sqlcipher         reads the book independently of the program
 test    clang-format      checks the layout of the source
 lint    clang-tidy        checks the source for common mistakes
+voice   espeak-ng         speaks the words of the recordings
+voice   sox               trims and levels the recordings
+voice   lame              packs the recordings
 '
 
 # Says why the script cannot go on, and ends it.
