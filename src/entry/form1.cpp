@@ -6,12 +6,17 @@
 #include "entry/builders.h"
 #include "entry/keyedline.h"
 #include "entry/save.h"
+#include "entry/showkey.h"
+#include "entry/voice.h"
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
 #include "ledger/ledger.h"
+#include "platform/keycodes.h"
 #include "platform/msgbox.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
+
+#include <QKeyEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -65,12 +70,15 @@ Form1::~Form1() = default;
 void Form1::connectControls()
 {
     const auto *guard = new FieldGuard(this, &m_focus);
+    m_ui->Tnumber->installEventFilter(this); // behind the guard's, so it sees a key before it
     connect(guard, &FieldGuard::entered, this, &Form1::Tnumber_KeyPress);
     connect(&m_focus, &FocusTracker::gotFocus, this, &Form1::controlGotFocus);
     connect(&m_focus, &FocusTracker::lostFocus, this, &Form1::controlLostFocus);
     connect(m_ui->Combo1, &Combo::clicked, this, &Form1::Combo1_Click);
     m_ui->Combo1->keyPress = [this](int code) { return Combo1_KeyPress(code); };
     connect(m_ui->Combo2, &Combo::clicked, this, &Form1::Combo2_Click);
+    connect(m_ui->C01, &QCheckBox::clicked, this, &Form1::C01_Click);
+    connect(m_ui->Label12, &QPushButton::clicked, this, &Form1::Label12_Click);
     connect(m_ui->SSTab1, &TabStrip::clicked, this, &Form1::SSTab1_Click);
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Form1::lvButtons_H0_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form1::lvButtons_H1_Click);
@@ -91,6 +99,50 @@ void Form1::showEvent(QShowEvent *event)
     QWidget::showEvent(event);
     if (!event->spontaneous())     // not when the desktop brings back a minimised window
         m_ui->Tnumber->setFocus(); // so that keying can begin at once
+}
+
+bool Form1::eventFilter(QObject *, QEvent *event)
+{
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto &key = *static_cast<QKeyEvent *>(event);
+    const int code = keyCode(key);
+    const bool chosen = !TnumberAway && findKey(KindKeys, code);
+    Form_KeyDown(code);
+    return chosen && !key.modifiers().testFlag(Qt::AltModifier); // Alt+F4 closes the window
+}
+
+/// Any key, key repeats too, while the entry field has the focus: speaks it, and chooses a kind
+/// where it is a kind key. What was typed up to then is thrown away with the old kind.
+void Form1::Form_KeyDown(int code)
+{
+    if (TnumberAway)
+        return;
+    const bool voiceOn = m_ui->C01->isChecked();
+    if (const EchoKey *echo = findKey(EchoKeys, code); echo && voiceOn)
+        ReadKey(mmcAudio, echo->file);
+    const KindKey *kind = findKey(KindKeys, code);
+    if (!kind)
+        return;
+    if (voiceOn)
+        ReadKey(mmcAudio, kind->file);
+    m_ui->Tnumber->clear();
+    m_ui->Tnumber->setFocus();
+    m_ui->Label3->setText(QString::fromUtf16(KindEntries[size_t(kind->listIndex)].caption));
+    m_ui->Combo2->setListIndex(kind->listIndex);
+}
+
+/// " เปิด / ปิด เสียงพูด": a word still sounding is cut off when the voice is turned off.
+void Form1::C01_Click()
+{
+    if (!m_ui->C01->isChecked())
+        mmcAudio.Command(MediaCommand::Close);
+}
+
+/// "&คีย์ลัด": the picture of the shortcut keys.
+void Form1::Label12_Click()
+{
+    ShowKey::open(window());
 }
 
 void Form1::controlGotFocus(QWidget *control)

@@ -4,6 +4,7 @@
 
 #include "entry/ticket.h"
 #include "platform/focustracker.h"
+#include "platform/mediacontrol.h"
 #include "platform/progressbar.h"
 
 #include <QWidget>
@@ -29,10 +30,14 @@ public:
 protected:
     void showEvent(QShowEvent *event) override;
 
+    /// Hands Form_KeyDown each key of the entry field ahead of the field.
+    bool eventFilter(QObject *object, QEvent *event) override;
+
 private:
     void connectControls();
     void Form_Load();
 
+    void Form_KeyDown(int code);
     void controlGotFocus(QWidget *control);
     void controlLostFocus(QWidget *control);
     void Tnumber_GotFocus();
@@ -42,6 +47,8 @@ private:
     void Combo1_Click();
     int Combo1_KeyPress(int code);
     void Combo2_Click();
+    void C01_Click();
+    void Label12_Click();
 
     void lvButtons_H0_Click();
     void lvButtons_H1_Click();
@@ -59,6 +66,7 @@ private:
     ProgressBar &m_progress;
     FocusTracker m_focus;
     Ticket m_ticket;
+    MediaControl mmcAudio;
     std::array<Spread *, ClassCount> m_spreads;
     quint8 GridTouched = 0;  ///< 1 to 8: the grid activated last; 0 at load
     bool TnumberAway = true; ///< false while Tnumber holds the focus

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QtGlobal>
 
 namespace desktop {
 
@@ -17,5 +18,9 @@ void loadKeyboardLayout(const QByteArray &id);
 /// State of the lock keys; false where the desktop does not tell.
 bool capsLock();
 bool numLock();
+
+/// Code of a key, as keyCode() counts them, from what the desktop's event says of it; 0 for a
+/// key that has none there, -1 where the event says nothing.
+int nativeKeyCode(quint32 scanCode, quint32 virtualKey);
 
 } // namespace desktop

@@ -26,4 +26,9 @@ bool numLock()
     return (GetKeyState(VK_NUMLOCK) & 1) != 0;
 }
 
+int nativeKeyCode(quint32, quint32 virtualKey)
+{
+    return virtualKey == 0 ? -1 : int(virtualKey);
+}
+
 } // namespace desktop

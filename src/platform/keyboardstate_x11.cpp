@@ -6,6 +6,7 @@
 
 #include <X11/XKBlib.h>
 #include <X11/Xatom.h>
+#include <X11/keysym.h>
 
 #include <array>
 
@@ -49,6 +50,26 @@ struct KnownLayout
     const char *group;
 };
 constexpr std::array KnownLayouts{KnownLayout{"00000409", "us"}, KnownLayout{"0000041E", "th"}};
+
+/// Places of the digit row and its minus on every keyboard, whatever their layout: 1 to 9, then
+/// 0, then minus.
+constexpr quint32 FirstDigitPlace = 10;
+constexpr std::array DigitRowCodes{49, 50, 51, 52, 53, 54, 55, 56, 57, 48, 189};
+
+struct SymbolCode
+{
+    quint32 symbol;
+    int code;
+};
+constexpr std::array SymbolCodes{
+    SymbolCode{XK_Prior, 33},        SymbolCode{XK_Next, 34},      SymbolCode{XK_End, 35},
+    SymbolCode{XK_Home, 36},         SymbolCode{XK_Left, 37},      SymbolCode{XK_Up, 38},
+    SymbolCode{XK_Right, 39},        SymbolCode{XK_Down, 40},      SymbolCode{XK_Delete, 46},
+    SymbolCode{XK_KP_Prior, 33},     SymbolCode{XK_KP_Next, 34},   SymbolCode{XK_KP_End, 35},
+    SymbolCode{XK_KP_Home, 36},      SymbolCode{XK_KP_Left, 37},   SymbolCode{XK_KP_Up, 38},
+    SymbolCode{XK_KP_Right, 39},     SymbolCode{XK_KP_Down, 40},   SymbolCode{XK_KP_Delete, 46},
+    SymbolCode{XK_KP_Subtract, 109}, SymbolCode{XK_Control_L, 17}, SymbolCode{XK_Control_R, 17},
+};
 
 bool lockIndicator(unsigned int bit)
 {
@@ -95,6 +116,25 @@ bool capsLock()
 bool numLock()
 {
     return lockIndicator(1U << 1);
+}
+
+int nativeKeyCode(quint32 scanCode, quint32 virtualKey)
+{
+    if (scanCode == 0 && virtualKey == 0)
+        return -1;
+    // Symbols of the digit row change with layout and shift, its places do not; the other way
+    // round on the key pad, where Num Lock decides between digits and arrows.
+    if (scanCode >= FirstDigitPlace && scanCode < FirstDigitPlace + DigitRowCodes.size())
+        return DigitRowCodes[scanCode - FirstDigitPlace];
+    if (virtualKey >= XK_F1 && virtualKey <= XK_F12)
+        return int(virtualKey - XK_F1) + 112;
+    if (virtualKey >= XK_KP_0 && virtualKey <= XK_KP_9)
+        return int(virtualKey - XK_KP_0) + 96;
+    for (const SymbolCode &known : SymbolCodes) {
+        if (virtualKey == known.symbol)
+            return known.code;
+    }
+    return 0;
 }
 
 } // namespace desktop

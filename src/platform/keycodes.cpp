@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "platform/keycodes.h"
 
+#include "platform/keyboardstate.h"
+
 #include <QKeyEvent>
+
+#include <array>
 
 namespace {
 
@@ -28,6 +32,32 @@ int namedKeyCode(int key, bool ctrl)
     }
 }
 
+struct NamedKey
+{
+    int key;
+    int code;
+};
+constexpr std::array NamedKeys{
+    NamedKey{Qt::Key_Minus, 189}, NamedKey{Qt::Key_PageUp, 33},  NamedKey{Qt::Key_PageDown, 34},
+    NamedKey{Qt::Key_End, 35},    NamedKey{Qt::Key_Home, 36},    NamedKey{Qt::Key_Left, 37},
+    NamedKey{Qt::Key_Up, 38},     NamedKey{Qt::Key_Right, 39},   NamedKey{Qt::Key_Down, 40},
+    NamedKey{Qt::Key_Delete, 46}, NamedKey{Qt::Key_Control, 17},
+};
+
+/// Code of a key by the toolkit's name of it.
+int codeOfNamedKey(int key)
+{
+    if (key >= Qt::Key_0 && key <= Qt::Key_9)
+        return key - Qt::Key_0 + 48;
+    if (key >= Qt::Key_F1 && key <= Qt::Key_F12)
+        return key - Qt::Key_F1 + 112;
+    for (const NamedKey &named : NamedKeys) {
+        if (key == named.key)
+            return named.code;
+    }
+    return 0;
+}
+
 } // namespace
 
 int characterCode(const QKeyEvent &key)
@@ -42,6 +72,12 @@ int characterCode(const QKeyEvent &key)
         return ctrl && letter ? key.key() - Qt::Key_A + 1 : 0;
     }
     return key.text().isEmpty() ? 0 : key.text().front().unicode();
+}
+
+int keyCode(const QKeyEvent &key)
+{
+    const int code = desktop::nativeKeyCode(key.nativeScanCode(), key.nativeVirtualKey());
+    return code >= 0 ? code : codeOfNamedKey(key.key());
 }
 
 bool isStrayText(const QKeyEvent &key)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the program asks of a desktop, as far as it stands without windows: grid contents, dates of
 // the region, the program's folder and its end.
+#include "platform/keycodes.h"
 #include "platform/programend.h"
 #include "platform/programfolder.h"
 #include "platform/region.h"
@@ -9,6 +10,7 @@
 #include "support/outcome.h"
 
 #include <QAbstractItemModelTester>
+#include <QKeyEvent>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -21,6 +23,8 @@ private slots:
     void gridKeepsItsRowsInOrder();
     void datesOfTheRegion_data();
     void datesOfTheRegion();
+    void keysAreKnownByTheirPlace_data();
+    void keysAreKnownByTheirPlace();
     void driveRootGetsNoSecondSlash();
     void unhandledErrorIsReportedThenAllIsClosed();
 };
@@ -67,6 +71,38 @@ void PlatformTest::datesOfTheRegion()
     const QDate day(2026, 11, 22);
     QTEST(shortDate(day, QLocale(region)), "shortForm");
     QTEST(longDate(day, QLocale(region)), "longForm");
+}
+
+void PlatformTest::keysAreKnownByTheirPlace_data()
+{
+    QTest::addColumn<int>("key");
+    QTest::addColumn<quint32>("place");
+    QTest::addColumn<quint32>("symbol");
+    QTest::addColumn<int>("code");
+    const auto row = [](const char *name, int key, quint32 place, quint32 symbol, int code) {
+        QTest::newRow(name) << key << place << symbol << code;
+    };
+    row("1", Qt::Key_1, 10, 0x31, 49);
+    row("1 with Shift", Qt::Key_Exclam, 10, 0x21, 49);
+    row("1 under a Thai layout", 0xe45, 10, 0xde5, 49);
+    row("0", Qt::Key_0, 19, 0x30, 48);
+    row("minus with Shift", Qt::Key_Underscore, 20, 0x5f, 189);
+    row("minus of the key pad", Qt::Key_Minus, 82, 0xffad, 109);
+    row("7 of the key pad", Qt::Key_7, 79, 0xffb7, 103);
+    row("the same without Num Lock", Qt::Key_Home, 79, 0xff95, 36);
+    row("right Ctrl", Qt::Key_Control, 105, 0xffe4, 17);
+    row("F12", Qt::Key_F12, 96, 0xffc9, 123);
+    row("a letter", Qt::Key_A, 38, 0x61, 0);
+    row("1 where the desktop says nothing", Qt::Key_1, 0, 0, 49);
+    row("a letter where it says nothing", Qt::Key_A, 0, 0, 0);
+}
+
+void PlatformTest::keysAreKnownByTheirPlace()
+{
+    QFETCH(int, key);
+    QFETCH(quint32, place);
+    QFETCH(quint32, symbol);
+    QTEST(keyCode(QKeyEvent(QEvent::KeyPress, key, {}, place, symbol, 0)), "code");
 }
 
 void PlatformTest::driveRootGetsNoSecondSlash()

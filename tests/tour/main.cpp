@@ -20,11 +20,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A program folder of its own, with an empty Ledger and the look of the real one.
+/// A program folder of its own, with an empty Ledger, and the look and the words of the real one.
 void layFolder(const QString &folder)
 {
-    QDir(folder).mkpath(u"data/Styles"_s);
-    QFile::copy(programFile(u"data/Styles/mirakla.qss"_s), folder + u"/data/Styles/mirakla.qss"_s);
+    for (const auto &part : {u"data/Styles"_s, u"data/mp3"_s}) {
+        QDir(folder).mkpath(part);
+        const QDir real(programFile(part));
+        const QStringList files = real.entryList(QDir::Files);
+        for (const QString &file : files)
+            QFile::copy(real.filePath(file), folder + u'/' + part + u'/' + file);
+    }
     makeEmptyLedger(folder + u"/data/ztkdata.ZDB"_s);
     setProgramFolder(folder);
 }
@@ -51,7 +56,10 @@ bool playDraw(const QString &path, const QString &pictures)
     const auto window = startProgram();
     if (!window || !QTest::qWaitForWindowActive(window.get()))
         qFatal("the program did not come up");
-    Player player(*window, pictures, QFileInfo(path).baseName());
+    // The first draw is keyed by mouse and list, the others by kind keys and with the voice on.
+    const bool byKey = QFileInfo(path).baseName() != u"draw0"_s;
+    Player player(*window, pictures, QFileInfo(path).baseName(),
+                  byKey ? Player::Kinds::ByKey : Player::Kinds::FromTheList);
     player.play(draw);
     CloseLedger();
     setProgramFolder(realFolder);
@@ -85,7 +93,7 @@ int main(int argc, char **argv)
         qFatal("cannot make the folder for the pictures");
     QStringList draws = options.positionalArguments();
     if (draws.isEmpty())
-        draws = {QStringLiteral(TOUR_DRAWS "/draw0.txt")};
+        draws = {QStringLiteral(TOUR_DRAWS "/draw0.txt"), QStringLiteral(TOUR_DRAWS "/draw1.txt")};
 
     bool same = true;
     for (const QString &draw : draws)

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "tour/player.h"
 
-#include "entry/vocabulary.h"
+#include "entry/showkey.h"
+#include "entry/voice.h"
 #include "ledger/ledger.h"
 #include "platform/combo.h"
 #include "platform/pushbutton.h"
@@ -11,14 +12,15 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
 
-Player::Player(MDIForm1 &window, const QString &pictures, const QString &name)
-    : m_window(window), m_pictures(pictures), m_name(name)
+Player::Player(MDIForm1 &window, const QString &pictures, const QString &name, Kinds kinds)
+    : m_window(window), m_pictures(pictures), m_name(name), m_kinds(kinds)
 {
     QObject::connect(&m_hands, &Hands::boxShown, &m_window,
                      [this](QWidget *box) { takePicture(u"box"_s, box); });
@@ -36,6 +38,11 @@ Control *Player::control(const char *name) const
 void Player::play(const Draw &draw)
 {
     takePicture(u"start"_s);
+    if (m_kinds == Kinds::ByKey) {
+        showKeys();
+        Hands::click(control<QCheckBox>("C01"));
+        Hands::click(control<QLineEdit>("Tnumber"));
+    }
     for (const DrawTicket &ticket : draw.tickets)
         playTicket(ticket);
     checkBook(draw.book);
@@ -69,22 +76,54 @@ void Player::playLine(const DrawLine &line)
 
 void Player::chooseKind(const QString &caption)
 {
-    auto *combo = control<Combo>("Combo2");
     if (control<QLabel>("Label3")->text() == caption)
         return;
     const auto entry = std::find_if(KindEntries.begin(), KindEntries.end(), [&](const auto &kind) {
         return caption == QStringView(kind.caption);
     });
+    const int index = int(entry - KindEntries.begin());
+    if (m_kinds == Kinds::ByKey)
+        chooseByKey(index);
+    else
+        chooseFromList(index);
+    compare(u"kind"_s, caption, control<QLabel>("Label3")->text());
+}
+
+void Player::chooseFromList(int index)
+{
+    auto *combo = control<Combo>("Combo2");
     combo->showPopup();
     takePicture(u"kinds"_s, combo->view()->window());
-    const auto index = combo->model()->index(int(entry - KindEntries.begin()), 0);
-    combo->view()->scrollTo(index);
-    QTest::mouseMove(combo->view()->viewport(), combo->view()->visualRect(index).center());
-    QTest::mouseClick(combo->view()->viewport(), Qt::LeftButton, {},
-                      combo->view()->visualRect(index).center());
+    const auto entry = combo->model()->index(index, 0);
+    combo->view()->scrollTo(entry);
+    const QPoint place = combo->view()->visualRect(entry).center();
+    QTest::mouseMove(combo->view()->viewport(), place);
+    QTest::mouseClick(combo->view()->viewport(), Qt::LeftButton, {}, place);
     if (!QTest::qWaitFor([&] { return control<QLineEdit>("Tnumber")->hasFocus(); }))
         compare(u"focus after choosing a kind"_s, u"Tnumber"_s, u"elsewhere"_s);
-    compare(u"kind"_s, caption, control<QLabel>("Label3")->text());
+}
+
+void Player::chooseByKey(int index)
+{
+    constexpr int F1 = 112;
+    for (const KindKey &key : KindKeys) {
+        if (key.listIndex == index)
+            Hands::press(key.codes[0] >= F1 ? Qt::Key(Qt::Key_F1 + key.codes[0] - F1)
+                                            : Qt::Key_End);
+    }
+}
+
+void Player::showKeys()
+{
+    Hands::click(control<PushButton>("Label12"));
+    auto *keys = m_window.findChild<ShowKey *>();
+    if (!keys || !QTest::qWaitForWindowActive(keys))
+        compare(u"picture of the keys"_s, u"shown"_s, u"not shown"_s);
+    takePicture(u"keys"_s, keys);
+    Hands::press(Qt::Key_Escape);
+    if (!QTest::qWaitForWindowActive(&m_window))
+        compare(u"main window after the keys"_s, u"active"_s, u"behind"_s);
+    Hands::click(control<QLineEdit>("Tnumber"));
 }
 
 void Player::chooseCustomer(const QString &name)

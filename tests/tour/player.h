@@ -12,8 +12,10 @@ class MDIForm1;
 class Player
 {
 public:
+    enum class Kinds { FromTheList, ByKey };
+
     /// Pictures go to the folder @p pictures, named after @p name, the draw's.
-    Player(MDIForm1 &window, const QString &pictures, const QString &name);
+    Player(MDIForm1 &window, const QString &pictures, const QString &name, Kinds kinds);
 
     /// Keys all tickets of @p draw and saves them.
     void play(const Draw &draw);
@@ -27,6 +29,9 @@ private:
     void playTicket(const DrawTicket &ticket);
     void playLine(const DrawLine &line);
     void chooseKind(const QString &caption);
+    void chooseFromList(int index);
+    static void chooseByKey(int index);
+    void showKeys();
     void chooseCustomer(const QString &name);
     void clearField();
     void save();
@@ -42,6 +47,7 @@ private:
     MDIForm1 &m_window;
     QString m_pictures;
     QString m_name;
+    Kinds m_kinds;
     Hands m_hands;
     QStringList m_differences;
     QSet<QString> m_scenes;

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: MIT
+#include "entry/showkey.h"
+
+#include "entry/keyboardpicture.h"
+#include "platform/pushbutton.h"
+
+#include <QScreen>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+ShowKey::ShowKey(QWidget *owner) : QDialog(owner)
+{
+    setObjectName(u"ShowKey"_s);
+    setWindowTitle(u"คีย์ลัด"_s);
+    auto *picture = new KeyboardPicture(this);
+    picture->setAccessibleName(windowTitle());
+    auto *leave = new PushButton(u"ออกจากหน้านี้"_s, this);
+    leave->setObjectName(u"leave"_s);
+    auto *column = new QVBoxLayout(this);
+    column->addWidget(picture, 1);
+    column->addWidget(leave, 0, Qt::AlignRight);
+    connect(leave, &QPushButton::clicked, this, &QDialog::reject);
+    connect(this, &QDialog::finished, owner, [this, owner] {
+        owner->activateWindow(); // a desktop without a window manager leaves it without keys
+        deleteLater();
+    });
+}
+
+void ShowKey::open(QWidget *owner)
+{
+    auto *window = owner->findChild<ShowKey *>(QString(), Qt::FindDirectChildrenOnly);
+    if (!window) {
+        window = new ShowKey(owner);
+        const QRect desktop = owner->screen()->availableGeometry();
+        window->resize(window->sizeHint().boundedTo(desktop.size() * 0.95));
+        window->move(desktop.center() - window->rect().center());
+    }
+    window->show();
+    window->raise();
+    window->activateWindow();
+}

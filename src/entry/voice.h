@@ -1,0 +1,70 @@
+// SPDX-License-Identifier: MIT
+// The voice and the kind keys: each key is spoken as it is pressed, so that the keyer's eyes stay
+// on the paper, and single keys choose the kind of bet.
+#pragma once
+
+#include "entry/vocabulary.h"
+#include "platform/mediacontrol.h"
+
+#include <array>
+
+/// Two codes of one key: of the function row or main keyboard, and of a second place. Codes are
+/// those of keys, not of characters: layout and shift have no say. 0 is no key.
+using KeyCodes = std::array<int, 2>;
+
+/// A key that is echoed, with its recording below data/mp3.
+struct EchoKey
+{
+    KeyCodes codes;
+    const char *file;
+};
+
+inline constexpr std::
+    array
+        EchoKeys{
+            EchoKey{{49, 97}, "1.mp3"},       EchoKey{{50, 98}, "2.mp3"},
+            EchoKey{{51, 99}, "3.mp3"},       EchoKey{{52, 100}, "4.mp3"},
+            EchoKey{{53, 101}, "5.mp3"},      EchoKey{{54, 102}, "6.mp3"},
+            EchoKey{{55, 103}, "7.mp3"},      EchoKey{{56, 104}, "8.mp3"},
+            EchoKey{{57, 105}, "9.mp3"},      EchoKey{{48, 96}, "0.mp3"},
+            EchoKey{{109, 189}, "money.mp3"}, // the dash, of the key pad and of the main keyboard
+        };
+
+/// A key that chooses a kind: its recording, and the kind's place in KindEntries.
+struct KindKey
+{
+    KeyCodes codes;
+    std::array<const char *, 2> keys; ///< names of the keys, as they stand on a keyboard
+    const char *file;
+    int listIndex;
+};
+
+inline constexpr std::array KindKeys{
+    KindKey{{112, 38}, {"F1", "↑"}, "up.mp3", 1},
+    KindKey{{113, 37}, {"F2", "←"}, "runup.mp3", 4},
+    KindKey{{117, 39}, {"F6", "→"}, "rundown.mp3", 5},
+    KindKey{{116, 40}, {"F5", "↓"}, "down.mp3", 3},
+    KindKey{{17, 35}, {"Ctrl", "End"}, "tod.mp3", 2},
+    KindKey{{114, 33}, {"F3", "PgUp"}, "kup.mp3", 6},
+    KindKey{{118, 34}, {"F7", "PgDn"}, "kdown.mp3", 7},
+    KindKey{{120, 46}, {"F9", "Delete"}, "tongtod.mp3", 9},
+    KindKey{{121, 36}, {"F10", "Home"}, "updown.mp3", 10},
+    KindKey{{115, 0}, {"F4", nullptr}, "19up.mp3", 12},
+    KindKey{{119, 0}, {"F8", nullptr}, "19down.mp3", 15},
+    KindKey{{122, 0}, {"F11", nullptr}, "0099up.mp3", 13},
+    KindKey{{123, 0}, {"F12", nullptr}, "0099down.mp3", 16},
+};
+
+/// Entry of a table of keys that has @p code, or nothing.
+template<typename Keys>
+constexpr auto findKey(const Keys &keys, int code) -> decltype(keys.data())
+{
+    for (const auto &key : keys) {
+        if (code != 0 && (key.codes[0] == code || key.codes[1] == code))
+            return &key;
+    }
+    return nullptr;
+}
+
+/// Speaks the recording @p file of data/mp3, cutting off the word before it. Returns at once.
+void ReadKey(MediaControl &player, const char *file);

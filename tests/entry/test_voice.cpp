@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: MIT
+// Kind keys and the voice: what the keys choose, and what is heard, taken from the sound device.
+#include "entry/form1.h"
+#include "entry/voice.h"
+#include "platform/application.h"
+#include "platform/combo.h"
+#include "platform/programfolder.h"
+#include "platform/spread.h"
+#include "platform/workprogress.h"
+#include "support/hands.h"
+#include "support/testledger.h"
+
+#include <QCheckBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+#include <SDL_mixer.h>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString recordingPath()
+{
+    return qEnvironmentVariable("SDL_DISKAUDIOFILE");
+}
+
+QByteArray recorded()
+{
+    QFile file(recordingPath());
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// Samples of a word's recording.
+QByteArray wordSamples(const QString &name)
+{
+    Mix_Chunk *chunk = Mix_LoadWAV(qPrintable(programFile(u"data/mp3/"_s + name + u".mp3"_s)));
+    if (!chunk)
+        qFatal("cannot read the word %s", qPrintable(name));
+    const QByteArray samples(reinterpret_cast<const char *>(chunk->abuf), int(chunk->alen));
+    Mix_FreeChunk(chunk);
+    return samples;
+}
+
+} // namespace
+
+class VoiceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void kindKeysChooseTheKind_data();
+    void kindKeysChooseTheKind();
+    void kindKeyThrowsHalfALineAway();
+    void kindKeysWorkInTheEntryFieldAlone();
+    void voiceTurnedOffTouchesNoDevice();
+    void lineIsSpokenKeyByKey();
+    void nextKeyCutsTheWordOff();
+    void brokenRecordingStaysSilent();
+
+private:
+    template<typename Control>
+    Control *control(const char *name) const
+    {
+        return m_page->findChild<Control *>(QLatin1String(name));
+    }
+    void turnVoiceOn() const
+    {
+        Hands::click(control<QCheckBox>("C01"));
+        Hands::click(control<QLineEdit>("Tnumber"));
+    }
+    /// Presses a key and waits until its whole word has been heard, behind those before it.
+    bool heard(Qt::Key key, const QString &word)
+    {
+        Hands::press(key);
+        const QByteArray samples = wordSamples(word);
+        qsizetype at = -1;
+        const bool found =
+            QTest::qWaitFor([&] { return (at = recorded().indexOf(samples, m_heard)) >= 0; });
+        m_heard = at + samples.size();
+        return found;
+    }
+
+    std::optional<TestLedger> m_ledger;
+    std::optional<WorkProgress> m_progress;
+    std::optional<Hands> m_hands;
+    std::optional<Form1> m_page;
+    qsizetype m_heard = 0;
+};
+
+void VoiceTest::init()
+{
+    m_ledger.emplace();
+    QDir(programFolder()).mkpath(u"data/mp3"_s);
+    const QDir words(QStringLiteral(RECORDINGS));
+    const QStringList names = words.entryList({u"*.mp3"_s});
+    for (const QString &name : names)
+        QFile::copy(words.filePath(name), programFile(u"data/mp3/"_s + name));
+    m_progress.emplace();
+    m_hands.emplace();
+    m_page.emplace(*m_progress, nullptr);
+    m_page->show();
+    QVERIFY(QTest::qWaitForWindowActive(&*m_page));
+}
+
+void VoiceTest::cleanup()
+{
+    QCOMPARE(m_hands->takeBoxes(), QStringList());
+    m_page.reset();
+    m_hands.reset();
+    m_progress.reset();
+    m_ledger.reset();
+}
+
+void VoiceTest::kindKeysChooseTheKind_data()
+{
+    QTest::addColumn<QList<int>>("keys");
+    QTest::addColumn<QString>("caption");
+    const auto row = [](const QList<int> &keys, const QString &caption) {
+        QTest::newRow(qUtf8Printable(caption)) << keys << caption;
+    };
+    row({Qt::Key_F1, Qt::Key_Up}, u"บน"_s);
+    row({Qt::Key_F2, Qt::Key_Left}, u"วิ่งบน"_s);
+    row({Qt::Key_F6, Qt::Key_Right}, u"วิ่งล่าง"_s);
+    row({Qt::Key_F5, Qt::Key_Down}, u"ล่าง"_s);
+    row({Qt::Key_Control, Qt::Key_End}, u"โต๊ด"_s);
+    row({Qt::Key_F3, Qt::Key_PageUp}, u"กลับบน"_s);
+    row({Qt::Key_F7, Qt::Key_PageDown}, u"กลับล่าง"_s);
+    row({Qt::Key_F9, Qt::Key_Delete}, u"ตรง+โต๊ด"_s);
+    row({Qt::Key_F10, Qt::Key_Home}, u"บน+ล่าง"_s);
+    row({Qt::Key_F4}, u"19 ประตู (บน)"_s);
+    row({Qt::Key_F8}, u"19 ประตู (ล่าง)"_s);
+    row({Qt::Key_F11}, u"00-99 (บน)"_s);
+    row({Qt::Key_F12}, u"00-99 (ล่าง)"_s);
+}
+
+void VoiceTest::kindKeysChooseTheKind()
+{
+    QFETCH(QList<int>, keys);
+    for (const int key : keys) {
+        for (const auto shift : {Qt::NoModifier, Qt::ShiftModifier}) {
+            control<Combo>("Combo2")->setListIndex(0);
+            control<QLineEdit>("Tnumber")->setFocus();
+            QTest::keyClick(Hands::focus(), Qt::Key(key), shift);
+            QTEST(control<QLabel>("Label3")->text(), "caption");
+            QCOMPARE(u"- "_s + control<QLabel>("Label3")->text(),
+                     control<Combo>("Combo2")->currentText());
+            QCOMPARE(Hands::focus()->objectName(), u"Tnumber"_s);
+        }
+    }
+}
+
+void VoiceTest::kindKeyThrowsHalfALineAway()
+{
+    Hands::type(u"12-"_s);
+    Hands::press(Qt::Key_Home); // never an editing key here
+    QCOMPARE(control<QLineEdit>("Tnumber")->text(), QString());
+    Hands::type(u"12-5"_s);
+    Hands::press(Qt::Key_Return);
+    QCOMPARE(control<Spread>("fpSpread7")->text(1, 2), u"5"_s); // "บน+ล่าง"
+}
+
+void VoiceTest::kindKeysWorkInTheEntryFieldAlone()
+{
+    for (const char *elsewhere : {"Combo1", "fpSpread1", "lvButtons_H0"}) {
+        control<QWidget>(elsewhere)->setFocus();
+        Hands::press(Qt::Key_F1);
+        QCOMPARE(control<QLabel>("Label3")->text(), u"ประเภท"_s);
+    }
+    control<QLineEdit>("Tnumber")->setFocus();
+    Hands::type(u"12"_s);
+    connect(&*m_hands, &Hands::boxShown, this,
+            [](QWidget *box) { QTest::keyClick(box, Qt::Key_F1); });
+    Hands::press(Qt::Key_Return); // the line without a dash is refused by a box
+    QCOMPARE(m_hands->takeBoxes().size(), 1);
+    QCOMPARE(control<QLabel>("Label3")->text(), u"ประเภท"_s);
+    QCOMPARE(control<QLineEdit>("Tnumber")->text(), u"12"_s);
+}
+
+void VoiceTest::voiceTurnedOffTouchesNoDevice()
+{
+    Hands::press(Qt::Key_F1);
+    Hands::type(u"12-5"_s);
+    QVERIFY(!QFile::exists(recordingPath()));
+}
+
+void VoiceTest::lineIsSpokenKeyByKey()
+{
+    turnVoiceOn();
+    Hands::press(Qt::Key_F1);
+    QVERIFY(QTest::qWaitFor([] { return !recorded().isEmpty(); })); // the device is open
+    m_heard = 0;
+    QVERIFY(heard(Qt::Key_F2, u"runup"_s));
+    QVERIFY(heard(Qt::Key_7, u"7"_s));
+    QVERIFY(heard(Qt::Key_Minus, u"money"_s));
+    QVERIFY(heard(Qt::Key_5, u"5"_s));
+    QVERIFY(heard(Qt::Key_0, u"0"_s));
+    Hands::press(Qt::Key_Return);
+    QCOMPARE(control<Spread>("fpSpread5")->text(1, 2), u"50"_s);
+}
+
+void VoiceTest::nextKeyCutsTheWordOff()
+{
+    turnVoiceOn();
+    m_heard = recorded().size();
+    Hands::type(u"123"_s);
+    QVERIFY(heard(Qt::Key_4, u"4"_s));
+    for (const auto &word : {u"1"_s, u"2"_s, u"3"_s})
+        QVERIFY(recorded().indexOf(wordSamples(word), m_heard - 2 * wordSamples(word).size()) < 0);
+    QCOMPARE(control<QLineEdit>("Tnumber")->text(), u"1234"_s);
+    Hands::press(Qt::Key_9);
+    Hands::click(control<QCheckBox>("C01")); // off: cut off at once
+    Hands::click(control<QCheckBox>("C01"));
+    Hands::click(control<QLineEdit>("Tnumber"));
+    QVERIFY(heard(Qt::Key_8, u"8"_s));
+    QVERIFY(recorded().indexOf(wordSamples(u"9"_s), 0) < 0);
+}
+
+void VoiceTest::brokenRecordingStaysSilent()
+{
+    turnVoiceOn();
+    QVERIFY(QFile::remove(programFile(u"data/mp3/1.mp3"_s)));
+    QFile broken(programFile(u"data/mp3/2.mp3"_s));
+    QVERIFY(broken.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    broken.write("no sound at all");
+    broken.close();
+    m_heard = recorded().size();
+    Hands::type(u"12"_s);
+    QVERIFY(heard(Qt::Key_3, u"3"_s));
+    QCOMPARE(control<QLineEdit>("Tnumber")->text(), u"123"_s);
+}
+
+int main(int argc, char **argv)
+{
+    static const QTemporaryDir soundFolder;
+    qputenv("SDL_AUDIODRIVER", "disk"); // what would be heard is written to a file
+    qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(soundFolder.filePath(u"heard"_s)));
+    qputenv("SDL_DISKAUDIODELAY", "2"); // milliseconds a buffer: five times as fast as heard
+    const Application application(argc, argv);
+    VoiceTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "test_voice.moc"
