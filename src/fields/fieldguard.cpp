@@ -9,6 +9,18 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+namespace {
+
+/// Keys without a character of their own that would fill a field past its filter: Shift+Insert,
+/// and the undo keys of some keyboards, which would bring back what the form had put there.
+bool bringsTextBack(const QKeyEvent &key)
+{
+    return key.matches(QKeySequence::Paste) || key.matches(QKeySequence::Undo)
+           || key.matches(QKeySequence::Redo);
+}
+
+} // namespace
+
 FieldGuard::FieldGuard(QWidget *form, const FocusTracker *focus) : QObject(form), m_form(form)
 {
     for (const FieldRule &rule : FieldTable) {
@@ -59,7 +71,7 @@ bool FieldGuard::keyPressed(QLineEdit *field, const QKeyEvent &key)
     const FieldRule &rule = *m_rules.value(field);
     const int code = characterCode(key);
     if (code == 0)
-        return isStrayText(key) || key.matches(QKeySequence::Paste); // Shift+Insert
+        return isStrayText(key) || bringsTextBack(key);
     if (code == EnterCode) {
         pressEnter(rule);
         return true;

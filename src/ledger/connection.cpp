@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QHash>
 #include <QScopeGuard>
+#include <QTemporaryFile>
 
 #define SQLITE_HAS_CODEC
 #include <sqlite3.h>
@@ -156,6 +157,32 @@ struct Connection::Engine
     QHash<QString, sqlite3_stmt *> prepared;
 };
 
+namespace {
+
+/// The journal and the folder have to take writing as well as the file. Rights alone do not tell,
+/// so both are tried.
+void refuseUnwritable(const QString &path)
+{
+    QFile journal(path + u"-wal"_s);
+    QTemporaryFile probe(path + u"-XXXXXX.tmp"_s);
+    if ((journal.exists() && !journal.open(QIODevice::ReadWrite)) || !probe.open())
+        raiseFailure(SQLITE_READONLY);
+}
+
+/// Looks for damage as deep as the start may take: a broken last page always, every page of a book
+/// of common size. Pages of a longer book are checked as they are read.
+void refuseDamaged(Connection &ledger, const QString &path, bool journalWaited)
+{
+    constexpr qint64 CheckedBytes = 4'000'000;
+    const auto answer = [&](const QString &pragma) { return ledger.run(pragma).rows[0][0]; };
+    const qint64 size = QFile(path).size();
+    const bool torn = !journalWaited && size % answer(u"PRAGMA page_size"_s).toLongLong() != 0;
+    if (torn || (size <= CheckedBytes && answer(u"PRAGMA quick_check(1)"_s) != u"ok"_s))
+        raiseFailure(SQLITE_CORRUPT);
+}
+
+} // namespace
+
 Connection::Connection(std::unique_ptr<Engine> engine) : m_engine(std::move(engine)) {}
 
 Connection::~Connection() = default;
@@ -165,6 +192,9 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
     std::unique_ptr<Connection> ledger(new Connection(std::make_unique<Engine>(path)));
     Engine &engine = *ledger->m_engine;
     try {
+        // The engine would take an emptied file for a new one and delete the journal beside it.
+        if (QFile::exists(path) && QFile(path).size() == 0)
+            raiseFailure(SQLITE_NOTADB);
         engine.openFile(SQLITE_OPEN_READWRITE, password);
         // The engine takes an empty file with any password, and a file that it may only read;
         // both would fail later, in the middle of a ticket.
@@ -172,6 +202,8 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
             raiseFailure(SQLITE_READONLY);
         if (!isLedger(*ledger))
             raiseFailure(SQLITE_NOTADB);
+        refuseUnwritable(path);
+        refuseDamaged(*ledger, path, engine.journalWaited);
     } catch (const RunTimeError &) {
         engine.abandon();
         throw;

@@ -1,5 +1,8 @@
 # SPDX-License-Identifier: MIT
-# Has MAKER make the empty Ledger at LEDGER unless a Ledger is there already.
+# Has MAKER make the empty Ledger at LEDGER unless a Ledger is there already. It gets its name once
+# it is whole, so that a build cut short leaves no half of one.
 if(NOT EXISTS "${LEDGER}")
-    execute_process(COMMAND "${MAKER}" "${LEDGER}" COMMAND_ERROR_IS_FATAL ANY)
+    file(REMOVE "${LEDGER}.new" "${LEDGER}.new-wal")
+    execute_process(COMMAND "${MAKER}" "${LEDGER}.new" COMMAND_ERROR_IS_FATAL ANY)
+    file(RENAME "${LEDGER}.new" "${LEDGER}")
 endif()

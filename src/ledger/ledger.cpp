@@ -58,7 +58,7 @@ qint16 LookupKey(const QString &comboText, const QString &table, const QString &
                     {trimBlanks(comboText)});
     qint16 found = 0;
     if (RecordsetB.recordCount() > 0) {
-        found = CInt(RecordsetB.field(key).toDouble());
+        found = CInt(numberOf(RecordsetB.field(key)));
     } else {
         found = CInt(double(nextKey(table, key)));
         RecordsetB.openTable(table);

@@ -2,6 +2,7 @@
 #include "ledger/recordset.h"
 
 #include "ledger/ledger.h"
+#include "runtime/runtimeerror.h"
 
 #include <algorithm>
 
@@ -25,7 +26,10 @@ QVariant Recordset::field(const QString &column) const
         std::find_if(m_read.columns.begin(), m_read.columns.end(), [&](const QString &name) {
             return name.compare(column, Qt::CaseInsensitive) == 0;
         });
-    Q_ASSERT_X(found != m_read.columns.end(), "Recordset::field", "no such column");
+    if (found == m_read.columns.end())
+        throw RunTimeError(RunTimeError::DatabaseFailure, u"no such column: "_s + column);
+    if (eof())
+        throw RunTimeError(RunTimeError::DatabaseFailure, u"no current row"_s);
     return m_read.rows.at(m_current).at(found - m_read.columns.begin());
 }
 

@@ -24,7 +24,8 @@ public:
 
     void moveNext() { ++m_current; }
 
-    /// Value of a column in the current row; column names go without regard to case.
+    /// Value of a column in the current row; column names go without regard to case. Raises
+    /// DatabaseFailure without a current row or such a column.
     QVariant field(const QString &column) const;
 
     /// Starts a row of the table readied with openTable().

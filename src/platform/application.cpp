@@ -5,7 +5,6 @@
 #include "platform/programend.h"
 
 #include <QFont>
-#include <QStyleFactory>
 
 using namespace Qt::StringLiterals;
 
@@ -17,7 +16,6 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s});
     type.setPointSize(11);
     setFont(type);
-    setStyle(QStyleFactory::create(u"Fusion"_s));
 #endif
     setBoxShower(showMessageBox);
 }

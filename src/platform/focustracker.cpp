@@ -6,6 +6,8 @@
 #include <QMessageBox>
 #include <QWidget>
 
+#include <utility>
+
 namespace {
 
 /// True for windows that stand in front of a form for a moment without taking its place.
@@ -27,9 +29,21 @@ void FocusTracker::focusMoved(QWidget *, QWidget *to)
 {
     if (!to || to == m_current || isPassing(to->window()))
         return;
-    QWidget *left = m_current;
-    m_current = to;
-    if (left)
-        emit lostFocus(left);
-    emit gotFocus(to);
+    // Focus also moves with no event being handed out. As an event of its own the move reaches
+    // its handlers where the run-time errors that they raise are caught.
+    m_left = std::exchange(m_current, to);
+    QEvent moved(QEvent::User);
+    QCoreApplication::sendEvent(this, &moved);
+}
+
+bool FocusTracker::event(QEvent *event)
+{
+    if (event->type() != QEvent::User)
+        return QObject::event(event);
+    const QPointer<QWidget> to = m_current;
+    if (m_left)
+        emit lostFocus(m_left);
+    if (to)
+        emit gotFocus(to);
+    return true;
 }

@@ -22,8 +22,12 @@ signals:
     void lostFocus(QWidget *control);
     void gotFocus(QWidget *control);
 
+protected:
+    bool event(QEvent *event) override;
+
 private:
     void focusMoved(QWidget *from, QWidget *to);
 
     QPointer<QWidget> m_current;
+    QPointer<QWidget> m_left;
 };

@@ -22,6 +22,19 @@ QString dateText(QDate day, const QLocale &region, QLocale::FormatType type)
 
 } // namespace
 
+QLocale machineRegion()
+{
+#ifndef Q_OS_WIN
+    // The toolkit takes the format from one variable and the territory from another.
+    for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
+        const QString name = qEnvironmentVariable(variable);
+        if (!name.isEmpty())
+            return QLocale(name);
+    }
+#endif
+    return QLocale::system();
+}
+
 QString shortDate(QDate day, const QLocale &region)
 {
     return dateText(day, region, QLocale::ShortFormat);

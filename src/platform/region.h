@@ -8,11 +8,14 @@
 #include <QString>
 #include <QTime>
 
+/// The region that the machine writes dates in.
+QLocale machineRegion();
+
 /// Day, month and full year in the region's short order, such as "22/11/2569".
-QString shortDate(QDate day, const QLocale &region = QLocale::system());
+QString shortDate(QDate day, const QLocale &region = machineRegion());
 
 /// The region's long date, with the name of the month.
-QString longDate(QDate day, const QLocale &region = QLocale::system());
+QString longDate(QDate day, const QLocale &region = machineRegion());
 
 /// Hours and minutes as the region writes them.
-QString shortTime(QTime time, const QLocale &region = QLocale::system());
+QString shortTime(QTime time, const QLocale &region = machineRegion());

@@ -4,5 +4,7 @@
 #pragma once
 
 /// Takes the machine's one place for a running copy and keeps it to the end of the process.
-/// False while another copy holds it. A copy that was killed holds nothing.
+/// False while another copy holds it; a copy that was killed holds nothing. Where the desktop
+/// cannot tell, on a full disk say, true: the lock on the Ledger keeps the book from a second copy
+/// all the same.
 bool becomeOnlyInstance();

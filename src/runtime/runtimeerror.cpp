@@ -25,3 +25,8 @@ void raiseOverflow()
 {
     throw RunTimeError(RunTimeError::Overflow, u"Overflow"_s);
 }
+
+void raiseInvalidUseOfNull()
+{
+    throw RunTimeError(RunTimeError::InvalidUseOfNull, u"Invalid use of Null"_s);
+}

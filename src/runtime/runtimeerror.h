@@ -16,6 +16,7 @@ public:
     enum Number : int {
         Overflow = 6,                 ///< a value outside the type it is stored in
         TypeMismatch = 13,            ///< a text that is no number
+        InvalidUseOfNull = 94,        ///< no value where a number is wanted
         DatabaseFailure = -2147467259 ///< any failure of the Ledger's engine (0x80004005)
     };
 
@@ -37,8 +38,9 @@ private:
     QByteArray m_what;
 };
 
-[[noreturn]] void raiseTypeMismatch(); ///< raises RunTimeError 13
-[[noreturn]] void raiseOverflow();     ///< raises RunTimeError 6
+[[noreturn]] void raiseTypeMismatch();     ///< raises RunTimeError 13
+[[noreturn]] void raiseOverflow();         ///< raises RunTimeError 6
+[[noreturn]] void raiseInvalidUseOfNull(); ///< raises RunTimeError 94
 
 /// Runs one statement of a handler that resumes at the next statement after an error.
 /// Gives false when the statement failed. Wrap each statement by itself: what stands behind

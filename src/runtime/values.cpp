@@ -106,6 +106,13 @@ double CDbl(QStringView text)
     return value;
 }
 
+double numberOf(const QVariant &value)
+{
+    if (value.isNull())
+        raiseInvalidUseOfNull();
+    return value.typeId() == QMetaType::QString ? CDbl(value.toString()) : value.toDouble();
+}
+
 qint32 CLng(double value)
 {
     return roundedTo<qint32>(value);

@@ -5,6 +5,7 @@
 
 #include <QString>
 #include <QStringView>
+#include <QVariant>
 
 #include <initializer_list>
 #include <span>
@@ -20,6 +21,10 @@ QString formatBaht(double amount);
 /// Raises "Type mismatch" for anything else, the empty text above all, and "Overflow" for a
 /// number beyond a double. The region has no say: "." is the decimal point everywhere.
 double CDbl(QStringView text);
+
+/// A value read from the Ledger as a number: a text as CDbl takes it, a number as it is. Raises "Invalid
+/// use of Null" for no value.
+double numberOf(const QVariant &value);
 
 /// A number as a 32-bit whole number, a half going to the even neighbour; raises "Overflow".
 qint32 CLng(double value);

@@ -40,7 +40,7 @@ void LoadMoney()
     RecordsetA.open(u" SELECT tblMoney.* FROM tblMoney WHERE [PK] = 1 ORDER BY PK"_s);
     if (RecordsetA.recordCount() > 0) {
         for (const RateColumn &entry : RateColumns)
-            *entry.rate = CInt(RecordsetA.field(QString::fromLatin1(entry.column)).toDouble());
+            *entry.rate = CInt(numberOf(RecordsetA.field(QString::fromLatin1(entry.column))));
     }
     RecordsetA.close();
 }

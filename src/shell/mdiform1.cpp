@@ -81,6 +81,8 @@ bool MDIForm1::MDIForm_Load()
     LoadMoney();
     loadSkin(programFile(u"data/Styles/mirakla.qss"_s));
     const QRect desktop = screen()->availableGeometry();
+    constexpr QSize WindowFrame(8, 40);
+    resize(size().boundedTo(desktop.size() - WindowFrame));
     move(desktop.x() + (desktop.width() - width()) / 2,
          desktop.y() + (desktop.height() - height()) / 2);
     return true;

@@ -99,6 +99,10 @@ void LedgerTest::refusedFileStaysUntouched_data()
     row("another program's database under our password", made(false, key, notes), foreign);
     row("a foreign mark", made(true, key, u"PRAGMA application_id = 1;"_s), foreign);
     row("a lost table", made(true, key, u"DROP TABLE tblNumLog;"_s), foreign);
+    QByteArray dead = ledger;
+    dead[ledger.size() - 1500] = char(~dead[ledger.size() - 1500]); // in a page of rows
+    row("one byte turned in a page of rows", dead, u"malformed"_s);
+    row("a torn last page", ledger.chopped(100), u"malformed"_s);
     row("cut off in the middle", ledger.first(ledger.size() / 2), u"malformed"_s);
     row("the last page lost", ledger.chopped(1024), u"malformed"_s);
     QTest::newRow("a wrong password") << ledger << QByteArray("639418") << foreign;

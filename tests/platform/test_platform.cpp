@@ -23,6 +23,7 @@ private slots:
     void gridKeepsItsRowsInOrder();
     void datesOfTheRegion_data();
     void datesOfTheRegion();
+    void regionIsThatOfDates();
     void keysAreKnownByTheirPlace_data();
     void keysAreKnownByTheirPlace();
     void driveRootGetsNoSecondSlash();
@@ -71,6 +72,19 @@ void PlatformTest::datesOfTheRegion()
     const QDate day(2026, 11, 22);
     QTEST(shortDate(day, QLocale(region)), "shortForm");
     QTEST(longDate(day, QLocale(region)), "longForm");
+}
+
+void PlatformTest::regionIsThatOfDates()
+{
+    for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"})
+        qputenv(variable, "th_TH.UTF-8");
+    qputenv("LANG", "en_US.UTF-8");
+    qputenv("LANGUAGE", "en");
+    QCOMPARE(shortDate({2026, 11, 22}), u"22/11/2569"_s);
+    qunsetenv("LC_ALL");
+    QCOMPARE(shortDate({2026, 11, 22}), u"22/11/2569"_s);
+    qunsetenv("LC_TIME");
+    QCOMPARE(shortDate({2026, 11, 22}), u"11/22/2026"_s);
 }
 
 void PlatformTest::keysAreKnownByTheirPlace_data()
