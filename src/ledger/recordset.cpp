@@ -8,6 +8,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+[[noreturn]] void raiseNoCurrentRow()
+{
+    throw RunTimeError(RunTimeError::DatabaseFailure, u"no current row"_s);
+}
+
+} // namespace
+
 void Recordset::open(const QString &sql, const QVariantList &values)
 {
     close();
@@ -20,6 +29,16 @@ void Recordset::openTable(const QString &table)
     m_table = table;
 }
 
+void Recordset::openRow(const QString &table, const QString &key, const QVariant &value)
+{
+    open(u"SELECT %1 FROM %2 WHERE %1 = ?"_s.arg(key, table), {value});
+    if (eof())
+        raiseNoCurrentRow();
+    m_table = table;
+    m_editKey = key;
+    m_editValue = value;
+}
+
 QVariant Recordset::field(const QString &column) const
 {
     const auto found =
@@ -29,7 +48,7 @@ QVariant Recordset::field(const QString &column) const
     if (found == m_read.columns.end())
         throw RunTimeError(RunTimeError::DatabaseFailure, u"no such column: "_s + column);
     if (eof())
-        throw RunTimeError(RunTimeError::DatabaseFailure, u"no current row"_s);
+        raiseNoCurrentRow();
     return m_read.rows.at(m_current).at(found - m_read.columns.begin());
 }
 
@@ -47,6 +66,12 @@ void Recordset::set(const QString &column, const QVariant &value)
 
 void Recordset::update()
 {
+    if (!m_editKey.isEmpty()) {
+        LedgerConnection->run(u"UPDATE %1 SET %2 = ? WHERE %3 = ?"_s.arg(
+                                  m_table, m_columns.join(u" = ?, "_s), m_editKey),
+                              m_values + QVariantList{m_editValue});
+        return;
+    }
     const QStringList marks(m_columns.size(), u"?"_s);
     LedgerConnection->run(u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(m_table, m_columns.join(u", "_s),
                                                                    marks.join(u", "_s)),

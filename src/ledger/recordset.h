@@ -16,6 +16,10 @@ public:
     /// Readies the slot for adding rows to @p table, none of which are read.
     void openTable(const QString &table);
 
+    /// Readies the slot for editing the row of @p table whose @p key is @p value: each column that
+    /// set() names is changed by update(). Raises DatabaseFailure "no current row" without one.
+    void openRow(const QString &table, const QString &key, const QVariant &value);
+
     /// Number of rows read.
     int recordCount() const { return int(m_read.rows.size()); }
 
@@ -31,7 +35,7 @@ public:
     /// Starts a row of the table readied with openTable().
     void addNew();
 
-    /// Sets one column of the row begun.
+    /// Sets one column of the row begun or opened for editing.
     void set(const QString &column, const QVariant &value);
 
     /// Writes the row. It is durable when this returns.
@@ -44,6 +48,8 @@ private:
     ResultRows m_read;
     int m_current = 0;
     QString m_table;
+    QString m_editKey; ///< column that names the row being edited; empty while rows are added
+    QVariant m_editValue;
     QStringList m_columns;
     QVariantList m_values;
 };

@@ -70,6 +70,7 @@ private slots:
     void fileIsEncryptedAndTheStockToolReadsIt();
     void textNeverBecomesASecondStatement();
     void nextKeyFollowsTheLargest();
+    void rowIsEditedInPlace();
     void comboListsKeysInOrder();
     void lookupOfAName_data();
     void lookupOfAName();
@@ -219,6 +220,21 @@ void LedgerTest::nextKeyFollowsTheLargest()
     QCOMPARE(nextKey(u"tblNumber"_s, u"NPK"_s), 1);
     ledger.run(u"INSERT INTO tblNumber (NPK) VALUES (7), (1)"_s);
     QCOMPARE(nextKey(u"tblNumber"_s, u"NPK"_s), 8);
+}
+
+void LedgerTest::rowIsEditedInPlace()
+{
+    const TestLedger ledger;
+    RecordsetA.openRow(u"tblMoney"_s, u"PK"_s, 1);
+    RecordsetA.set(u"[3up]"_s, 550);
+    RecordsetA.set(u"rundown"_s, 5);
+    RecordsetA.update();
+    RecordsetA.close();
+    QCOMPARE(ledger.run(u"SELECT [3up], [3tod], rundown FROM tblMoney"_s),
+             QStringList(u"550 100 5"_s));
+    ledger.run(u"DELETE FROM tblMoney"_s);
+    QCOMPARE(errorOf([] { RecordsetA.openRow(u"tblMoney"_s, u"PK"_s, 1); }),
+             u"Run-time error '-2147467259 (80004005)': no current row"_s);
 }
 
 void LedgerTest::comboListsKeysInOrder()
