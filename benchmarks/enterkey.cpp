@@ -1,0 +1,101 @@
+// SPDX-License-Identifier: MIT
+// From Enter in the entry field to the repainted grid: what a keyer feels with every line.
+#include "figure.h"
+#include "workfolder.h"
+
+#include "platform/combo.h"
+#include "platform/spread.h"
+#include "program.h"
+
+#include <QDeadlineTimer>
+#include <QElapsedTimer>
+#include <QTest>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int RowCount = 500;
+
+/// Notices that a widget has been painted.
+class PaintWatch : public QObject
+{
+public:
+    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
+
+    bool painted = false;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        painted = painted || event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
+/// The real program, its grid of "3 ตัวตรง" filled with 500 numbers by real keys.
+class Desk
+{
+public:
+    Desk() : m_window(startProgram())
+    {
+        if (!m_window || !QTest::qWaitForWindowActive(m_window.get()))
+            qFatal("the program did not come up");
+        auto *kinds = m_window->findChild<Combo *>(u"Combo2"_s);
+        kinds->setListIndex(kinds->findText(u"- บน"_s));
+        m_grid = m_window->findChild<Spread *>(u"fpSpread1"_s);
+        for (int number = 0; number < RowCount; ++number)
+            enter(number);
+    }
+
+    /// Keys a line; gives the milliseconds from its Enter to the repainted grid.
+    double enter(int number)
+    {
+        const QString line = QString::number(number).rightJustified(3, u'0') + u"-20"_s;
+        for (const QChar key : line)
+            QTest::keyClick(m_window->windowHandle(), key.toLatin1());
+        PaintWatch watch(m_grid->viewport());
+        const QDeadlineTimer patience(5000);
+        QElapsedTimer clock;
+        clock.start();
+        QTest::keyPress(m_window->windowHandle(), Qt::Key_Return);
+        while (!watch.painted && !patience.hasExpired())
+            QApplication::processEvents();
+        const double taken = double(clock.nsecsElapsed()) / 1e6;
+        if (!watch.painted)
+            qFatal("the line did not reach the grid");
+        QTest::keyRelease(m_window->windowHandle(), Qt::Key_Return);
+        return taken;
+    }
+
+    SpreadModel &rows() { return *m_grid->spreadModel(); }
+
+private:
+    std::unique_ptr<MDIForm1> m_window;
+    Spread *m_grid = nullptr;
+};
+
+} // namespace
+
+Measured measureEnter(benchmark::State &state, int firstNumber)
+{
+    const WorkFolder folder;
+    Desk desk;
+    Samples samples;
+    Samples slow; // the 99th of each hundred
+    for ([[maybe_unused]] auto round : state) {
+        // 137 comes by each of the 500 numbers, near and far ones in turn.
+        samples.push_back(desk.enter(firstNumber + int(samples.size()) * 137 % RowCount));
+        state.SetIterationTime(samples.back() / 1000);
+        if (desk.rows().rows() > RowCount)
+            desk.rows().removeRow(1);
+        if (samples.size() % 100 == 0)
+            slow.push_back(quantile({samples.end() - 100, samples.end()}, 0.99));
+    }
+    if (desk.rows().rows() != RowCount)
+        qFatal("the grid does not hold its 500 rows");
+    CloseLedger();
+    // The median of these: a burst of other work on the machine spoils one hundred, not all.
+    return {quantile(slow, 0.5), QString::asprintf("median of all %.1f", quantile(samples, 0.5))};
+}

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: MIT
+// The measurements behind the table of promised figures. Each measures over the rounds of a
+// benchmark's state; both sides of a ratio are taken in turn in each round, so that what else the
+// machine does weighs on both.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <QString>
+
+#include <algorithm>
+#include <vector>
+
+/// What came out, in the unit of the figure, and what stands behind it for the reader.
+struct Measured
+{
+    double value;
+    QString detail;
+};
+
+using Samples = std::vector<double>;
+
+/// The value that @p share of the samples do not exceed: 0.5 is the median, 0.99 of a hundred
+/// samples the 99th.
+inline double quantile(Samples samples, double share)
+{
+    std::sort(samples.begin(), samples.end());
+    return samples[size_t(share * double(samples.size() - 1) + 0.5)];
+}
+
+/// The median of one side as a multiple of the other's; both in @p unit.
+inline Measured ratio(const Samples &ours, const Samples &theirs, const char *unit)
+{
+    const double our = quantile(ours, 0.5);
+    const double their = quantile(theirs, 0.5);
+    return {our / their, QString::asprintf("%.0f : %.0f %s", our, their, unit)};
+}
+
+/// Milliseconds from Enter in the entry field to the repainted grid of 500 rows. The numbers
+/// keyed are @p firstNumber and up: those from 0 on stand in the grid, those from 500 on do not.
+Measured measureEnter(benchmark::State &state, int firstNumber);
+
+/// A save of 1,000 rows as a multiple of the same rows inserted through the bare C interface.
+Measured measureSave(benchmark::State &state);
+
+/// A save into a Ledger of 1,000,000 lines as a multiple of one into a Ledger of 1,000.
+Measured measureSaveGrowth(benchmark::State &state);
+
+/// The start of the program to its first painted window, on a desktop of Qt's name @p platform,
+/// as a multiple of that of a bare window and the opening of the Ledger.
+Measured measureStart(benchmark::State &state, const char *platform);
+
+/// Megabytes that the program holds at rest.
+Measured measureMemory(benchmark::State &state, const char *platform);

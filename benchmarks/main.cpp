@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: MIT
+// Measures what the program promises and prints one table: the figure, its bound, what was
+// measured, the verdict. Ends with status 1 when a bound is missed.
+#include "figure.h"
+
+#include "platform/application.h"
+
+#include <QFileInfo>
+#include <QLoggingCategory>
+#include <QTemporaryDir>
+
+#include <array>
+#include <cstdio>
+#include <map>
+#include <optional>
+
+namespace {
+
+struct Figure
+{
+    const char *name;
+    double bound; ///< the highest value that keeps the promise
+    const char *unit;
+    int rounds;
+    Measured (*measure)(benchmark::State &state);
+};
+
+using State = benchmark::State;
+
+constexpr std::array Figures{
+    Figure{"Enter to repainted grid of 500 rows, new row, 99th of 100", 16, "ms", 1000,
+           [](State &state) { return measureEnter(state, 500); }},
+    Figure{"Enter to repainted grid of 500 rows, merge, 99th of 100", 16, "ms", 1000,
+           [](State &state) { return measureEnter(state, 0); }},
+    Figure{"Save of 1,000 rows : bare durable statements", 2, "times", 21, measureSave},
+    Figure{"Save at 1,000,000 lines : at 1,000 lines", 1.2, "times", 21, measureSaveGrowth},
+    Figure{"Start to first paint : bare window and Ledger, offscreen", 1.5, "times", 31,
+           [](State &state) { return measureStart(state, "offscreen"); }},
+    Figure{"Start to first paint : bare window and Ledger, X11", 1.5, "times", 31,
+           [](State &state) { return measureStart(state, "xcb"); }},
+    Figure{"Memory at rest, offscreen", 120, "MB", 1,
+           [](State &state) { return measureMemory(state, "offscreen"); }},
+    Figure{"Memory at rest, X11", 120, "MB", 1,
+           [](State &state) { return measureMemory(state, "xcb"); }},
+};
+
+/// Prints a line of the table as each figure is done.
+class Table : public benchmark::BenchmarkReporter
+{
+public:
+    bool ReportContext(const Context &) override
+    {
+        std::printf("%-58s %-10s %10s  %s\n", "Figure", "At most", "Measured", "Verdict");
+        return true;
+    }
+
+    void ReportRuns(const std::vector<Run> &runs) override
+    {
+        for (const Run &run : runs) {
+            const Figure &figure = *figures.at(run.run_name.function_name);
+            const double measured = run.counters.at("measured");
+            const bool met = measured <= figure.bound;
+            allMet = allMet.value_or(true) && met;
+            std::printf("%-58s %-4g %-5s %10.2f  %-7s  %s\n", figure.name, figure.bound,
+                        figure.unit, measured, met ? "met" : "MISSED", run.report_label.c_str());
+            std::fflush(stdout);
+        }
+    }
+
+    std::map<std::string, const Figure *> figures;
+    std::optional<bool> allMet; ///< nothing while no figure has been measured
+};
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    // Beside this program, since the usual place may lie in memory, where nothing has to wait for
+    // a disk; and so that a running program is no second copy of this one.
+    const QTemporaryDir ownPlace(QFileInfo(QString::fromLocal8Bit(argv[0])).path()
+                                 + QStringLiteral("/benchmark-XXXXXX"));
+    qputenv("TMPDIR", ownPlace.path().toLocal8Bit());
+    // The offscreen platform has something to say of every new size, which is no part of a table.
+    QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
+    const Application application(argc, argv);
+    benchmark::Initialize(&argc, argv);
+
+    Table table;
+    for (const Figure &figure : Figures) {
+        table.figures[figure.name] = &figure;
+        const auto run = [&figure](State &state) {
+            const Measured measured = figure.measure(state);
+            state.counters["measured"] = measured.value;
+            state.SetLabel(measured.detail.toStdString());
+        };
+        benchmark::RegisterBenchmark(figure.name, run)->Iterations(figure.rounds)->UseManualTime();
+    }
+    benchmark::RunSpecifiedBenchmarks(&table);
+    return table.allMet.value_or(false) ? 0 : 1;
+}

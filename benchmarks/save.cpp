@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: MIT
+// What a save costs: against the least that the engine takes for the same durable rows, and in a
+// Ledger that has grown big.
+#include "barefile.h"
+#include "figure.h"
+
+#include "entry/save.h"
+#include "ledger/ledger.h"
+#include "platform/workprogress.h"
+#include "support/testledger.h"
+
+#include <QElapsedTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int RowCount = 1000;
+constexpr int CustomerCount = 200;
+
+/// Rows of the measured ticket by class, RowCount in all. A third are tod bets, whose spelling is
+/// looked for in the Ledger.
+constexpr std::array<int, ClassCount> RowsByClass{300, 270, 100, 80, 10, 140, 90, 10};
+
+/// A line of a class and customer, its number from the last digits of @p digits.
+BetLine betLine(size_t betClass, int customer, int digits)
+{
+    const BetClass &asked = BetClasses[betClass];
+    return {&asked, customer, QByteArray::number(1000 + digits % 1000).right(asked.num23)};
+}
+
+std::vector<BetLine> ticketLines()
+{
+    std::vector<BetLine> lines;
+    for (size_t at = 0; at < ClassCount; ++at) {
+        for (int row = 0; row < RowsByClass[at]; ++row)
+            lines.push_back(betLine(at, 1, row * 37)); // 37 comes by each number once
+    }
+    return lines;
+}
+
+/// Lines of a whole draw: fifty to a customer in turn, all classes and numbers mixed.
+std::vector<BetLine> drawLines(int count)
+{
+    std::vector<BetLine> lines;
+    lines.reserve(size_t(count));
+    for (int at = 0; at < count; ++at) {
+        const int customer = 1 + at / 50 % CustomerCount;
+        lines.push_back(betLine(size_t(at % ClassCount), customer, at / ClassCount * 379));
+    }
+    return lines;
+}
+
+struct ThousandRows : Ticket
+{
+    ThousandRows()
+    {
+        for (const BetLine &line : ticketLines())
+            AddLine(int(line.betClass - BetClasses.data()), QString::fromLatin1(line.number),
+                    u"20"_s);
+    }
+};
+
+/// A Ledger with its customers and @p count lines, which stays open beside others of its kind.
+class FilledLedger : public TestLedger
+{
+public:
+    explicit FilledLedger(int count) : m_count(count)
+    {
+        for (int customer = 1; customer <= CustomerCount; ++customer)
+            addMember(customer, u"ลูกค้า %1"_s.arg(customer), u"10"_s);
+        CloseLedger();
+        insertBare(path().toUtf8(), drawLines(count), Durable::AllAtOnce);
+        ConnectLedger();
+        m_connection = std::move(LedgerConnection);
+    }
+
+    /// Microseconds a row of a save as the page does it, bar included. The rows are taken out
+    /// again.
+    double save(const Ticket &ticket)
+    {
+        WorkProgress bar;
+        LedgerConnection.swap(m_connection);
+        run(u"PRAGMA shrink_memory"_s); // forgets the pages of the save before
+        QElapsedTimer clock;
+        clock.start();
+        saveLines(ticket, u"ลูกค้า 1"_s, bar);
+        const double taken = double(clock.nsecsElapsed()) / 1000 / RowCount;
+        if (run(u"SELECT count(*) FROM tblNumber"_s).first().toInt() != m_count + RowCount)
+            qFatal("the save did not file its rows");
+        run(u"DELETE FROM tblNumber WHERE NPK > ?"_s, {m_count});
+        LedgerConnection.swap(m_connection);
+        return taken;
+    }
+
+    /// Closes it and gives the microseconds a row of the same lines inserted bare.
+    double saveBare()
+    {
+        m_connection.reset();
+        return insertBare(path().toUtf8(), ticketLines(), Durable::EachLine) * 1e6 / RowCount;
+    }
+
+private:
+    int m_count;
+    std::unique_ptr<Connection> m_connection;
+};
+
+} // namespace
+
+Measured measureSave(benchmark::State &state)
+{
+    const ThousandRows ticket;
+    Samples ours;
+    Samples bare;
+    for ([[maybe_unused]] auto round : state) {
+        ours.push_back(FilledLedger(0).save(ticket));
+        bare.push_back(FilledLedger(0).saveBare());
+        state.SetIterationTime(ours.back() * RowCount / 1e6);
+    }
+    return ratio(ours, bare, "us a row");
+}
+
+Measured measureSaveGrowth(benchmark::State &state)
+{
+    const ThousandRows ticket;
+    FilledLedger big(1'000'000);
+    FilledLedger small(1'000);
+    Samples inBig;
+    Samples inSmall;
+    for ([[maybe_unused]] auto round : state) {
+        inBig.push_back(big.save(ticket));
+        inSmall.push_back(small.save(ticket));
+        state.SetIterationTime(inBig.back() * RowCount / 1e6);
+    }
+    return ratio(inBig, inSmall, "us a row");
+}

@@ -1,0 +1,88 @@
+// SPDX-License-Identifier: MIT
+// Starts, and prints the clock in milliseconds when its first window has been painted, then the
+// KiB of memory it holds. Usage: start_probe MODE FOLDER, where MODE is
+//   program  the whole program;
+//   rest     the same, with two seconds at rest before the memory is read;
+//   bare     the least that any such program does: open the Ledger, and show a bare window of the
+//            same size and look with one line of text, since loading the type and the breaks of
+//            Thai words is the toolkit's own work.
+#include "ledger/ledger.h"
+#include "platform/application.h"
+#include "platform/programfolder.h"
+#include "program.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QTimer>
+
+#include <chrono>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void printClock()
+{
+    const auto now = std::chrono::steady_clock::now().time_since_epoch(); // same in all processes
+    std::printf("%.6f\n", std::chrono::duration<double, std::milli>(now).count());
+}
+
+void printMemory()
+{
+    QFile status(u"/proc/self/status"_s);
+    status.open(QIODevice::ReadOnly);
+    const QString text = QString::fromLatin1(status.readAll());
+    std::printf("%s\n", qPrintable(text.section(u"VmRSS:"_s, 1).section(u"kB"_s, 0, 0).trimmed()));
+}
+
+/// Once the first window has been painted, all its widgets in one event, prints what is asked
+/// and ends the program.
+class FirstPaint : public QObject
+{
+public:
+    explicit FirstPaint(int msecsAtRest) : m_msecsAtRest(msecsAtRest)
+    {
+        qApp->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        if (event->type() != QEvent::Paint || !object->isWidgetType())
+            return false;
+        qApp->removeEventFilter(this);
+        QTimer::singleShot(0, qApp, printClock);
+        QTimer::singleShot(m_msecsAtRest, qApp, [] {
+            printMemory();
+            Application::exit();
+        });
+        return false;
+    }
+
+private:
+    int m_msecsAtRest;
+};
+
+std::unique_ptr<QWidget> bareWindow()
+{
+    ConnectLedger();
+    auto window = std::make_unique<QLabel>(u"Mirakla Desk หน้าหลัก"_s);
+    window->resize(1340, 700); // the size of the main window
+    window->show();
+    return window;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    const Application application(argc, argv);
+    const QString mode = Application::arguments().value(1);
+    setProgramFolder(Application::arguments().value(2));
+    const FirstPaint firstPaint(mode == u"rest"_s ? 2000 : 0);
+    const std::unique_ptr<QWidget> window = mode == u"bare"_s ? bareWindow() : startProgram();
+    const int status = Application::exec();
+    CloseLedger();
+    return status;
+}
