@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // From Enter in the entry field to the repainted grid: what a keyer feels with every line.
 #include "figure.h"
+#include "paintwatch.h"
 #include "workfolder.h"
 
 #include "platform/combo.h"
 #include "platform/spread.h"
 #include "program.h"
 
-#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QTest>
 #include <QWindow>
@@ -17,22 +17,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int RowCount = 500;
-
-/// Notices that a widget has been painted.
-class PaintWatch : public QObject
-{
-public:
-    explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
-
-    bool painted = false;
-
-protected:
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        painted = painted || event->type() == QEvent::Paint;
-        return false;
-    }
-};
 
 /// The real program, its grid of "3 ตัวตรง" filled with 500 numbers by real keys.
 class Desk
@@ -56,15 +40,11 @@ public:
         for (const QChar key : line)
             QTest::keyClick(m_window->windowHandle(), key.toLatin1());
         PaintWatch watch(m_grid->viewport());
-        const QDeadlineTimer patience(5000);
         QElapsedTimer clock;
         clock.start();
         QTest::keyPress(m_window->windowHandle(), Qt::Key_Return);
-        while (!watch.painted && !patience.hasExpired())
-            QApplication::processEvents();
+        watch.wait();
         const double taken = double(clock.nsecsElapsed()) / 1e6;
-        if (!watch.painted)
-            qFatal("the line did not reach the grid");
         QTest::keyRelease(m_window->windowHandle(), Qt::Key_Return);
         return taken;
     }

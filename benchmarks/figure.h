@@ -40,6 +40,13 @@ inline Measured ratio(const Samples &ours, const Samples &theirs, const char *un
 /// keyed are @p firstNumber and up: those from 0 on stand in the grid, those from 500 on do not.
 Measured measureEnter(benchmark::State &state, int firstNumber);
 
+/// Milliseconds until 5,000 customers stand in the list of their page.
+Measured measureCustomers(benchmark::State &state);
+
+/// Milliseconds from a digit key in the entry field until its word sounds, or with @p painted
+/// until the field is repainted with the voice on: the 99th of each hundred.
+Measured measureVoice(benchmark::State &state, bool painted);
+
 /// A save of 1,000 rows as a multiple of the same rows inserted through the bare C interface.
 Measured measureSave(benchmark::State &state);
 

@@ -3,6 +3,7 @@
 #include "entry/save.h"
 #include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
+#include "support/noprogress.h"
 #include "support/outcome.h"
 #include "support/testledger.h"
 
@@ -11,13 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct NoProgress : ProgressBar
-{
-    void start(int) override {}
-    void step() override {}
-    void finish() override {}
-};
 
 void fileTod(const TestLedger &ledger, const QString &number, const QString &columns)
 {

@@ -11,7 +11,6 @@
 #include "support/testledger.h"
 
 #include <QCheckBox>
-#include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
@@ -99,11 +98,7 @@ private:
 void VoiceTest::init()
 {
     m_ledger.emplace();
-    QDir(programFolder()).mkpath(u"data/mp3"_s);
-    const QDir words(QStringLiteral(RECORDINGS));
-    const QStringList names = words.entryList({u"*.mp3"_s});
-    for (const QString &name : names)
-        QFile::copy(words.filePath(name), programFile(u"data/mp3/"_s + name));
+    copyProgramData(QCoreApplication::applicationDirPath(), programFolder());
     m_progress.emplace();
     m_hands.emplace();
     m_page.emplace(*m_progress, nullptr);

@@ -11,6 +11,11 @@
 
 #include <utility>
 
+bool Hands::focusComesTo(const QWidget *window)
+{
+    return QTest::qWaitFor([&] { return window->isAncestorOf(QApplication::focusWidget()); });
+}
+
 QWidget *Hands::focus()
 {
     if (!QTest::qWaitFor([] { return QApplication::focusWidget() != nullptr; }))
@@ -47,9 +52,14 @@ QStringList Hands::takeBoxes()
 
 bool Hands::eventFilter(QObject *object, QEvent *event)
 {
-    auto *box = qobject_cast<QMessageBox *>(object);
-    if (box && event->type() == QEvent::Show)
+    auto *dialog = qobject_cast<QDialog *>(object);
+    if (!dialog || event->type() != QEvent::Show)
+        return false;
+    if (auto *box = qobject_cast<QMessageBox *>(object))
         QTimer::singleShot(0, box, [this, box] { answer(box); });
+    else if (m_inDialog)
+        QTimer::singleShot(0, dialog,
+                           [dialog, work = std::exchange(m_inDialog, {})] { work(dialog); });
     return QObject::eventFilter(object, event);
 }
 

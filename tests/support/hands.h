@@ -5,6 +5,9 @@
 #include <QObject>
 #include <QStringList>
 
+#include <functional>
+#include <utility>
+
 class QMessageBox;
 class QWidget;
 
@@ -18,6 +21,9 @@ public:
     /// The control that has the focus, once a box that was answered has given it back.
     static QWidget *focus();
 
+    /// Waits until a control in @p window has the focus; that a window is in front comes earlier.
+    static bool focusComesTo(const QWidget *window);
+
     /// Types characters into whatever has the focus, as keys.
     static void type(const QString &text);
     static void press(Qt::Key key);
@@ -29,6 +35,10 @@ public:
 
     /// Has OK answer the next box, whatever its default button is.
     void answerNextWithOk() { m_pressOk = true; }
+
+    /// Has @p work done in the next dialog that opens, which has to close it: whoever opens a modal
+    /// dialog waits for that.
+    void inNextDialog(std::function<void(QWidget *dialog)> work) { m_inDialog = std::move(work); }
 
 signals:
     /// A box is on the screen and has not been answered yet.
@@ -42,4 +52,5 @@ private:
 
     QStringList m_boxes;
     bool m_pressOk = false;
+    std::function<void(QWidget *dialog)> m_inDialog;
 };

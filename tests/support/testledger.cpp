@@ -52,6 +52,18 @@ void TestLedger::addMember(int key, const QString &name, const QString &percent)
     run(u"INSERT INTO tblMember (MPK, Mname, Mpercen) VALUES (?, ?, ?)"_s, {key, name, percent});
 }
 
+void copyProgramData(const QString &from, const QString &to)
+{
+    for (const auto &part : {u"/data/Styles"_s, u"/data/mp3"_s}) {
+        QDir().mkpath(to + part);
+        const QStringList files = QDir(from + part).entryList(QDir::Files);
+        if (files.isEmpty())
+            qFatal("nothing to copy in %s", qPrintable(from + part));
+        for (const QString &file : files)
+            QFile::copy(from + part + u'/' + file, to + part + u'/' + file);
+    }
+}
+
 QString runStockTool(const QString &path, const QString &password, const QString &commands)
 {
     QProcess tool;

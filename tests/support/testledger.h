@@ -29,6 +29,9 @@ private:
     QTemporaryDir m_folder;
 };
 
+/// Copies the look and the words of the program in folder @p from to the program folder @p to.
+void copyProgramData(const QString &from, const QString &to);
+
 /// Runs commands on a database file with the engine's stock tool, a reader that shares no code
 /// with the program. An empty password means a plain file. Gives what it printed, errors included.
 QString runStockTool(const QString &path, const QString &password, const QString &commands);

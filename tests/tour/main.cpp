@@ -6,6 +6,7 @@
 #include "platform/application.h"
 #include "platform/programfolder.h"
 #include "program.h"
+#include "support/testledger.h"
 #include "tour/player.h"
 
 #include <QCommandLineParser>
@@ -23,23 +24,9 @@ namespace {
 /// A program folder of its own, with an empty Ledger, and the look and the words of the real one.
 void layFolder(const QString &folder)
 {
-    for (const auto &part : {u"data/Styles"_s, u"data/mp3"_s}) {
-        QDir(folder).mkpath(part);
-        const QDir real(programFile(part));
-        const QStringList files = real.entryList(QDir::Files);
-        for (const QString &file : files)
-            QFile::copy(real.filePath(file), folder + u'/' + part + u'/' + file);
-    }
+    copyProgramData(programFolder(), folder);
     makeEmptyLedger(folder + u"/data/ztkdata.ZDB"_s);
     setProgramFolder(folder);
-}
-
-void registerMembers(const QList<DrawMember> &members)
-{
-    const auto ledger = Connection::open(programFile(u"data/ztkdata.ZDB"_s));
-    for (const DrawMember &member : members)
-        ledger->run(u"INSERT INTO tblMember (Mname, Mber, Mpercen) VALUES (?, ?, ?)"_s,
-                    {member.name, member.telephone, member.percent});
 }
 
 /// Plays one draw from an empty Ledger; true if all came out as the file states.
@@ -49,7 +36,6 @@ bool playDraw(const QString &path, const QString &pictures)
     const QString realFolder = programFolder();
     layFolder(folder.path());
     const Draw draw = Draw::read(path);
-    registerMembers(draw.members);
 
     QElapsedTimer clock;
     clock.start();

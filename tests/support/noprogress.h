@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: MIT
+// A progress bar that nobody sees.
+#pragma once
+
+#include "platform/progressbar.h"
+
+struct NoProgress : ProgressBar
+{
+    void start(int) override {}
+    void step() override {}
+    void finish() override {}
+};
