@@ -2,7 +2,9 @@
 // Puts the program together. With main.cpp the only place that knows all rooms.
 #include "program.h"
 
+#include "customers/form2.h"
 #include "entry/form1.h"
+#include "settings/setting.h"
 
 Pages programPages()
 {
@@ -10,6 +12,10 @@ Pages programPages()
     pages.makers[0] = [](const Frame &frame, QWidget *parent) {
         return new Form1(frame.progress, parent);
     };
+    pages.makers[1] = [](const Frame &frame, QWidget *parent) {
+        return new Form2(frame.progress, parent);
+    };
+    pages.showSettings = [](QWidget *parent) { Setting(parent).exec(); };
     return pages;
 }
 

@@ -48,11 +48,10 @@ void FieldGuard::guard(QLineEdit *field, const FieldRule *rule)
 
 bool FieldGuard::eventFilter(QObject *object, QEvent *event)
 {
-    auto *field = static_cast<QLineEdit *>(object);
     const FieldRule &rule = *m_rules.value(object);
     switch (event->type()) {
     case QEvent::KeyPress:
-        return keyPressed(field, *static_cast<QKeyEvent *>(event));
+        return keyPressed(static_cast<QLineEdit *>(object), *static_cast<QKeyEvent *>(event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
         return mousePressed(rule, *static_cast<QMouseEvent *>(event));

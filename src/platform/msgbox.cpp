@@ -31,6 +31,11 @@ void refuse(const QString &text)
     MsgBox(text, {BoxButtons::Ok, BoxIcon::Exclamation}, u"รายงานสถานะ"_s);
 }
 
+void inform(const QString &text)
+{
+    MsgBox(text, {BoxButtons::Ok, BoxIcon::Information}, u"รายงานสถานะ"_s);
+}
+
 bool ask(const QString &text, const QString &title, BoxIcon icon, BoxAnswer preselected)
 {
     return MsgBox(text, {BoxButtons::OkCancel, icon, preselected}, title) == BoxAnswer::Ok;

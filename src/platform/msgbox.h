@@ -43,5 +43,8 @@ BoxAnswer MsgBox(const QString &text, const BoxStyle &style = {},
 /// A refusal or status box: one OK button, warning icon, titled "รายงานสถานะ".
 void refuse(const QString &text);
 
+/// A status box with the information icon, titled "รายงานสถานะ".
+void inform(const QString &text);
+
 /// A question with OK and Cancel; true on OK. An action starts only on OK.
 bool ask(const QString &text, const QString &title, BoxIcon icon, BoxAnswer preselected);

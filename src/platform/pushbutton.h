@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Push button that Enter presses as well as Space.
+// Push button that Enter presses as well as Space, with room around its caption.
 #pragma once
 
 #include <QKeyEvent>
@@ -11,6 +11,9 @@ class PushButton : public QPushButton
 
 public:
     using QPushButton::QPushButton;
+
+    QSize sizeHint() const override { return QPushButton::sizeHint() + QSize(16, 0); }
+    QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
     void keyPressEvent(QKeyEvent *event) override

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QMouseEvent>
 
 #include <algorithm>
 
@@ -28,9 +29,8 @@ void Spread::setSpreadModel(SpreadModel *model)
 {
     m_model = model;
     setModel(model);
-    const auto hideRowHeader = [this] { setColumnHidden(0, true); };
-    connect(model, &SpreadModel::modelReset, this, hideRowHeader);
-    hideRowHeader();
+    connect(model, &SpreadModel::modelReset, this, &Spread::fitColumns);
+    fitColumns();
 }
 
 QString Spread::text(int row, int column) const
@@ -55,8 +55,31 @@ int Spread::activeRow() const
 
 void Spread::setActiveRow(int row)
 {
+    m_picking = false;
     if (m_model)
         setCurrentIndex(m_model->index(row - 1, 1));
+    m_picking = true;
+}
+
+void Spread::setColumnDigits(int column, int digits)
+{
+    m_columnDigits.insert(column, digits);
+    fitColumns();
+}
+
+void Spread::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QTableView::currentChanged(current, previous);
+    if (m_picking && current.isValid() && current.row() != previous.row())
+        emit rowPicked(current.row() + 1);
+}
+
+void Spread::mousePressEvent(QMouseEvent *event)
+{
+    const int before = activeRow();
+    QTableView::mousePressEvent(event);
+    if (before > 0 && before == activeRow() && indexAt(event->pos()).isValid())
+        emit rowPicked(before);
 }
 
 void Spread::focusInEvent(QFocusEvent *event)
@@ -78,8 +101,22 @@ QItemSelectionModel::SelectionFlags Spread::selectionCommand(const QModelIndex &
 void Spread::changeEvent(QEvent *event)
 {
     QTableView::changeEvent(event);
-    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
-        fitRowHeights();
+    if (event->type() != QEvent::FontChange && event->type() != QEvent::StyleChange)
+        return;
+    fitRowHeights();
+    fitColumns();
+}
+
+void Spread::fitColumns()
+{
+    if (!m_model || m_model->columns() < 1)
+        return;
+    setColumnHidden(0, true);
+    const int digit = fontMetrics().horizontalAdvance(u'0');
+    for (auto fixed = m_columnDigits.cbegin(); fixed != m_columnDigits.cend(); ++fixed) {
+        horizontalHeader()->setSectionResizeMode(fixed.key(), QHeaderView::Fixed);
+        horizontalHeader()->resizeSection(fixed.key(), (fixed.value() + 2) * digit);
+    }
 }
 
 void Spread::fitRowHeights()

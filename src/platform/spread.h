@@ -5,6 +5,7 @@
 #include "platform/spreadmodel.h"
 
 #include <QItemSelectionModel>
+#include <QMap>
 #include <QTableView>
 
 /// One row is active at a time and shown whole; column 0 is hidden. Rows and columns count from
@@ -24,18 +25,30 @@ public:
     Q_INVOKABLE int rows() const;
     Q_INVOKABLE QColor color(int row, int column) const;
 
-    /// The active row, or 0 while there is none.
+    /// The active row, or 0 while there is none. Setting it is no picking.
     Q_INVOKABLE int activeRow() const;
     Q_INVOKABLE void setActiveRow(int row);
+
+    /// Gives a column a width of its own, in digits; those without share the rest of the grid.
+    void setColumnDigits(int column, int digits);
+
+signals:
+    /// The user has picked a row with a key or the mouse, also the one that already was active.
+    void rowPicked(int row);
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex &index,
                                                          const QEvent *event) const override;
     void changeEvent(QEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
+    void mousePressEvent(QMouseEvent *event) override;
 
 private:
     void fitRowHeights();
+    void fitColumns();
 
     SpreadModel *m_model = nullptr;
+    QMap<int, int> m_columnDigits;
+    bool m_picking = true; ///< false while code sets the active row
 };

@@ -95,8 +95,10 @@ void MDIForm1::connectNavigation()
         connect(m_pageButtons[page], &QPushButton::clicked, this, [this, page] { openPage(page); });
     }
     m_ui->lvButtons_H5->setEnabled(bool(m_pages.showSettings));
-    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this,
-            [this] { m_pages.showSettings(this); });
+    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, [this] {
+        m_pages.showSettings(this);
+        activateWindow(); // a desktop without a window manager leaves it without keys
+    });
 }
 
 void MDIForm1::openPage(int page)

@@ -20,6 +20,8 @@ Draw Draw::read(const QString &path)
         const QString what = part.value(0);
         if (what == u"member"_s)
             draw.members += {part.value(1), part.value(2), part.value(3)};
+        else if (what == u"hot"_s)
+            draw.hotNumbers += part.value(1);
         else if (what == u"ticket"_s)
             draw.tickets += DrawTicket{part.value(1), {}, {}, {}, {}};
         else if (what == u"line"_s)

@@ -33,6 +33,7 @@ struct DrawTicket
 struct Draw
 {
     QList<DrawMember> members;
+    QStringList hotNumbers;
     QList<DrawTicket> tickets;
     QString book; ///< "lines money discounts" of the Ledger after all tickets, parted by tabs
 

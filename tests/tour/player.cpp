@@ -26,18 +26,12 @@ Player::Player(MDIForm1 &window, const QString &pictures, const QString &name, K
                      [this](QWidget *box) { takePicture(u"box"_s, box); });
 }
 
-template<typename Control>
-Control *Player::control(const char *name) const
-{
-    auto *found = m_window.page()->findChild<Control *>(QLatin1String(name));
-    if (!found)
-        qFatal("no control %s", name);
-    return found;
-}
-
 void Player::play(const Draw &draw)
 {
     takePicture(u"start"_s);
+    addCustomers(draw.members);
+    addHotNumbers(draw.hotNumbers);
+    Hands::click(navigation(0));
     if (m_kinds == Kinds::ByKey) {
         showKeys();
         Hands::click(control<QCheckBox>("C01"));
@@ -115,16 +109,13 @@ void Player::chooseByKey(int index)
 
 void Player::showKeys()
 {
-    const auto focusIsIn = [](const QWidget *window) {
-        return QTest::qWaitFor([&] { return window->isAncestorOf(QApplication::focusWidget()); });
-    };
     Hands::click(control<PushButton>("Label12"));
     auto *keys = m_window.findChild<ShowKey *>();
-    if (!keys || !focusIsIn(keys))
+    if (!keys || !Hands::focusComesTo(keys))
         compare(u"picture of the keys"_s, u"in front"_s, u"not shown"_s);
     takePicture(u"keys"_s, keys);
     Hands::press(Qt::Key_Escape);
-    if (!focusIsIn(&m_window))
+    if (!Hands::focusComesTo(&m_window))
         compare(u"main window after the keys"_s, u"in front"_s, u"behind"_s);
     Hands::click(control<QLineEdit>("Tnumber"));
 }

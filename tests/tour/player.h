@@ -5,9 +5,11 @@
 #include "support/hands.h"
 #include "tour/drawfile.h"
 
+#include "shell/mdiform1.h"
+
 #include <QSet>
 
-class MDIForm1;
+class PushButton;
 
 class Player
 {
@@ -17,7 +19,7 @@ public:
     /// Pictures go to the folder @p pictures, named after @p name, the draw's.
     Player(MDIForm1 &window, const QString &pictures, const QString &name, Kinds kinds);
 
-    /// Keys all tickets of @p draw and saves them.
+    /// Registers the customers and hot numbers of @p draw, keys its tickets and saves them.
     void play(const Draw &draw);
 
     /// What came out otherwise than the draw file says.
@@ -26,6 +28,10 @@ public:
     int linesKeyed() const { return m_linesKeyed; }
 
 private:
+    PushButton *navigation(int button) const;
+    void addCustomers(const QList<DrawMember> &members);
+    void addHotNumbers(const QStringList &numbers);
+
     void playTicket(const DrawTicket &ticket);
     void playLine(const DrawLine &line);
     void chooseKind(const QString &caption);
@@ -41,8 +47,15 @@ private:
     void compare(const QString &what, const QString &expected, const QString &found);
     void takePicture(const QString &scene, QWidget *widget = nullptr);
 
+    /// A control of the open page.
     template<typename Control>
-    Control *control(const char *name) const;
+    Control *control(const char *name) const
+    {
+        auto *found = m_window.page()->findChild<Control *>(QLatin1String(name));
+        if (!found)
+            qFatal("no control %s", name);
+        return found;
+    }
 
     MDIForm1 &m_window;
     QString m_pictures;

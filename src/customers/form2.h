@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+// The page "ข้อมูลลูกค้า": the agent's customers with telephone and discount.
+#pragma once
+
+#include "customers/register.h"
+#include "platform/focustracker.h"
+
+#include <QWidget>
+
+#include <memory>
+
+class QLineEdit;
+
+namespace Ui {
+class Form2;
+}
+
+class Form2 : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p progress covers the wait while the list is filled; it must outlive the page.
+    Form2(ProgressBar &progress, QWidget *parent);
+    ~Form2() override;
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    /// What sets the change of one column apart from that of another.
+    struct Change
+    {
+        QLineEdit *field;
+        QString refusal;
+        QString question;
+        QString column;
+    };
+
+    void connectControls();
+    void Loaddata(bool search);
+    void fpSpread1_RowPicked(int row);
+    void lvButtons_H0_Click();
+    void lvButtons_H1_Click();
+    void lvButtons_H3_Click();
+    void lvButtons_H4_Click();
+    void lvButtons_H5_Click();
+    void cDel_Click();
+
+    void change(const Change &what);
+    bool confirm(const QString &question);
+    void showName(const QString &name);
+    void clearFields();
+    qint32 activeKey() const;
+
+    std::unique_ptr<Ui::Form2> m_ui;
+    ProgressBar &m_progress;
+    FocusTracker m_focus;
+    SpreadModel m_list;
+};

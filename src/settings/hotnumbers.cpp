@@ -1,0 +1,97 @@
+// SPDX-License-Identifier: MIT
+#include "settings/hotnumbers.h"
+
+#include "entry/vocabulary.h"
+#include "ledger/ledger.h"
+#include "runtime/values.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Orders of a number's digits as this screen lists them, given as places in the number.
+QStringList todOrders(const QString &digits)
+{
+    if (digits.size() == 2)
+        return {u"01"_s, u"10"_s};
+    if (digits[0] == digits[1])
+        return {u"012"_s, u"210"_s, u"021"_s};
+    if (digits[0] == digits[2])
+        return {u"012"_s, u"102"_s, u"021"_s};
+    if (digits[1] == digits[2])
+        return {u"012"_s, u"102"_s, u"120"_s};
+    return {u"012"_s, u"021"_s, u"102"_s, u"120"_s, u"201"_s, u"210"_s};
+}
+
+} // namespace
+
+QString hotTodForm(const QString &number)
+{
+    const QString digits = trimBlanks(number);
+    if (digits.size() != 2 && digits.size() != 3)
+        return QString();
+    if (digits.count(digits.front()) == digits.size())
+        return u"-"_s;
+    QStringList forms;
+    const QStringList orders = todOrders(digits);
+    for (const QString &order : orders)
+        forms += rearranged(digits, order.toLatin1().constData());
+    return forms.join(u" , "_s);
+}
+
+void listHotNumbers(SpreadModel &list)
+{
+    list.setup(4, 1);
+    list.setHeader(FirstHeaderRow, HotPlaceColumn, {u"ลำดับ"_s, Qt::AlignCenter, true});
+    list.setHeader(FirstHeaderRow, HotNumberColumn, {u" เลขตรง"_s, Qt::AlignCenter, true});
+    list.setHeader(FirstHeaderRow, HotTodColumn, {u"เลขโต๊ด"_s, Qt::AlignCenter, true});
+    list.setHeader(FirstHeaderRow, HotTodColumn + 1, {u" "_s});
+    for (const int column : {HotPlaceColumn, HotNumberColumn, HotTodColumn})
+        list.setAlignment(column, Qt::AlignHCenter);
+    RecordsetA.open(u" SELECT  tblNumberFix.* FROM tblNumberFix ORDER BY PK desc"_s);
+    list.setRows(RecordsetA.recordCount());
+    for (int row = 1; !RecordsetA.eof(); ++row, RecordsetA.moveNext()) {
+        const QString number = RecordsetA.field(u"Fnumber"_s).toString();
+        list.setText(row, 0, RecordsetA.field(u"PK"_s).toString());
+        list.setText(row, HotPlaceColumn, QString::number(row));
+        list.setText(row, HotNumberColumn, number);
+        list.setText(row, HotTodColumn, hotTodForm(number));
+    }
+    RecordsetA.close();
+}
+
+bool isHotNumber(const QString &number)
+{
+    RecordsetA.open(u" SELECT  tblNumberFix.* FROM tblNumberFix WHERE [Fnumber]  Like ?"
+                    "  ORDER BY PK"_s,
+                    {trimBlanks(number)});
+    const bool found = RecordsetA.recordCount() > 0;
+    RecordsetA.close();
+    return found;
+}
+
+qint16 SetupNewData3()
+{
+    return CInt(double(nextKey(u"tblNumberFix"_s, u"PK"_s)));
+}
+
+void addHotNumber(const QString &number)
+{
+    const qint16 key = SetupNewData3();
+    RecordsetA.openTable(u"tblNumberFix"_s);
+    RecordsetA.addNew();
+    RecordsetA.set(u"PK"_s, key);
+    RecordsetA.set(u"Fnumber"_s, number);
+    RecordsetA.update();
+    RecordsetA.close();
+}
+
+void deleteHotNumber(qint32 key)
+{
+    LedgerConnection->run(u"DELETE FROM tblNumberFix WHERE [PK] = ?"_s, {key});
+}
+
+void deleteAllHotNumbers()
+{
+    LedgerConnection->run(u"DELETE FROM tblNumberFix"_s);
+}

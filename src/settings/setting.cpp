@@ -1,0 +1,139 @@
+// SPDX-License-Identifier: MIT
+#include "settings/setting.h"
+
+#include "ui_setting.h"
+
+#include "fields/fieldguard.h"
+#include "platform/msgbox.h"
+#include "runtime/values.h"
+#include "settings/hotnumbers.h"
+#include "settings/rates.h"
+#include "shell/globals.h"
+
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+Setting::Setting(QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::Setting>()), m_focus(this)
+{
+    m_ui->setupUi(this);
+    m_ui->fpSpread1->setSpreadModel(&m_hotNumbers);
+    m_ui->fpSpread1->setColumnDigits(HotPlaceColumn, 8);
+    m_ui->fpSpread1->setColumnDigits(HotNumberColumn, 12);
+    m_ui->fpSpread1->setColumnDigits(HotTodColumn + 1, 0);
+    for (auto *button : findChildren<QPushButton *>())
+        button->setAutoDefault(false); // Enter belongs to the fields
+    connectControls();
+    Form_Load();
+}
+
+Setting::~Setting() = default;
+
+void Setting::connectControls()
+{
+    new FieldGuard(this, &m_focus);
+    connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Setting::lvButtons_H2_Click);
+    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Setting::lvButtons_H3_Click);
+    connect(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Setting::lvButtons_H4_Click);
+    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Setting::lvButtons_H5_Click);
+}
+
+void Setting::Form_Load()
+{
+    const QRect desktop = screen()->availableGeometry();
+    resize(size().boundedTo(desktop.size()));
+    move(desktop.x() + (desktop.width() - width()) / 2,
+         desktop.y() + (desktop.height() - height()) / 3);
+    LoadNumberFix();
+    LoadMoney();
+}
+
+void Setting::LoadNumberFix()
+{
+    listHotNumbers(m_hotNumbers);
+    m_ui->fpSpread1->setActiveRow(1);
+}
+
+void Setting::LoadMoney()
+{
+    const auto rates = readRates();
+    for (size_t at = 0; rates && at < RateFields.size(); ++at)
+        findChild<QLineEdit *>(QLatin1String(RateFields[at].field))->setText((*rates)[at]);
+}
+
+void Setting::refuseAt(QLineEdit *field, const QString &words)
+{
+    refuse(words);
+    field->setFocus();
+}
+
+/// "บันทึกอัตราจ่าย": stores the rates, which count from then on.
+void Setting::lvButtons_H2_Click()
+{
+    RateTexts rates;
+    for (size_t at = 0; at < RateFields.size(); ++at) {
+        auto *field = findChild<QLineEdit *>(QLatin1String(RateFields[at].field));
+        rates[at] = trimBlanks(field->text());
+        if (rates[at].isEmpty())
+            return refuseAt(field, u"กรุณาระบุ ( อัตราจ่าย ) ให้ครบทุกช่อง ก่อนเริ่มบันทึก"_s);
+    }
+    if (!ask(u"คุณแน่ใจว่าต้องการบันทึก ( อัตราจ่ายเงินรางวัล ) ?"_s, u"ยืนยันการบันทึกข้อมูล"_s,
+             BoxIcon::Information, BoxAnswer::Cancel))
+        return;
+    writeRates(rates);
+    ::LoadMoney();
+    LoadMoney();
+    inform(u"บันทึก รายการ เข้าสู่ระบบงานฐานข้อมูลเรียบร้อย."_s);
+}
+
+/// "เพิ่มเลข": makes a number hot.
+void Setting::lvButtons_H3_Click()
+{
+    QLineEdit *field = m_ui->text9;
+    const auto length = trimBlanks(field->text()).size();
+    if (length == 0)
+        return refuseAt(field, u"กรุณาระบุ ( เลข ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s);
+    if (length < 2)
+        return refuseAt(field,
+                        u"ไม่สามารถบันทึกได้ ( เลขต้อง มีตั้งแต่ สองหลัก ขึ้นไป ) โปรดทำการแก้ไข ก่อนเริ่มบันทึก"_s);
+    if (!ask(u"คุณแน่ใจว่าต้องการเพิ่ม \n\n[  เลขดัง ][ =  "_s + field->text() + u" ]"_s,
+             u"ยืนยันการเพิ่มข้อมูล"_s, BoxIcon::Information, BoxAnswer::Cancel))
+        return;
+    if (isHotNumber(field->text())) {
+        refuse(u"ไม่สามารถบันทึกได้ ( มีเลขนี้อยู่ใน ระบบ แล้ว !! ) โปรดทำการแก้ไข ก่อนเริ่มบันทึก"_s);
+        return;
+    }
+    addHotNumber(field->text());
+    field->clear();
+    LoadNumberFix();
+}
+
+/// "ลบเลข": makes the number of the active row an ordinary one.
+void Setting::lvButtons_H4_Click()
+{
+    if (m_hotNumbers.rows() == 0)
+        return;
+    const int row = m_ui->fpSpread1->activeRow();
+    const qint32 key = CLng(m_hotNumbers.text(row, 0));
+    const QString number = m_hotNumbers.text(row, HotNumberColumn);
+    if (!ask(u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[  เลขดัง ][  "_s + number + u"  ]"_s, u"ยืนยันการลบข้อมูล"_s,
+             BoxIcon::Exclamation, BoxAnswer::Cancel))
+        return;
+    deleteHotNumber(key);
+    inform(u"ทำการ ลบข้อมูล ออกจากระบบเรียบร้อยแล้ว."_s);
+    LoadNumberFix();
+}
+
+/// "ลบเลขดังทั้งหมด": leaves no number hot.
+void Setting::lvButtons_H5_Click()
+{
+    if (m_hotNumbers.rows() == 0)
+        return;
+    if (!ask(u"คุณแน่ใจว่าต้องการลบข้อมูล (  เลขดัง !! ) ออกทั้งหมด แน่ใจ?"_s, u"ยืนยันการลบข้อมูล"_s,
+             BoxIcon::Exclamation, BoxAnswer::Cancel))
+        return;
+    deleteAllHotNumbers();
+    refuse(u"ลบข้อมูลทั้งหมดเสร็จสิ้นแล้ว . . . . ."_s); // a warning, though it reports success
+    LoadNumberFix();
+}

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+// The dialog "ตั้งค่าหวย": what the agent pays, and on which numbers he pays half.
+#pragma once
+
+#include "platform/focustracker.h"
+#include "platform/spreadmodel.h"
+
+#include <QDialog>
+
+#include <memory>
+
+class QLineEdit;
+
+namespace Ui {
+class Setting;
+}
+
+class Setting : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Setting(QWidget *parent);
+    ~Setting() override;
+
+private:
+    void connectControls();
+    void Form_Load();
+    void LoadNumberFix();
+    void LoadMoney();
+
+    void lvButtons_H2_Click();
+    void lvButtons_H3_Click();
+    void lvButtons_H4_Click();
+    void lvButtons_H5_Click();
+    void refuseAt(QLineEdit *field, const QString &words);
+
+    std::unique_ptr<Ui::Setting> m_ui;
+    FocusTracker m_focus;
+    SpreadModel m_hotNumbers;
+};
