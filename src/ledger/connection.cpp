@@ -7,12 +7,18 @@
 #include "runtime/runtimeerror.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QScopeGuard>
 #include <QTemporaryFile>
 
 #define SQLITE_HAS_CODEC
 #include <sqlite3.h>
+
+#ifndef Q_OS_WIN
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -78,7 +84,9 @@ int bindValue(sqlite3_stmt *statement, int place, const QVariant &value)
 /// The engine's handle and the statements that it has prepared once.
 struct Connection::Engine
 {
-    explicit Engine(const QString &filePath) : path(filePath) {}
+    explicit Engine(const QString &filePath)
+        : path(filePath), folder(QFile::encodeName(QFileInfo(filePath).path()))
+    {}
     Q_DISABLE_COPY_MOVE(Engine)
 
     ~Engine()
@@ -151,7 +159,19 @@ struct Connection::Engine
         return statement;
     }
 
+    /// Raises once the folder turned read-only. The engine holds its journal open and would write
+    /// on, but could not remove it at the end, and nobody would learn of it before the next start
+    /// is refused. Cheap enough for each row. Under Windows rights of a folder are not told so.
+    void requireWritableFolder() const
+    {
+#ifndef Q_OS_WIN
+        if (faccessat(AT_FDCWD, folder.constData(), W_OK, AT_EACCESS) != 0)
+            raiseFailure(SQLITE_READONLY);
+#endif
+    }
+
     QString path;
+    QByteArray folder;          ///< the one that the file lies in
     bool journalWaited = false; ///< the last owner was killed and left a journal
     sqlite3 *handle = nullptr;
     QHash<QString, sqlite3_stmt *> prepared;
@@ -223,6 +243,8 @@ std::unique_ptr<Connection> Connection::create(const QString &path, const QByteA
 ResultRows Connection::run(const QString &sql, const QVariantList &values)
 {
     sqlite3_stmt *statement = m_engine->prepare(sql);
+    if (sqlite3_stmt_readonly(statement) == 0)
+        m_engine->requireWritableFolder();
     const auto reset = qScopeGuard([statement] { sqlite3_reset(statement); });
     for (int place = 0; place < values.size(); ++place)
         m_engine->check(bindValue(statement, place + 1, values[place]));
