@@ -139,7 +139,8 @@ struct Connection::Engine
         if (!journalWaited)
             return;
         finalizeAll();
-        static QList<sqlite3 *> abandoned;
+        // Never destroyed, so that what is left open stays known to the end of the process.
+        static auto &abandoned = *new QList<sqlite3 *>;
         abandoned.append(std::exchange(handle, nullptr));
     }
 
