@@ -51,10 +51,24 @@ void Form2::connectControls()
     connect(m_ui->cDel, &QPushButton::clicked, this, &Form2::cDel_Click);
     connect(m_ui->Tname, &QLineEdit::returnPressed, m_ui->Tber, qOverload<>(&QWidget::setFocus));
     connect(m_ui->text1, &QLineEdit::returnPressed, this, &Form2::lvButtons_H5_Click);
-    // The limit binds what is typed: a name picked from the list may be longer by its blank.
-    connect(m_ui->Tname, &QLineEdit::textEdited, this, [this](const QString &text) {
-        m_ui->Tname->setMaxLength(int(std::max(LongestName, text.size())));
-    });
+    connect(m_ui->Tname, &QLineEdit::textEdited, this, &Form2::tidyName);
+}
+
+/// Keeps what is typed or pasted to one line. The limit of its length binds what is typed: a name
+/// picked from the list may be longer by its blank.
+void Form2::tidyName(const QString &text)
+{
+    const auto isControl = [](QChar character) { return character < u' '; };
+    const auto breaks = std::count_if(text.begin(), text.end(), isControl);
+    const int limit = int(std::max(LongestName, text.size() - breaks));
+    if (breaks == 0 && limit == m_ui->Tname->maxLength())
+        return; // setting either puts the cursor at the end
+    const auto cursor = m_ui->Tname->cursorPosition() - breaks;
+    QString line = text;
+    line.removeIf(isControl);
+    m_ui->Tname->setMaxLength(limit);
+    m_ui->Tname->setText(line);
+    m_ui->Tname->setCursorPosition(int(cursor));
 }
 
 void Form2::showEvent(QShowEvent *event)

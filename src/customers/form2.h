@@ -50,6 +50,7 @@ private:
 
     void change(const Change &what);
     bool confirm(const QString &question);
+    void tidyName(const QString &text);
     void showName(const QString &name);
     void clearFields();
     qint32 activeKey() const;

@@ -26,9 +26,10 @@ void setupCustomerList(SpreadModel &list)
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress)
 {
     setupCustomerList(list);
-    RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE  [Mname]  Like ? and [MPK] > 0 "
-                    "ORDER BY Mname COLLATE ThaiOrder"_s,
-                    {u'%' + part + u'%'});
+    RecordsetA.open(
+        u" SELECT tblMember.* FROM tblMember WHERE  ifnull([Mname], '')  Like ? and [MPK] > 0 "
+        "ORDER BY Mname COLLATE ThaiOrder"_s,
+        {u'%' + part + u'%'});
     const int count = RecordsetA.recordCount();
     list.setRows(count);
     if (count > 0)

@@ -4,12 +4,14 @@
 #include "entry/keyboardpicture.h"
 #include "platform/pushbutton.h"
 
+#include <QPointer>
 #include <QScreen>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
-ShowKey::ShowKey(QWidget *owner) : QDialog(owner)
+// No child of the main window: it would cover the entry field for as long as it is open.
+ShowKey::ShowKey(QWidget *owner)
 {
     setObjectName(u"ShowKey"_s);
     setWindowTitle(u"คีย์ลัด"_s);
@@ -21,6 +23,7 @@ ShowKey::ShowKey(QWidget *owner) : QDialog(owner)
     column->addWidget(picture, 1);
     column->addWidget(leave, 0, Qt::AlignRight);
     connect(leave, &QPushButton::clicked, this, &QDialog::reject);
+    connect(owner, &QObject::destroyed, this, [this] { delete this; });
     connect(this, &QDialog::finished, owner, [this, owner] {
         owner->activateWindow(); // a desktop without a window manager leaves it without keys
         deleteLater();
@@ -29,7 +32,7 @@ ShowKey::ShowKey(QWidget *owner) : QDialog(owner)
 
 void ShowKey::open(QWidget *owner)
 {
-    auto *window = owner->findChild<ShowKey *>(QString(), Qt::FindDirectChildrenOnly);
+    static QPointer<ShowKey> window;
     if (!window) {
         window = new ShowKey(owner);
         const QRect desktop = owner->screen()->availableGeometry();

@@ -10,7 +10,7 @@ class ShowKey : public QDialog
 
 public:
     /// Shows the window in the middle of the screen, or brings the one that is open to the front.
-    /// It goes with @p owner, the main window, at the latest.
+    /// It can go behind @p owner, the main window, and ends with it at the latest.
     static void open(QWidget *owner);
 
 private:

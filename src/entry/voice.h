@@ -19,16 +19,20 @@ struct EchoKey
     const char *file;
 };
 
-inline constexpr std::
-    array
-        EchoKeys{
-            EchoKey{{49, 97}, "1.mp3"},       EchoKey{{50, 98}, "2.mp3"},
-            EchoKey{{51, 99}, "3.mp3"},       EchoKey{{52, 100}, "4.mp3"},
-            EchoKey{{53, 101}, "5.mp3"},      EchoKey{{54, 102}, "6.mp3"},
-            EchoKey{{55, 103}, "7.mp3"},      EchoKey{{56, 104}, "8.mp3"},
-            EchoKey{{57, 105}, "9.mp3"},      EchoKey{{48, 96}, "0.mp3"},
-            EchoKey{{109, 189}, "money.mp3"}, // the dash, of the key pad and of the main keyboard
-        };
+/// The digits of both places, and the dash of the key pad and of the main keyboard.
+inline constexpr std::array<EchoKey, 11> EchoKeys{{
+    {{49, 97}, "1.mp3"},
+    {{50, 98}, "2.mp3"},
+    {{51, 99}, "3.mp3"},
+    {{52, 100}, "4.mp3"},
+    {{53, 101}, "5.mp3"},
+    {{54, 102}, "6.mp3"},
+    {{55, 103}, "7.mp3"},
+    {{56, 104}, "8.mp3"},
+    {{57, 105}, "9.mp3"},
+    {{48, 96}, "0.mp3"},
+    {{109, 189}, "money.mp3"},
+}};
 
 /// A key that chooses a kind: its recording, and the kind's place in KindEntries.
 struct KindKey

@@ -17,10 +17,10 @@ enum class FieldEnter {
 /// One guarded field. Names are those of the form and of the control within it.
 struct FieldRule
 {
-    const char *form;
-    const char *field;
-    int longest; ///< characters that can be typed; text set by code may be longer
-    FieldEnter enter;
+    const char *form = nullptr;
+    const char *field = nullptr;
+    int longest = 0; ///< characters that can be typed; text set by code may be longer
+    FieldEnter enter = FieldEnter::Stays;
     const char *target = nullptr;
     FieldFilter filter = FieldFilter::Digits;
     const char *movesOnTo = nullptr; ///< where any other key moves the focus, after the filter

@@ -146,6 +146,9 @@ struct Connection::Engine
 
     sqlite3_stmt *prepare(const QString &sql)
     {
+        constexpr qsizetype MostPrepared = 200; // few statements have a text that varies
+        if (prepared.size() >= MostPrepared && !prepared.contains(sql))
+            finalizeAll();
         sqlite3_stmt *&statement = prepared[sql];
         if (!statement) {
             const QByteArray text = sql.toUtf8();

@@ -3,6 +3,8 @@
 
 #include <QFile>
 
+#include <utility>
+
 #define SDL_MAIN_HANDLED
 #include <SDL.h>
 #include <SDL_mixer.h>
@@ -36,18 +38,27 @@ struct Device
     bool open = false;
 };
 
-/// Opens the device at the first call; false on a machine without one.
-bool openDevice()
-{
-    static const Device device;
-    return device.open;
-}
+/// The device, once it could be opened.
+std::unique_ptr<Device> device;
 
 } // namespace
 
 struct MediaControl::Sound
 {
+    /// True with an open device. Tries to open it once: a machine without sound must not be
+    /// asked again with each key.
+    bool haveDevice()
+    {
+        if (!device && !std::exchange(tried, true)) {
+            device = std::make_unique<Device>();
+            if (!device->open)
+                device.reset();
+        }
+        return device != nullptr;
+    }
+
     Mix_Chunk *chunk = nullptr;
+    bool tried = false;
 };
 
 MediaControl::MediaControl() : m_sound(std::make_unique<Sound>()) {}
@@ -66,8 +77,8 @@ void MediaControl::Command(MediaCommand command)
         chunk = nullptr;
         break;
     case MediaCommand::Open:
-        if (QFile::exists(FileName) && openDevice())
-            chunk = Mix_LoadWAV(QFile::encodeName(FileName).constData());
+        if (QFile::exists(FileName) && m_sound->haveDevice())
+            chunk = Mix_LoadWAV(FileName.toUtf8().constData()); // its files are named in UTF-8
         break;
     case MediaCommand::Play:
         if (chunk)

@@ -13,7 +13,8 @@ enum class MediaCommand {
     Play   ///< starts it from its beginning and returns
 };
 
-/// The sound device is opened with the first file and not before.
+/// The sound device is opened with the first file and not before; each new control tries anew
+/// where there was none.
 class MediaControl
 {
 public:

@@ -5,6 +5,7 @@
 
 #include <QEvent>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMouseEvent>
 
 #include <algorithm>
@@ -61,6 +62,12 @@ void Spread::setActiveRow(int row)
     m_picking = true;
 }
 
+void Spread::setRowPoints(int points)
+{
+    m_rowPoints = points;
+    fitRowHeights();
+}
+
 void Spread::setColumnDigits(int column, int digits)
 {
     m_columnDigits.insert(column, digits);
@@ -78,8 +85,18 @@ void Spread::mousePressEvent(QMouseEvent *event)
 {
     const int before = activeRow();
     QTableView::mousePressEvent(event);
-    if (before > 0 && before == activeRow() && indexAt(event->pos()).isValid())
+    if (event->button() == Qt::LeftButton && before > 0 && before == activeRow()
+        && indexAt(event->pos()).isValid())
         emit rowPicked(before);
+}
+
+void Spread::keyPressEvent(QKeyEvent *event)
+{
+    const int key = event->key();
+    if (activeRow() > 0 && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
+        emit rowPicked(activeRow());
+    else
+        QTableView::keyPressEvent(event);
 }
 
 void Spread::focusInEvent(QFocusEvent *event)
@@ -122,5 +139,7 @@ void Spread::fitColumns()
 void Spread::fitRowHeights()
 {
     verticalHeader()->setMinimumSectionSize(1);
-    verticalHeader()->setDefaultSectionSize(SpreadHeader::rowHeight(font()));
+    constexpr double PointsPerInch = 72;
+    const int least = int(m_rowPoints * logicalDpiY() / PointsPerInch);
+    verticalHeader()->setDefaultSectionSize(std::max(least, SpreadHeader::rowHeight(font())));
 }

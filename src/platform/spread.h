@@ -32,8 +32,12 @@ public:
     /// Gives a column a width of its own, in digits; those without share the rest of the grid.
     void setColumnDigits(int column, int digits);
 
+    /// Height of the rows in points; they are higher where the type needs it.
+    void setRowPoints(int points);
+
 signals:
-    /// The user has picked a row with a key or the mouse, also the one that already was active.
+    /// The user has picked a row: by moving to it, by a click, or by Space or Enter on the one that
+    /// is active.
     void rowPicked(int row);
 
 protected:
@@ -43,6 +47,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void fitRowHeights();
@@ -50,5 +55,6 @@ private:
 
     SpreadModel *m_model = nullptr;
     QMap<int, int> m_columnDigits;
+    int m_rowPoints = 18;
     bool m_picking = true; ///< false while code sets the active row
 };

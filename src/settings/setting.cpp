@@ -20,8 +20,9 @@ Setting::Setting(QWidget *parent)
     m_ui->setupUi(this);
     m_ui->fpSpread1->setSpreadModel(&m_hotNumbers);
     m_ui->fpSpread1->setColumnDigits(HotPlaceColumn, 8);
-    m_ui->fpSpread1->setColumnDigits(HotNumberColumn, 12);
-    m_ui->fpSpread1->setColumnDigits(HotTodColumn + 1, 0);
+    m_ui->fpSpread1->setColumnDigits(HotNumberColumn, 19);
+    m_ui->fpSpread1->setColumnDigits(HotTodColumn + 1, 2);
+    m_ui->fpSpread1->setRowPoints(21);
     for (auto *button : findChildren<QPushButton *>())
         button->setAutoDefault(false); // Enter belongs to the fields
     connectControls();

@@ -98,6 +98,8 @@ void MDIForm1::connectNavigation()
     connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, [this] {
         m_pages.showSettings(this);
         activateWindow(); // a desktop without a window manager leaves it without keys
+        if (m_page)
+            m_page->setFocus(); // keying goes on at once
     });
 }
 

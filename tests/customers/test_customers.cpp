@@ -10,6 +10,7 @@
 #include "support/outcome.h"
 #include "support/testledger.h"
 
+#include <QClipboard>
 #include <QGroupBox>
 #include <QLineEdit>
 #include <QTest>
@@ -23,6 +24,7 @@ namespace {
 const QString NoName = u"กรุณาระบุ ( ชื่อลูกค้า ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s;
 const QString NoTelephone = u"กรุณาระบุ ( เบอร์ติดต่อ ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s;
 const QString NoPercent = u"กรุณาระบุ ( ส่วนลด ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s;
+const QString Question = u"ยืนยันการลบข้อมูล, 2, Cancel"_s; // a warning
 const QString Saved = u"บันทึก รายการ เข้าสู่ระบบงานฐานข้อมูลเรียบร้อย."_s;
 
 } // namespace
@@ -41,9 +43,13 @@ private slots:
     void unwantedCharactersAreTakenOut();
     void apostropheEndsWithTheReport();
     void longNameIsPickedWhole();
+    void changeGoesByTheActiveRow_data();
     void changeGoesByTheActiveRow();
+    void rowIsPickedByClickAndKey();
+    void nameIsMendedInTheMiddle();
     void searchListsPartsOfNames_data();
     void searchListsPartsOfNames();
+    void deleteSparesCustomersWithLines_data();
     void deleteSparesCustomersWithLines();
     void deleteKeyEditsInAField();
 
@@ -54,7 +60,7 @@ private:
         return m_page->findChild<Control *>(QLatin1String(name));
     }
     QString text(const char *field) const { return control<QLineEdit>(field)->text(); }
-    void click(const char *button) { Hands::click(control<PushButton>(button)); }
+    void click(const char *button) const { Hands::click(control<PushButton>(button)); }
     void fill(const QString &name, const QString &telephone, const QString &percent)
     {
         control<QLineEdit>("Tname")->setText(name);
@@ -117,6 +123,7 @@ void CustomersTest::customerIsAddedByKeys()
     QCOMPARE(Hands::focus()->objectName(), u"Tname"_s);
     m_hands->answerNextWithOk();
     click("lvButtons_H0");
+    QCOMPARE(m_hands->firstLook(), Question);
     QCOMPARE(m_hands->takeBoxes(),
              QStringList({u"คุณแน่ใจว่าต้องการเพิ่มข้อมูล \n\n[ กมล ][ 0812345678 ][ 15 %]"_s, Saved}));
     QCOMPARE(stored().last(), u"4 กมล 0812345678 15"_s);
@@ -149,6 +156,8 @@ void CustomersTest::addRefuses()
     QCOMPARE(m_hands->takeBoxes(), QStringList(words));
     QCOMPARE(stored().size(), 3);
     QCOMPARE(text("Tname"), fields[0]);
+    click("lvButtons_H0"); // a second press is refused no less
+    QCOMPARE(m_hands->takeBoxes(), QStringList(words));
 }
 
 void CustomersTest::unwantedCharactersAreTakenOut()
@@ -189,24 +198,69 @@ void CustomersTest::longNameIsPickedWhole()
     QCOMPARE(text("Tname"), u' ' + longest);
 }
 
+void CustomersTest::changeGoesByTheActiveRow_data()
+{
+    QTest::addColumn<QByteArray>("button");
+    QTest::addColumn<QByteArray>("field");
+    QTest::addColumn<QString>("refusal");
+    QTest::addColumn<QString>("question");
+    QTest::addColumn<QString>("row");
+    QTest::newRow("telephone") << QByteArray("lvButtons_H1") << QByteArray("Tber") << NoTelephone
+                               << u"คุณแน่ใจว่าต้องการแก้ไขเบอร์ ของ \n\n[ ใคร ][ 7 ][ 5 %]"_s
+                               << u"1 สมชาย 7 10"_s;
+    QTest::newRow("discount") << QByteArray("lvButtons_H3") << QByteArray("Tpercen") << NoPercent
+                              << u"คุณแน่ใจว่าต้องการแก้ไขส่วนลด ของ \n\n[ ใคร ][ 0 ][ 7 %]"_s
+                              << u"1 สมชาย  7"_s;
+}
+
 void CustomersTest::changeGoesByTheActiveRow()
 {
+    QFETCH(QByteArray, button);
+    QFETCH(QByteArray, field);
+    QFETCH(QString, question);
     pick(1);
+    QCOMPARE(text("Tname"), u" แก้ว"_s);
+    control<Spread>("fpSpread1")->setActiveRow(2); // of another customer than the fields show
+    control<QLineEdit>("Tname")->setText(u"ใคร"_s);
+    control<QLineEdit>(field)->setText(u" "_s);
+    click(button);
+    QTEST(m_hands->takeBoxes().join(u'\n'), "refusal");
+    QCOMPARE(Hands::focus()->objectName(), QString::fromLatin1(field));
+    Hands::type(u"7"_s);
+    control<QLineEdit>(field)->setText(u"7"_s);
+    m_hands->answerNextWithOk();
+    click(button);
+    QCOMPARE(m_hands->firstLook(), Question);
+    QCOMPARE(m_hands->takeBoxes(), QStringList(question));
+    QTEST(stored().first(), "row");
+    QCOMPARE(text("Tname"), u"ใคร"_s); // the fields keep their text
+    QCOMPARE(control<Spread>("fpSpread1")->activeRow(), 2);
+}
+
+void CustomersTest::rowIsPickedByClickAndKey()
+{
+    auto *list = control<Spread>("fpSpread1");
+    list->setFocus();
+    Hands::press(Qt::Key_Space); // the row that is active already
     QCOMPARE(text("Tname"), u" แก้ว"_s);
     Hands::press(Qt::Key_Down);
     QCOMPARE(text("Tname"), u" สมชาย"_s);
-    fill(u"ใคร"_s, u""_s, u"7"_s); // whatever name the fields show
-    click("lvButtons_H1");
-    QCOMPARE(m_hands->takeBoxes(), QStringList(NoTelephone));
-    QCOMPARE(Hands::focus()->objectName(), u"Tber"_s);
-    m_hands->answerNextWithOk();
-    click("lvButtons_H3");
-    QCOMPARE(m_hands->takeBoxes(),
-             QStringList(u"คุณแน่ใจว่าต้องการแก้ไขส่วนลด ของ \n\n[ ใคร ][  ][ 7 %]"_s));
-    QCOMPARE(stored(), QStringList({u"1 สมชาย  7"_s, u"2 แก้ว  5"_s, u"3 Lek  0"_s}));
-    QCOMPARE(text("Tname"), u"ใคร"_s); // the fields keep their text
-    pick(2);                           // the row still active fills them again
-    QCOMPARE(text("Tpercen"), u"7"_s);
+    fill(u"x"_s, u"1"_s, u"1"_s);
+    pick(2);
+    QCOMPARE(text("Tname"), u" สมชาย"_s);
+}
+
+void CustomersTest::nameIsMendedInTheMiddle()
+{
+    control<QLineEdit>("Tname")->setText(u"กมล"_s);
+    Hands::press(Qt::Key_Home);
+    Hands::type(u"xy"_s);
+    QCOMPARE(text("Tname"), u"xyกมล"_s);
+    QApplication::clipboard()->setText(u"a\nb\tc"_s);
+    control<QLineEdit>("Tname")->paste();
+    QCOMPARE(text("Tname"), u"xyabcกมล"_s);
+    Hands::type(u"d"_s);
+    QCOMPARE(text("Tname"), u"xyabcdกมล"_s);
 }
 
 void CustomersTest::searchListsPartsOfNames_data()
@@ -223,6 +277,7 @@ void CustomersTest::searchListsPartsOfNames_data()
 void CustomersTest::searchListsPartsOfNames()
 {
     QFETCH(QString, typed);
+    pick(1);
     control<QLineEdit>("text1")->setText(typed);
     control<QLineEdit>("text1")->setFocus();
     Hands::press(Qt::Key_Return);
@@ -231,6 +286,9 @@ void CustomersTest::searchListsPartsOfNames()
         QCOMPARE(
             m_hands->takeBoxes(),
             QStringList(u"ไม่พบ ข้อมูล ที่คุณต้องการค้นหาในระบบ โปรดลองอีกครั้ง ( กด F5 เพื่อ รีโหลดข้อมูล ).."_s));
+    QCOMPARE(text("Tname"), QString());
+    QVERIFY(control<QGroupBox>("Frame1")->title().contains(
+        names().isEmpty() ? u"3"_s : QString::number(names().size()))); // the last list's count
     click("lvButtons_H1"); // with an empty list it asks nothing
     m_hands->takeBoxes();
     Hands::press(Qt::Key_F5);
@@ -238,9 +296,17 @@ void CustomersTest::searchListsPartsOfNames()
     QCOMPARE(text("text1"), QString());
 }
 
+void CustomersTest::deleteSparesCustomersWithLines_data()
+{
+    QTest::addColumn<int>("nothing");
+    QTest::newRow("tblNumber") << 0;
+    QTest::newRow("tblNumberCut") << 0;
+}
+
 void CustomersTest::deleteSparesCustomersWithLines()
 {
-    m_ledger->run(u"INSERT INTO tblNumberCut (NameFK) VALUES (2)"_s);
+    m_ledger->run(
+        u"INSERT INTO %1 (NameFK) VALUES (2)"_s.arg(QLatin1String(QTest::currentDataTag())));
     pick(1);
     Hands::press(Qt::Key_Delete);
     QCOMPARE(m_hands->takeBoxes(),
@@ -248,6 +314,7 @@ void CustomersTest::deleteSparesCustomersWithLines()
     pick(2);
     m_hands->answerNextWithOk();
     Hands::press(Qt::Key_Delete);
+    QCOMPARE(m_hands->firstLook(), Question);
     QCOMPARE(m_hands->takeBoxes(), QStringList({u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[ สมชาย ]"_s,
                                                 u"ทำการ ลบข้อมูล ออกจากระบบเรียบร้อยแล้ว."_s}));
     QCOMPARE(stored(), QStringList({u"2 แก้ว  5"_s, u"3 Lek  0"_s}));

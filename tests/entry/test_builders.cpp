@@ -82,6 +82,15 @@ void BuildersTest::linesBecomeRows_data()
         {u"1: 112=20"_s, u"1: 211=20"_s, u"1: 121=100"_s});
     row("a pair at the end", {u"กลับบน 122-100-20"_s},
         {u"1: 212=20"_s, u"1: 221=20"_s, u"1: 122=100"_s});
+    row("two digits turned on top", {u"กลับบน 12-100-20"_s}, {u"3: 21=20"_s, u"3: 12=100"_s});
+    row("the doors of 0 on the bottom", {u"19 ประตู (ล่าง) 0-1"_s},
+        {u"7: 90=1"_s, u"7: 80=1"_s, u"7: 70=1"_s, u"7: 60=1"_s, u"7: 50=1"_s, u"7: 40=1"_s,
+         u"7: 30=1"_s, u"7: 20=1"_s, u"7: 10=1"_s, u"7: 09=1"_s, u"7: 08=1"_s, u"7: 07=1"_s,
+         u"7: 06=1"_s, u"7: 05=1"_s, u"7: 04=1"_s, u"7: 03=1"_s, u"7: 02=1"_s, u"7: 01=1"_s,
+         u"7: 00=1"_s});
+    row("the doubles on top", {u"00-99 (บน) -5"_s},
+        {u"3: 99=5"_s, u"3: 88=5"_s, u"3: 77=5"_s, u"3: 66=5"_s, u"3: 55=5"_s, u"3: 44=5"_s,
+         u"3: 33=5"_s, u"3: 22=5"_s, u"3: 11=5"_s, u"3: 00=5"_s});
     row("two digits turned", {u"กลับล่าง 12-100-20"_s}, {u"7: 21=20"_s, u"7: 12=100"_s});
     row("a group keyed again adds each to its own", {u"กลับบน 122-100-20"_s, u"กลับบน 122-100-20"_s},
         {u"1: 212=40"_s, u"1: 221=40"_s, u"1: 122=200"_s});
@@ -108,6 +117,9 @@ void BuildersTest::linesBecomeRows()
     Ticket ticket;
     keyLines(ticket, lines);
     QTEST(rowsOf(ticket), "rows");
+    // The tab shown is that of the kind keyed last; both sides together show the top.
+    QCOMPARE(ticket.ShowTopTab, lines.last().section(u' ', 0, -2).contains(u"ล่าง"_s) == false
+                                    || lines.last().startsWith(u"บน+"_s));
     QCOMPARE(script.texts(), QStringList());
 }
 

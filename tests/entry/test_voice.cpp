@@ -12,8 +12,10 @@
 
 #include <QCheckBox>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTest>
 
 #include <SDL_mixer.h>
@@ -63,6 +65,10 @@ private slots:
     void voiceTurnedOffTouchesNoDevice();
     void lineIsSpokenKeyByKey();
     void nextKeyCutsTheWordOff();
+    void voiceEndsAtOnce_data();
+    void voiceEndsAtOnce();
+    void heldKeyRepeats();
+    void pictureGoesWithTheMainWindow();
     void brokenRecordingStaysSilent();
 
 private:
@@ -211,12 +217,57 @@ void VoiceTest::nextKeyCutsTheWordOff()
     for (const auto &word : {u"1"_s, u"2"_s, u"3"_s})
         QVERIFY(recorded().indexOf(wordSamples(word), m_heard - 2 * wordSamples(word).size()) < 0);
     QCOMPARE(control<QLineEdit>("Tnumber")->text(), u"1234"_s);
+}
+
+void VoiceTest::voiceEndsAtOnce_data()
+{
+    QTest::addColumn<bool>("byLeavingThePage");
+    QTest::newRow("turned off") << false;
+    QTest::newRow("with its page") << true;
+}
+
+void VoiceTest::voiceEndsAtOnce()
+{
+    QFETCH(bool, byLeavingThePage);
+    turnVoiceOn();
+    const qsizetype begin = recorded().size();
     Hands::press(Qt::Key_9);
-    Hands::click(control<QCheckBox>("C01")); // off: cut off at once
-    Hands::click(control<QCheckBox>("C01"));
-    Hands::click(control<QLineEdit>("Tnumber"));
-    QVERIFY(heard(Qt::Key_8, u"8"_s));
-    QVERIFY(recorded().indexOf(wordSamples(u"9"_s), 0) < 0);
+    if (byLeavingThePage)
+        m_page.reset();
+    else
+        Hands::click(control<QCheckBox>("C01"));
+    const QByteArray word = wordSamples(u"9"_s);
+    QVERIFY(QTest::qWaitFor([&] { return recorded().size() > begin + 2 * word.size(); }));
+    QVERIFY(recorded().indexOf(word, begin) < 0);
+}
+
+void VoiceTest::heldKeyRepeats()
+{
+    turnVoiceOn();
+    QKeyEvent repeat(QEvent::KeyPress, Qt::Key_4, Qt::NoModifier, u"4"_s, true);
+    for (int times = 0; times < 3; ++times)
+        QApplication::sendEvent(Hands::focus(), &repeat);
+    QCOMPARE(control<QLineEdit>("Tnumber")->text(), u"444"_s);
+    m_heard = recorded().size();
+    const QByteArray word = wordSamples(u"4"_s);
+    QVERIFY(QTest::qWaitFor([&] { return recorded().indexOf(word, m_heard - word.size()) >= 0; }));
+    QKeyEvent kindKey(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(Hands::focus(), &kindKey);
+    QCOMPARE(control<QLabel>("Label3")->text(), u"บน"_s);
+}
+
+void VoiceTest::pictureGoesWithTheMainWindow()
+{
+    const auto pictures = [] {
+        const QWidgetList windows = QApplication::topLevelWidgets();
+        return std::count_if(windows.begin(), windows.end(), [](const QWidget *window) {
+            return window->objectName() == u"ShowKey"_s;
+        });
+    };
+    Hands::click(control<QPushButton>("Label12"));
+    QCOMPARE(pictures(), 1);
+    m_page.reset(); // here the page is its own main window
+    QCOMPARE(pictures(), 0);
 }
 
 void VoiceTest::brokenRecordingStaysSilent()

@@ -17,6 +17,12 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+const QString Question = u"ยืนยันการลบข้อมูล, 2, Cancel"_s; // a warning
+
+} // namespace
+
 class SettingsTest : public QObject
 {
     Q_OBJECT
@@ -118,7 +124,10 @@ void SettingsTest::ratesAreWalkedAndStored()
     QCOMPARE(walked.join(u' '), u"text1 text3 text2 text4 text5 text6 text7 text8"_s);
     click("lvButtons_H2"); // Enter answers Cancel
     QCOMPARE(Rate3up, qint16(500));
+    first->setText(u"00"_s);
+    m_hands->takeBoxes();
     clickOk("lvButtons_H2");
+    QCOMPARE(m_hands->firstLook(), u"ยืนยันการบันทึกข้อมูล, 1, Cancel"_s);
     QCOMPARE(m_hands->takeBoxes().last(), u"บันทึก รายการ เข้าสู่ระบบงานฐานข้อมูลเรียบร้อย."_s);
     QCOMPARE(Rate3up, qint16(0)); // counts at once
     QCOMPARE(first->text(), u"0"_s);
@@ -143,17 +152,22 @@ void SettingsTest::hotNumbersComeAndGo()
         Hands::type(number);
         m_hands->answerNextWithOk();
         Hands::press(Qt::Key_Return);
+        QCOMPARE(m_hands->firstLook(), u"ยืนยันการเพิ่มข้อมูล, 1, Cancel"_s);
         QCOMPARE(m_hands->takeBoxes(),
                  QStringList(u"คุณแน่ใจว่าต้องการเพิ่ม \n\n[  เลขดัง ][ =  "_s + number + u" ]"_s));
     }
     QCOMPARE(listed(), QStringList({u"21: 21 , 12"_s, u"021: 021 , 012 , 201 , 210 , 102 , 120"_s,
                                     u"12: 12 , 21"_s}));
     control<Spread>("fpSpread1")->setActiveRow(2);
+    control<Spread>("fpSpread1")->setFocus();
+    Hands::press(Qt::Key_Return); // presses no button
     clickOk("lvButtons_H4");
+    QCOMPARE(m_hands->firstLook(), Question);
     QCOMPARE(m_hands->takeBoxes(), QStringList({u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[  เลขดัง ][  021  ]"_s,
                                                 u"ทำการ ลบข้อมูล ออกจากระบบเรียบร้อยแล้ว."_s}));
     QCOMPARE(listed(), QStringList({u"21: 21 , 12"_s, u"12: 12 , 21"_s}));
     clickOk("lvButtons_H5");
+    QCOMPARE(m_hands->firstLook(), Question);
     QCOMPARE(m_hands->takeBoxes(),
              QStringList({u"คุณแน่ใจว่าต้องการลบข้อมูล (  เลขดัง !! ) ออกทั้งหมด แน่ใจ?"_s,
                           u"ลบข้อมูลทั้งหมดเสร็จสิ้นแล้ว . . . . ."_s}));

@@ -47,6 +47,7 @@ void Hands::click(QWidget *control)
 
 QStringList Hands::takeBoxes()
 {
+    m_looks.clear();
     return std::exchange(m_boxes, {});
 }
 
@@ -66,6 +67,9 @@ bool Hands::eventFilter(QObject *object, QEvent *event)
 void Hands::answer(QMessageBox *box)
 {
     m_boxes += box->text();
+    m_looks += QStringLiteral("%1, %2, %3")
+                   .arg(box->windowTitle(), QString::number(box->icon()),
+                        box->defaultButton()->text().remove(u'&'));
     emit boxShown(box);
     if (std::exchange(m_pressOk, false))
         QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);

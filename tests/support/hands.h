@@ -33,6 +33,10 @@ public:
     /// presses its default button, or with the button asked for by answerNext().
     QStringList takeBoxes();
 
+    /// How the first box since then looked: "title, icon, default button", the icon as one of
+    /// QMessageBox's numbers.
+    QString firstLook() const { return m_looks.value(0); }
+
     /// Has OK answer the next box, whatever its default button is.
     void answerNextWithOk() { m_pressOk = true; }
 
@@ -51,6 +55,7 @@ private:
     void answer(QMessageBox *box);
 
     QStringList m_boxes;
+    QStringList m_looks;
     bool m_pressOk = false;
     std::function<void(QWidget *dialog)> m_inDialog;
 };

@@ -110,7 +110,11 @@ void Player::chooseByKey(int index)
 void Player::showKeys()
 {
     Hands::click(control<PushButton>("Label12"));
-    auto *keys = m_window.findChild<ShowKey *>();
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    const auto found = std::find_if(windows.begin(), windows.end(), [](const QWidget *window) {
+        return window->objectName() == u"ShowKey"_s;
+    });
+    QWidget *keys = found == windows.end() ? nullptr : *found;
     if (!keys || !Hands::focusComesTo(keys))
         compare(u"picture of the keys"_s, u"in front"_s, u"not shown"_s);
     takePicture(u"keys"_s, keys);
