@@ -27,6 +27,8 @@ build   fonts-noto-core   draws Thai and Latin text
 screen  xvfb              a virtual screen
 screen  xauth             admits programs to the virtual screen
 test    sqlcipher         reads the book independently of the program
+test    libfreexl-dev     reads sheets independently of the program
+test    poppler-utils     reads PDF files independently of the program
 test    clang-format      checks the layout of the source
 lint    clang-tidy        checks the source for common mistakes
 voice   espeak-ng         speaks the words of the recordings

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+// What programs that others wrote read in the files that the program writes.
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QPair>
+#include <QSize>
+#include <QStringList>
+#include <QVariant>
+
+struct ReadSheet
+{
+    QString name;
+    QList<QVariantList> rows; ///< a text, a number, or nothing
+};
+
+/// The first sheet of an .xls file.
+ReadSheet readXls(const QByteArray &file);
+
+struct ReadPdf
+{
+    QString title;
+    QList<QSize> pageSizes;            ///< points
+    QStringList text;                  ///< lines as they stand, blanks in a row told as one
+    QList<QPair<QString, bool>> fonts; ///< and whether each lies in the file
+};
+
+ReadPdf readPdf(const QByteArray &file);
