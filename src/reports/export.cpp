@@ -1,0 +1,58 @@
+// SPDX-License-Identifier: MIT
+#include "reports/export.h"
+
+#include "platform/clock.h"
+#include "platform/msgbox.h"
+#include "platform/pdfexport.h"
+#include "platform/savefile.h"
+#include "platform/sheetofpages.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray excelOf(const ReportPages &report)
+{
+    return xlsOf(sheetOf(report));
+}
+
+struct FormatEntry
+{
+    const char16_t *title;
+    const char16_t *extension; ///< as the dialog gets it
+    const char16_t *ending;    ///< as the file gets it
+    QByteArray (*bytesOf)(const ReportPages &report);
+};
+
+constexpr std::array FormatEntries{
+    FormatEntry{u"เลือกตำแหน่งบันทึก Excel", u".xls", u".xls", excelOf},
+    FormatEntry{u"เลือกตำแหน่งบันทึก PDF", u".PDF", u".pdf", pdfOf},
+};
+
+bool mayReplace(const QString &path, const QString &title)
+{
+    const QString name = QDir::toNativeSeparators(path);
+    return !QFileInfo::exists(path)
+           || ask(u"มีไฟล์ชื่อนี้อยู่แล้ว ต้องการบันทึกทับหรือไม่\n"_s + name, title, BoxIcon::Question,
+                  BoxAnswer::Cancel);
+}
+
+} // namespace
+
+void exportReport(ExportFormat format, const ReportPages &report)
+{
+    const FormatEntry &entry = FormatEntries[size_t(format)];
+    const QString title = QString::fromUtf16(entry.title);
+    const QString stamp = currentDateTime().toString(u"dd-MM-yy-HH-mm-ss"_s);
+    const QString picked = askForFileName({title, QString::fromUtf16(entry.extension), stamp});
+    if (picked.isEmpty())
+        return;
+    const QString path = picked + QString::fromUtf16(entry.ending);
+    if (mayReplace(path, title))
+        saveFile(path, entry.bytesOf(report));
+}
