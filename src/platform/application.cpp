@@ -3,6 +3,7 @@
 
 #include "platform/messagebox.h"
 #include "platform/programend.h"
+#include "platform/savedialog.h"
 
 #include <QFont>
 
@@ -18,6 +19,7 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
     setFont(type);
 #endif
     setBoxShower(showMessageBox);
+    setSaveDialog(showSaveDialog);
 }
 
 bool Application::notify(QObject *receiver, QEvent *event)

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#include "platform/savedialog.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+QString showSaveDialog(const SaveRequest &request)
+{
+    static QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QFileDialog dialog(QApplication::activeWindow(), request.title, folder);
+    dialog.setObjectName(u"cd1"_s);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    dialog.setNameFilter(u'*' + request.extension);
+    dialog.selectFile(request.preset);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    const QString picked = dialog.selectedFiles().constFirst();
+    folder = QFileInfo(picked).path();
+    return picked;
+}

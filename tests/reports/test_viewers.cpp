@@ -1,0 +1,222 @@
+// SPDX-License-Identifier: MIT
+// The viewers as a person uses them: pages turned by keys and buttons, files saved through the
+// real dialog, pages sent to a printer.
+#include "platform/application.h"
+#include "platform/printpages.h"
+#include "platform/reportviewer.h"
+#include "reports/cutnumbersreport.h"
+#include "reports/fprint.h"
+#include "reports/viewers.h"
+
+#include "support/otherreaders.h"
+#include "support/screens.h"
+
+#include <QAction>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScreen>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::unique_ptr<FPrint> viewerOf(int rows)
+{
+    const auto top = filledGrid(rows, 3, {3}, 2);
+    const auto bottom = filledGrid(1, 3, {3}, 2);
+    auto window = std::make_unique<FPrint>(u"Fprint3"_s,
+                                           std::make_unique<ActiveReport3>(*top, *bottom), nullptr);
+    window->show();
+    if (!QTest::qWaitForWindowActive(window.get()))
+        qFatal("the viewer does not get the keys");
+    return window;
+}
+
+} // namespace
+
+class ViewersTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void windowsAreModalAndNamed_data();
+    void windowsAreModalAndNamed();
+    void pagesAreTurned();
+    void zoomKeepsThePlace();
+    void pageInSightIsDrawn();
+    void exportThroughTheRealDialog_data();
+    void exportThroughTheRealDialog();
+    void printerGetsThePagesAskedFor_data();
+    void printerGetsThePagesAskedFor();
+};
+
+void ViewersTest::windowsAreModalAndNamed_data()
+{
+    QTest::addColumn<QString>("name");
+    for (const auto &name : {u"FPrint1"_s, u"Fprint2"_s, u"Fprint3"_s})
+        QTest::newRow(qPrintable(name)) << name;
+}
+
+void ViewersTest::windowsAreModalAndNamed()
+{
+    QFETCH(QString, name);
+    QStringList seen;
+    QTimer::singleShot(0, this, [&] {
+        QWidget *window = QApplication::activeModalWidget();
+        const auto *viewer = window->findChild<ReportViewer *>(u"ARViewer21"_s);
+        const QRect room = window->screen()->availableGeometry();
+        const int left = window->x() - room.left();
+        const int top = window->y() - room.top();
+        seen = {window->objectName(), window->windowTitle(), viewer->tool(2)->text()};
+        seen += viewer->tool(0)->isVisible() ? u"with its first tool"_s : QString();
+        seen += left == (room.width() - window->width()) / 2 ? u"centred"_s : u"aside"_s;
+        seen += top == (room.height() - window->height()) / 3 ? u"a third down"_s : u"elsewhere"_s;
+        QTest::keyClick(window, Qt::Key_Escape);
+    });
+    const auto grid = filledGrid(3, 7, {4, 5}, 2);
+    const Boards boards({1, 1, 1, 1, 1, 1, 1, 1});
+    if (name == u"FPrint1"_s)
+        showWinners({*grid, u"1"_s, false}, nullptr);
+    else if (name == u"Fprint2"_s)
+        showStatement({boards.all(), [](int) { return QString(); }}, nullptr);
+    else
+        showCutNumbers(*grid, *grid, nullptr);
+    QCOMPARE(seen, QStringList({name, u"ปริ้นข้อมูล"_s, u"พิมพ์.."_s, QString(), u"centred"_s,
+                                u"a third down"_s}));
+}
+
+void ViewersTest::pagesAreTurned()
+{
+    const auto window = viewerOf(100); // four pages
+    const auto *view = window->findChild<PageView *>();
+    const auto *place = window->findChild<QLabel *>(u"place"_s);
+    QCOMPARE(QApplication::focusWidget(), view);
+    const auto after = [&](Qt::Key key) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        return place->text();
+    };
+    QCOMPARE(place->text(), u"1 / 4"_s);
+    QCOMPARE(after(Qt::Key_PageDown), u"2 / 4"_s);
+    QCOMPARE(after(Qt::Key_End), u"4 / 4"_s);
+    QCOMPARE(after(Qt::Key_PageDown), u"4 / 4"_s);
+    QCOMPARE(after(Qt::Key_PageUp), u"3 / 4"_s);
+    QCOMPARE(after(Qt::Key_Home), u"1 / 4"_s);
+    for (const auto &[tool, shown] :
+         {QPair(u"next"_s, u"2 / 4"_s), QPair(u"last"_s, u"4 / 4"_s),
+          QPair(u"previous"_s, u"3 / 4"_s), QPair(u"first"_s, u"1 / 4"_s)}) {
+        window->findChild<QAction *>(tool)->trigger();
+        QCOMPARE(place->text(), shown);
+    }
+}
+
+void ViewersTest::zoomKeepsThePlace()
+{
+    const auto window = viewerOf(200);
+    auto *view = window->findChild<PageView *>();
+    view->goToPage(5);
+    const int fitting = view->shownPercent();
+    for (const auto &tool : {u"zoomIn"_s, u"zoomOut"_s, u"zoomOut"_s, u"fitWidth"_s}) {
+        const int before = view->shownPercent();
+        window->findChild<QAction *>(tool)->trigger();
+        QVERIFY(tool == u"zoomIn"_s ? view->shownPercent() > before
+                                    : tool == u"fitWidth"_s || view->shownPercent() < before);
+        QCOMPARE(view->page(), 5);
+    }
+    QCOMPARE(view->shownPercent(), fitting);
+}
+
+void ViewersTest::pageInSightIsDrawn()
+{
+    const auto window = viewerOf(60);
+    auto *view = window->findChild<PageView *>();
+    QImage first = view->viewport()->grab().toImage();
+    view->goToPage(2);
+    const QImage second = view->viewport()->grab().toImage();
+    QVERIFY(first != second);
+    int dark = 0;
+    for (int y = 0; y < second.height(); ++y)
+        dark += qGray(second.pixel(second.width() / 4, y)) < 128 ? 1 : 0; // through the numbers
+    QVERIFY2(dark > 28, "a page without its rows and their rules");
+    QVERIFY(qGray(second.pixel(second.width() / 2, 60)) > 250);
+}
+
+void ViewersTest::exportThroughTheRealDialog_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("file");
+    QTest::newRow("sheet") << u"Command1"_s << u"a.xls"_s;
+    QTest::newRow("document") << u"Command2"_s << u"a.pdf"_s;
+}
+
+void ViewersTest::exportThroughTheRealDialog()
+{
+    QFETCH(QString, button);
+    QFETCH(QString, file);
+    const QTemporaryDir folder;
+    const auto window = viewerOf(3);
+    bool preset = false;
+    QTimer::singleShot(0, this, [&] {
+        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        QVERIFY(dialog);
+        auto *name = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s);
+        preset = QRegularExpression(u"^\\d\\d(-\\d\\d){5}$"_s).match(name->text()).hasMatch();
+        name->setText(folder.filePath(u"a"_s));
+        QTest::keyClick(name, Qt::Key_Return);
+    });
+    QTest::mouseClick(window->findChild<QPushButton *>(button), Qt::LeftButton);
+    QVERIFY(preset);
+    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(file));
+}
+
+void ViewersTest::printerGetsThePagesAskedFor_data()
+{
+    QTest::addColumn<int>("from");
+    QTest::addColumn<int>("to");
+    QTest::addColumn<bool>("backwards");
+    QTest::addColumn<QStringList>("firstNumbers");
+    QTest::newRow("all") << 0 << 0 << false << QStringList({u"001"_s, u"033"_s, u"065"_s});
+    QTest::newRow("the second") << 2 << 2 << false << QStringList(u"033"_s);
+    QTest::newRow("beyond the last") << 3 << 9 << false << QStringList(u"065"_s);
+    QTest::newRow("backwards") << 2 << 3 << true << QStringList({u"065"_s, u"033"_s});
+}
+
+void ViewersTest::printerGetsThePagesAskedFor()
+{
+    QFETCH(int, from);
+    QFETCH(int, to);
+    QFETCH(bool, backwards);
+    const QTemporaryDir folder;
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(folder.filePath(u"p.pdf"_s));
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setFromTo(from, to);
+    printer.setPageOrder(backwards ? QPrinter::LastPageFirst : QPrinter::FirstPageFirst);
+    const auto top = filledGrid(70, 3, {3}, 2);
+    const auto bottom = filledGrid(0, 3, {3}, 2);
+    QVERIFY(printPages(ActiveReport3(*top, *bottom).run(), printer));
+    QFile file(printer.outputFileName());
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QStringList firstNumbers;
+    bool headings = false;
+    for (const QString &line : readPdf(file.readAll()).text) {
+        if (headings)
+            firstNumbers += line.section(u' ', 1, 1);
+        headings = line.count(u' ') == 5; // a row of numbers stands next
+    }
+    QTEST(firstNumbers, "firstNumbers");
+}
+
+int main(int argc, char **argv)
+{
+    Application application(argc, argv);
+    ViewersTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "test_viewers.moc"
