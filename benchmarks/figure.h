@@ -59,3 +59,12 @@ Measured measureStart(benchmark::State &state, const char *platform);
 
 /// Megabytes that the program holds at rest.
 Measured measureMemory(benchmark::State &state, const char *platform);
+
+/// Milliseconds for the statement of a full book: laid out as pages, from the print button to its
+/// first page on screen, and as a sheet.
+Measured measureStatement(benchmark::State &state);
+Measured measureFirstPage(benchmark::State &state);
+Measured measureSheet(benchmark::State &state);
+
+/// Kilobytes of the statement of a full book as a PDF file.
+Measured measureDocument(benchmark::State &state);
