@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
 
 namespace {
 
@@ -101,7 +102,7 @@ QPixmap PageView::picture(int page) const
     painter.scale(scale(), scale());
     drawPage(painter, m_report.pages[page - 1]);
     painter.end();
-    const QPixmap shown = *picture;
+    QPixmap shown = *picture;
     m_pictures.insert(page, picture.release());
     return shown;
 }

@@ -14,6 +14,7 @@
 #include <QTextLayout>
 
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -79,7 +80,7 @@ private:
 
     const Part &shaped(const QFont &font, const QString &text)
     {
-        const QPair key(font, text);
+        const std::pair key(font, text);
         const auto found = m_parts.constFind(key);
         return found != m_parts.constEnd() ? *found : *m_parts.insert(key, shape(font, text));
     }
@@ -156,7 +157,7 @@ private:
         painter.drawGlyphRun({0, 0}, run);
     }
 
-    QHash<QPair<QFont, QString>, Part> m_parts;
+    QHash<std::pair<QFont, QString>, Part> m_parts;
 };
 
 } // namespace

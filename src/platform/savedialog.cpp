@@ -20,7 +20,7 @@ QString showSaveDialog(const SaveRequest &request)
     dialog.selectFile(request.preset);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
-    const QString picked = dialog.selectedFiles().constFirst();
+    QString picked = dialog.selectedFiles().constFirst();
     folder = QFileInfo(picked).path();
     return picked;
 }

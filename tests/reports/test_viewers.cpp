@@ -108,8 +108,8 @@ void ViewersTest::pagesAreTurned()
     QCOMPARE(after(Qt::Key_PageUp), u"3 / 4"_s);
     QCOMPARE(after(Qt::Key_Home), u"1 / 4"_s);
     for (const auto &[tool, shown] :
-         {QPair(u"next"_s, u"2 / 4"_s), QPair(u"last"_s, u"4 / 4"_s),
-          QPair(u"previous"_s, u"3 / 4"_s), QPair(u"first"_s, u"1 / 4"_s)}) {
+         {std::pair(u"next"_s, u"2 / 4"_s), std::pair(u"last"_s, u"4 / 4"_s),
+          std::pair(u"previous"_s, u"3 / 4"_s), std::pair(u"first"_s, u"1 / 4"_s)}) {
         window->findChild<QAction *>(tool)->trigger();
         QCOMPARE(place->text(), shown);
     }
