@@ -329,7 +329,7 @@ void Form1::Nubyod()
     const GridTotals totals = m_ticket.totalGrids();
     showTab(BottomTab, u"   ล่าง ( ยอดรวม "_s + formatBaht(bottomTotal(totals)) + u" )"_s);
     showTab(TopTab, u"   บน ( ยอดรวม "_s + formatBaht(topTotal(totals)) + u" )"_s);
-    m_ui->text1->setText(formatBaht(ticketTotal(totals)));
+    m_ui->text1->setText(formatBaht(sumTotal(totals)));
 }
 
 void Form1::showTab(int tab, const QString &caption)

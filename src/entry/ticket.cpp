@@ -20,18 +20,8 @@ bool Ticket::isEmpty() const
 
 void Ticket::SetupSpread()
 {
-    for (int at = 0; at < ClassCount; ++at) {
-        SpreadModel &grid = grids[at];
-        grid.setup(2, 3);
-        grid.setHeader(CaptionRow, NumberColumn,
-                       {BetClasses[at].captionText(), Qt::AlignCenter, true, 2});
-        grid.setHeader(TotalRow, NumberColumn, {u"รวมเงิน"_s});
-        grid.setHeader(TotalRow, AmountColumn, {u"0"_s, Qt::AlignRight | Qt::AlignVCenter});
-        grid.setHeader(TitleRow, NumberColumn, {u"เลข"_s});
-        grid.setHeader(TitleRow, AmountColumn, {u"บาท"_s, Qt::AlignRight | Qt::AlignVCenter});
-        grid.setAlignment(NumberColumn, Qt::AlignHCenter);
-        grid.setAlignment(AmountColumn, Qt::AlignRight);
-    }
+    for (int at = 0; at < ClassCount; ++at)
+        setupBetGrid(grids[at], BetClasses[at], AmountColumn);
 }
 
 void Ticket::writeLine(int grid, int found, const QString &number, const QString &amount)
@@ -63,21 +53,6 @@ GridTotals Ticket::totalGrids()
         grid.setText(TotalRow, AmountColumn, formatBaht(totals[at]));
     }
     return totals;
-}
-
-qint32 topTotal(const GridTotals &totals)
-{
-    return addLong(std::span(totals).first<TopClassCount>());
-}
-
-qint32 bottomTotal(const GridTotals &totals)
-{
-    return addLong(std::span(totals).subspan<TopClassCount>());
-}
-
-qint32 ticketTotal(const GridTotals &totals)
-{
-    return addLong(totals);
 }
 
 QString discountMoney(const QString &total, const QString &percent)

@@ -3,22 +3,7 @@
 // keyed last. Nothing of it is in the Ledger before it is saved.
 #pragma once
 
-#include "entry/vocabulary.h"
-#include "platform/spreadmodel.h"
-
-#include <array>
-
-/// Header rows of a ticket grid: caption, total, column titles.
-inline constexpr int CaptionRow = FirstHeaderRow;
-inline constexpr int TotalRow = FirstHeaderRow + 1;
-inline constexpr int TitleRow = FirstHeaderRow + 2;
-
-/// Columns of a ticket grid.
-inline constexpr int NumberColumn = 1;
-inline constexpr int AmountColumn = 2;
-
-/// Totals of the eight grids in whole baht.
-using GridTotals = std::array<qint32, ClassCount>;
+#include "entry/betgrid.h"
 
 struct Ticket
 {
@@ -50,11 +35,6 @@ struct Ticket
     /// 32 bits; the grids before it have their totals by then.
     GridTotals totalGrids();
 };
-
-/// Sum of the top grids, of the bottom ones, of all; raises "Overflow".
-qint32 topTotal(const GridTotals &totals);
-qint32 bottomTotal(const GridTotals &totals);
-qint32 ticketTotal(const GridTotals &totals);
 
 /// Discount money of a ticket: the total times the percent, as "#,##". Both are texts of fields;
 /// raises "Type mismatch" when one is empty.

@@ -269,3 +269,8 @@ ResultRows Connection::run(const QString &sql, const QVariantList &values)
         m_engine->check(code);
     return result;
 }
+
+int Connection::changes() const
+{
+    return sqlite3_total_changes(m_engine->handle);
+}

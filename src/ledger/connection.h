@@ -42,6 +42,10 @@ public:
     /// QString, NULL as an invalid QVariant.
     ResultRows run(const QString &sql, const QVariantList &values = {});
 
+    /// How many rows statements have written or removed since the file was opened. As long as it
+    /// stays the same, what was read before still holds.
+    int changes() const;
+
 private:
     struct Engine;
 

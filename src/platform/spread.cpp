@@ -8,7 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
-#include <algorithm>
+#include <utility>
 
 Spread::Spread(QWidget *parent) : QTableView(parent)
 {
@@ -24,6 +24,8 @@ Spread::Spread(QWidget *parent) : QTableView(parent)
     setWordWrap(false);
     setAlternatingRowColors(true);
     fitRowHeights();
+    connect(this, &QTableView::clicked, this, &Spread::rowClicked);
+    connect(this, &QTableView::doubleClicked, this, &Spread::rowOpened);
 }
 
 void Spread::setSpreadModel(SpreadModel *model)
@@ -68,6 +70,12 @@ void Spread::setRowPoints(int points)
     fitRowHeights();
 }
 
+void Spread::hideColumns(const QList<int> &columns)
+{
+    m_hidden += columns;
+    fitColumns();
+}
+
 void Spread::setColumnDigits(int column, int digits)
 {
     m_columnDigits.insert(column, digits);
@@ -92,11 +100,18 @@ void Spread::mousePressEvent(QMouseEvent *event)
 
 void Spread::keyPressEvent(QKeyEvent *event)
 {
-    const int key = event->key();
-    if (activeRow() > 0 && (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter))
-        emit rowPicked(activeRow());
-    else
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (activeRow() == 0 || (!enter && event->key() != Qt::Key_Space)) {
         QTableView::keyPressEvent(event);
+        return;
+    }
+    if (event->isAutoRepeat()) // a key that is held down would open row after row
+        return;
+    emit rowPicked(activeRow());
+    if (enter)
+        emit rowOpened();
+    else
+        emit rowClicked();
 }
 
 void Spread::focusInEvent(QFocusEvent *event)
@@ -128,7 +143,10 @@ void Spread::fitColumns()
 {
     if (!m_model || m_model->columns() < 1)
         return;
-    setColumnHidden(0, true);
+    for (const int column : std::as_const(m_hidden)) {
+        if (!isColumnHidden(column))
+            setColumnHidden(column, true);
+    }
     const int digit = fontMetrics().horizontalAdvance(u'0');
     for (auto fixed = m_columnDigits.cbegin(); fixed != m_columnDigits.cend(); ++fixed) {
         horizontalHeader()->setSectionResizeMode(fixed.key(), QHeaderView::Fixed);

@@ -8,8 +8,9 @@
 #include <QMap>
 #include <QTableView>
 
-/// One row is active at a time and shown whole; column 0 is hidden. Rows and columns count from
-/// 1, header rows from FirstHeaderRow, for automation as for code.
+/// One row is active at a time and shown whole; column 0 is hidden, and so may be others that carry
+/// what code wants to know of a row. Rows and columns count from 1, header rows from
+/// FirstHeaderRow, for automation as for code.
 class Spread : public QTableView
 {
     Q_OBJECT
@@ -29,6 +30,9 @@ public:
     Q_INVOKABLE int activeRow() const;
     Q_INVOKABLE void setActiveRow(int row);
 
+    /// Hides @p columns beside column 0.
+    void hideColumns(const QList<int> &columns);
+
     /// Gives a column a width of its own, in digits; those without share the rest of the grid.
     void setColumnDigits(int column, int digits);
 
@@ -39,6 +43,9 @@ signals:
     /// The user has picked a row: by moving to it, by a click, or by Space or Enter on the one that
     /// is active.
     void rowPicked(int row);
+
+    void rowClicked(); ///< a click on a row, or Space on the active one
+    void rowOpened();  ///< a double click on a row, or Enter on the active one
 
 protected:
     void focusInEvent(QFocusEvent *event) override;
@@ -56,5 +63,6 @@ private:
     SpreadModel *m_model = nullptr;
     QMap<int, int> m_columnDigits;
     int m_rowPoints = 18;
+    QList<int> m_hidden{0};
     bool m_picking = true; ///< false while code sets the active row
 };

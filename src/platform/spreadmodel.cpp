@@ -2,24 +2,39 @@
 #include "platform/spreadmodel.h"
 
 #include <algorithm>
+#include <utility>
+#include <vector>
 
 SpreadModel::SpreadModel(QObject *parent) : QAbstractTableModel(parent)
 {
     setup(0, 0);
 }
 
+SpreadModel::Rebuild::Rebuild(SpreadModel &grid) : m_grid(grid)
+{
+    if (m_grid.m_rebuilds++ == 0)
+        m_grid.beginResetModel();
+}
+
+SpreadModel::Rebuild::~Rebuild()
+{
+    if (--m_grid.m_rebuilds == 0)
+        m_grid.endResetModel();
+}
+
 void SpreadModel::setup(int columns, int headers)
 {
-    beginResetModel();
+    const Rebuild rebuild(*this);
     m_rows.clear();
     m_columns = QList<Qt::Alignment>(columns + 1, Qt::AlignLeft | Qt::AlignVCenter);
     m_headers = QList<QList<HeaderCell>>(headers, QList<HeaderCell>(columns + 1));
-    endResetModel();
 }
 
 void SpreadModel::setRows(int rows)
 {
-    if (rows > this->rows()) {
+    if (m_rebuilds > 0) {
+        m_rows.resize(rows, Row(m_columns.size()));
+    } else if (rows > this->rows()) {
         beginInsertRows({}, this->rows(), rows - 1);
         m_rows.resize(rows, Row(m_columns.size()));
         endInsertRows();
@@ -57,8 +72,16 @@ SpreadModel::Cell &SpreadModel::cell(int row, int column)
 
 void SpreadModel::changed(int row, int column)
 {
+    if (m_rebuilds > 0)
+        return;
     const QModelIndex at = index(row - 1, column);
     emit dataChanged(at, at);
+}
+
+void SpreadModel::headerChanged(int column)
+{
+    if (m_rebuilds == 0)
+        emit headerDataChanged(Qt::Horizontal, column, column);
 }
 
 QString SpreadModel::text(int row, int column) const
@@ -72,7 +95,7 @@ void SpreadModel::setText(int row, int column, const QString &text)
 {
     if (row < 0) {
         m_headers[row - FirstHeaderRow][column].text = text;
-        emit headerDataChanged(Qt::Horizontal, column, column);
+        headerChanged(column);
         return;
     }
     cell(row, column).text = text;
@@ -106,7 +129,26 @@ const SpreadModel::HeaderCell &SpreadModel::header(int row, int column) const
 void SpreadModel::setHeader(int row, int column, const HeaderCell &cell)
 {
     m_headers[row - FirstHeaderRow][column] = cell;
-    emit headerDataChanged(Qt::Horizontal, column, column);
+    headerChanged(column);
+}
+
+void SpreadModel::sortDescending(int column,
+                                 const std::function<double(const QString &text)> &valueOf)
+{
+    std::vector<std::pair<double, qsizetype>> order;
+    order.reserve(size_t(m_rows.size()));
+    for (const Row &row : std::as_const(m_rows))
+        order.emplace_back(valueOf(row[column].text), qsizetype(order.size()));
+    const auto above = [](const auto &left, const auto &right) { return left.first > right.first; };
+    if (std::is_sorted(order.begin(), order.end(), above))
+        return;
+    std::stable_sort(order.begin(), order.end(), above);
+    QList<Row> sorted;
+    sorted.reserve(m_rows.size());
+    for (const auto &[value, row] : order)
+        sorted += m_rows[row];
+    const Rebuild rebuild(*this);
+    m_rows.swap(sorted);
 }
 
 int SpreadModel::searchColumn(int column, const QString &text) const

@@ -8,6 +8,8 @@
 #include <QList>
 #include <QString>
 
+#include <functional>
+
 /// Header rows count up from here: -1000 is the first, -999 the second, -998 the third.
 inline constexpr int FirstHeaderRow = -1000;
 
@@ -25,6 +27,19 @@ public:
         Qt::Alignment alignment = Qt::AlignCenter;
         bool bold = false;
         int span = 1;
+    };
+
+    /// Writes a grid anew: views hear of it once, when this goes, also when an error ends the work
+    /// half way. Without it they hear of each cell.
+    class Rebuild
+    {
+    public:
+        explicit Rebuild(SpreadModel &grid);
+        ~Rebuild();
+        Q_DISABLE_COPY_MOVE(Rebuild)
+
+    private:
+        SpreadModel &m_grid;
     };
 
     explicit SpreadModel(QObject *parent = nullptr);
@@ -56,6 +71,10 @@ public:
     const HeaderCell &header(int row, int column) const;
     void setHeader(int row, int column, const HeaderCell &cell);
 
+    /// Sorts the rows by what @p valueOf makes of their text in @p column, the highest first. Rows
+    /// of equal value keep their order.
+    void sortDescending(int column, const std::function<double(const QString &text)> &valueOf);
+
     /// First row whose text in @p column equals @p text exactly, or -1.
     int searchColumn(int column, const QString &text) const;
 
@@ -75,8 +94,10 @@ private:
     bool holds(int row, int column) const;
     Cell &cell(int row, int column);
     void changed(int row, int column);
+    void headerChanged(int column);
 
     QList<Qt::Alignment> m_columns;
     QList<QList<HeaderCell>> m_headers;
     QList<Row> m_rows;
+    int m_rebuilds = 0; ///< how many Rebuilds are at work
 };

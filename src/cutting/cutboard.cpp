@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: MIT
+#include "cutting/cutboard.h"
+
+#include "entry/vocabulary.h"
+#include "ledger/ledger.h"
+#include "runtime/values.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int CaptionRow = FirstHeaderRow;
+constexpr int TotalRow = FirstHeaderRow + 1;
+constexpr int TitleRow = FirstHeaderRow + 2;
+constexpr int TotalColumn = 2; // spans that of the numbers and that of the money
+
+constexpr std::array<const char16_t *, 2> Captions{u"(  บน  )", u"(  ล่าง  )"};
+
+} // namespace
+
+CutBoard::CutBoard()
+{
+    SetupSpread();
+}
+
+bool CutBoard::isEmpty() const
+{
+    return std::all_of(grids.begin(), grids.end(),
+                       [](const SpreadModel &grid) { return grid.rows() == 0; });
+}
+
+void CutBoard::SetupSpread()
+{
+    constexpr auto Right = Qt::AlignRight | Qt::AlignVCenter;
+    for (size_t list = 0; list < grids.size(); ++list) {
+        SpreadModel &grid = grids[list];
+        const SpreadModel::Rebuild rebuild(grid);
+        grid.setup(CutAmountColumn, 3);
+        grid.setHeader(CaptionRow, CutTypeColumn,
+                       {QString::fromUtf16(Captions[list]), Qt::AlignCenter, true, 3});
+        grid.setHeader(TotalRow, CutTypeColumn, {u"รวมเงิน"_s});
+        grid.setHeader(TotalRow, TotalColumn, {u"0"_s, Right, false, 2});
+        grid.setHeader(TitleRow, CutTypeColumn, {u"ประเภท"_s});
+        grid.setHeader(TitleRow, CutNumberColumn, {u"เลข"_s});
+        grid.setHeader(TitleRow, CutAmountColumn, {u"บาท"_s, Right});
+        grid.setAlignment(CutTypeColumn, Qt::AlignHCenter);
+        grid.setAlignment(CutNumberColumn, Qt::AlignHCenter);
+        grid.setAlignment(CutAmountColumn, Qt::AlignRight);
+    }
+}
+
+void CutBoard::load(size_t list, bool updown, ProgressBar &progress)
+{
+    SpreadModel &grid = grids[list];
+    const SpreadModel::Rebuild rebuild(grid);
+    NumcutTotal = 0;
+    RecordsetA.open(u"SELECT numType, numValue, Sum(numBuy) AS nMoney FROM tblNumberCut"
+                    " WHERE [updown] = ? GROUP BY num23, numType, numValue"
+                    " ORDER BY numType, num23 DESC, numValue"_s,
+                    {updown});
+    grid.setRows(RecordsetA.recordCount());
+    if (grid.rows() == 0) {
+        RecordsetA.close();
+        grid.setText(TotalRow, TotalColumn, u"0"_s);
+        return;
+    }
+    progress.start(grid.rows());
+    for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
+        const double money = numberOf(RecordsetA.field(u"nMoney"_s));
+        NumcutTotal = addLong({NumcutTotal, CLng(money)});
+        grid.setText(row, CutTypeColumn, oneWordLabel(RecordsetA.field(u"numType"_s).toInt()));
+        grid.setText(row, CutNumberColumn, RecordsetA.field(u"numValue"_s).toString());
+        grid.setText(row, CutAmountColumn, formatBaht(money));
+        progress.step();
+    }
+    RecordsetA.close();
+    grid.setText(TotalRow, TotalColumn, formatBaht(NumcutTotal));
+}

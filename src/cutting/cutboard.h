@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+// The cut numbers: what has been laid off, number by number, top and bottom each in a list. Real
+// money throughout: hot numbers are neither marked nor halved.
+#pragma once
+
+#include "platform/progressbar.h"
+#include "platform/spreadmodel.h"
+
+#include <array>
+
+/// Columns of both lists.
+inline constexpr int CutTypeColumn = 1;
+inline constexpr int CutNumberColumn = 2;
+inline constexpr int CutAmountColumn = 3;
+
+class CutBoard
+{
+public:
+    CutBoard();
+
+    std::array<SpreadModel, 2> grids; ///< top, bottom
+
+    bool isEmpty() const; ///< true while nothing is listed
+
+    void SetupSpread();
+
+    /// Load one list: straight, tod, run, in each the longer numbers first. Raise "Overflow" when
+    /// a total leaves 32 bits. Use RecordsetA.
+    void LoadNumcutup(ProgressBar &progress) { load(0, true, progress); }
+    void LoadNumcutdown(ProgressBar &progress) { load(1, false, progress); }
+
+private:
+    void load(size_t list, bool updown, ProgressBar &progress);
+
+    qint32 NumcutTotal = 0; ///< of the list being loaded
+};

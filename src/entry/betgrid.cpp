@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+#include "entry/betgrid.h"
+
+#include "runtime/values.h"
+
+using namespace Qt::StringLiterals;
+
+void setupBetGrid(SpreadModel &grid, const BetClass &betClass, int columns)
+{
+    const SpreadModel::Rebuild rebuild(grid);
+    grid.setup(columns, 3);
+    grid.setHeader(CaptionRow, NumberColumn, {betClass.captionText(), Qt::AlignCenter, true, 2});
+    grid.setHeader(TotalRow, NumberColumn, {u"รวมเงิน"_s});
+    grid.setHeader(TotalRow, AmountColumn, {u"0"_s, Qt::AlignRight | Qt::AlignVCenter});
+    grid.setHeader(TitleRow, NumberColumn, {u"เลข"_s});
+    grid.setHeader(TitleRow, AmountColumn, {u"บาท"_s, Qt::AlignRight | Qt::AlignVCenter});
+    grid.setAlignment(NumberColumn, Qt::AlignHCenter);
+    grid.setAlignment(AmountColumn, Qt::AlignRight);
+}
+
+qint32 topTotal(const GridTotals &totals)
+{
+    return addLong(std::span(totals).first<TopClassCount>());
+}
+
+qint32 bottomTotal(const GridTotals &totals)
+{
+    return addLong(std::span(totals).subspan<TopClassCount>());
+}
+
+qint32 sumTotal(const GridTotals &totals)
+{
+    return addLong(totals);
+}
