@@ -3,6 +3,7 @@
 #include "program.h"
 
 #include "customers/form2.h"
+#include "cutting/form3.h"
 #include "entry/form1.h"
 #include "settings/setting.h"
 
@@ -15,7 +16,13 @@ Pages programPages()
     pages.makers[1] = [](const Frame &frame, QWidget *parent) {
         return new Form2(frame.progress, parent);
     };
-    pages.showSettings = [](QWidget *parent) { Setting(parent).exec(); };
+    pages.makers[2] = [](const Frame &frame, QWidget *parent) {
+        return new Form3(frame, {}, parent);
+    };
+    pages.showSettings = [](QWidget *parent) {
+        Setting(parent).exec();
+        reloadCurrentBoard(*parent);
+    };
     return pages;
 }
 

@@ -135,3 +135,11 @@ void Board::takeTotal(int at)
 {
     BoardSums[at] = CLng(grids[at].text(TotalRow, AmountColumn));
 }
+
+void Board::readSavedTicketTotal()
+{
+    RecordsetA.open(u" SELECT  sum(rMoney) as iTotalB  FROM tblRMoney "_s);
+    const QVariant sum = RecordsetA.field(u"iTotalB"_s);
+    SavedTicketTotal = trimBlanks(sum.toString()).isEmpty() ? 0 : CLng(numberOf(sum));
+    RecordsetA.close();
+}

@@ -42,7 +42,8 @@ struct Board
     GridTotals BoardSums{}; ///< header total of each board
     qint32 TopSum = 0;      ///< stays as it was while no top number has money
     qint32 BottomSum = 0;
-    QString FilterName; ///< customer of the filter
+    QString FilterName;          ///< customer of the filter
+    qint32 SavedTicketTotal = 0; ///< discount money of all saved tickets, read with the page
 
     bool isEmpty() const; ///< true while no board has a row
 
@@ -54,6 +55,9 @@ struct Board
     /// "Overflow" when that total leaves 32 bits, and shows the progress unless there is nothing
     /// to load. Uses RecordsetA and RecordsetB.
     void load(int at, bool filtered, ProgressBar &progress);
+
+    /// Reads SavedTicketTotal; 0 without a discount. Uses RecordsetA.
+    void readSavedTicketTotal();
 
     /// Takes a board's total from its header into BoardSums.
     void takeTotal(int at);

@@ -7,6 +7,7 @@
 #include "entry/keyedline.h"
 #include "entry/save.h"
 #include "entry/showkey.h"
+#include "entry/sidetabs.h"
 #include "entry/voice.h"
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
@@ -22,8 +23,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int BottomTab = 0;
-constexpr int TopTab = 1;
 constexpr qsizetype LongestName = 50;
 
 constexpr QRgb KeyingColor = 0xDBE2E0;
@@ -313,14 +312,7 @@ void Form1::lvButtons_H2_Click()
 
 void Form1::SSTab1_Click()
 {
-    const bool top = m_ui->SSTab1->tab() == TopTab;
-    // A grid that is hidden would pass its focus from grid to grid, each noting that it was touched.
-    for (int at = 0; at < ClassCount; ++at) {
-        if ((at < TopClassCount) != top && m_spreads[at]->hasFocus())
-            m_ui->SSTab1->setFocus();
-    }
-    for (int at = 0; at < ClassCount; ++at)
-        m_spreads[at]->setVisible((at < TopClassCount) == top);
+    showSide(*m_ui->SSTab1, m_spreads);
 }
 
 /// Totals the grids, the tabs and the ticket. Leaves the strip on the top tab.

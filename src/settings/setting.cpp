@@ -4,13 +4,12 @@
 #include "ui_setting.h"
 
 #include "fields/fieldguard.h"
+#include "platform/dialogplace.h"
 #include "platform/msgbox.h"
 #include "runtime/values.h"
 #include "settings/hotnumbers.h"
 #include "settings/rates.h"
 #include "shell/globals.h"
-
-#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -42,10 +41,7 @@ void Setting::connectControls()
 
 void Setting::Form_Load()
 {
-    const QRect desktop = screen()->availableGeometry();
-    resize(size().boundedTo(desktop.size()));
-    move(desktop.x() + (desktop.width() - width()) / 2,
-         desktop.y() + (desktop.height() - height()) / 3);
+    placeDialog(*this);
     LoadNumberFix();
     LoadMoney();
 }

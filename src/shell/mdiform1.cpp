@@ -62,11 +62,16 @@ MDIForm1::MDIForm1(Pages pages) : m_ui(std::make_unique<Ui::MDIForm1>()), m_page
     setWindowTitle(u"Mirakla Desk - 2.3"_s);
     m_pageButtons = {m_ui->lvButtons_H0, m_ui->lvButtons_H1, m_ui->lvButtons_H2, m_ui->lvButtons_H3,
                      m_ui->lvButtons_H4};
+    m_strip =
+        std::make_unique<CustomerStrip>(*m_ui->Frame6, *m_ui->Tname, *m_ui->text2, *m_ui->text3);
     connectNavigation();
-    m_ui->Frame6->hide(); // shown while the board is filtered to one customer
+    m_strip->hide();
 }
 
-MDIForm1::~MDIForm1() = default;
+MDIForm1::~MDIForm1()
+{
+    delete m_page; // while the banner that it speaks to still stands
+}
 
 bool MDIForm1::MDIForm_Load()
 {
@@ -109,7 +114,7 @@ void MDIForm1::openPage(int page)
     for (int other = 0; other < PageCount; ++other)
         showButton(*m_pageButtons[other], m_pages.makers[other] && other != page, other == page);
     delete m_page; // an unsaved ticket goes with its page
-    m_page = m_pages.makers[page]({*m_ui->pb1}, m_ui->pageArea);
+    m_page = m_pages.makers[page]({*m_ui->pb1, *m_strip}, m_ui->pageArea);
     m_ui->pageArea->layout()->addWidget(m_page);
     m_page->show();
     if (!m_page->isAncestorOf(QApplication::focusWidget()))

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/progressbar.h"
+#include "shell/customerstrip.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -21,6 +22,7 @@ class MDIForm1;
 struct Frame
 {
     ProgressBar &progress;
+    CustomerStrip &strip;
 };
 
 /// Makes a page as a child of @p parent. An empty one means that the page does not exist yet.
@@ -64,6 +66,7 @@ private:
     std::unique_ptr<Ui::MDIForm1> m_ui;
     Pages m_pages;
     std::array<PushButton *, PageCount> m_pageButtons;
+    std::unique_ptr<CustomerStrip> m_strip;
     QPointer<QWidget> m_page;
     bool m_ended = false;
 };

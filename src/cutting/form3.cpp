@@ -1,0 +1,335 @@
+// SPDX-License-Identifier: MIT
+#include "cutting/form3.h"
+
+#include "ui_form3.h"
+
+#include "cutting/cutnum.h"
+#include "cutting/numcut.h"
+#include "cutting/selection.h"
+#include "entry/sidetabs.h"
+#include "fields/fieldguard.h"
+#include "fields/filters.h"
+#include "platform/msgbox.h"
+#include "platform/searchicon.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/values.h"
+#include "shell/globals.h"
+
+#include <QShortcut>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qsizetype LongestName = 50;
+
+} // namespace
+
+Form3::Form3(const Frame &frame, BoardOpeners openers, QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::Form3>()), m_progress(frame.progress),
+      m_strip(frame.strip), m_openers(std::move(openers)), m_focus(this)
+{
+    m_ui->setupUi(this);
+    m_spreads = {m_ui->fpSpread1, m_ui->fpSpread2, m_ui->fpSpread3, m_ui->fpSpread4,
+                 m_ui->fpSpread5, m_ui->fpSpread6, m_ui->fpSpread7, m_ui->fpSpread8};
+    m_estimates = {m_ui->Label31, m_ui->Label1,  m_ui->Label5,  m_ui->Label4,
+                   m_ui->Label8,  m_ui->Label13, m_ui->Label12, m_ui->Label9};
+    for (int at = 0; at < ClassCount; ++at) {
+        m_spreads[at]->setSpreadModel(&m_board.grids[at]);
+        m_spreads[at]->hideColumns({DigitsColumn, SideColumn});
+        m_spreads[at]->setAccessibleName(BetClasses[at].captionText());
+    }
+    m_ui->SSTab1->addTab(QString());
+    m_ui->SSTab1->addTab(QString());
+    m_ui->lvButtons_H3->setIcon(searchIcon());
+    m_ui->lvButtons_H5->setEnabled(bool(m_openers.printBoard));
+    m_ui->lvButtons_H6->setEnabled(bool(m_openers.showScan));
+    m_ui->lvButtons_H7->hide();
+    m_ui->Frame2->hide();
+    setFocusProxy(m_ui->fpSpread1);
+    connectControls();
+    Form_Load();
+}
+
+Form3::~Form3()
+{
+    m_strip.hide();
+}
+
+void Form3::connectControls()
+{
+    new FieldGuard(this, &m_focus);
+    for (int at = 0; at < ClassCount; ++at)
+        connect(m_spreads[at], &Spread::rowOpened, this, [this, at] { fpSpread_DblClick(at); });
+    m_ui->Combo1->keyPress = [this](int code) { return Combo1_KeyPress(code); };
+    connect(m_ui->SSTab1, &TabStrip::clicked, this, &Form3::SSTab1_Click);
+    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, [this] { showBar(false); });
+    connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, [this] { showBar(true); });
+    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Form3::lvButtons_H3_Click);
+    connect(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Form3::lvButtons_H4_Click);
+    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form3::lvButtons_H5_Click);
+    connect(m_ui->lvButtons_H6, &QPushButton::clicked, this, [this] { m_openers.showScan(*this); });
+    connect(m_ui->lvButtons_H7, &QPushButton::clicked, this, &Form3::lvButtons_H7_Click);
+    auto *reload = new QShortcut(Qt::Key_F5, this);
+    reload->setContext(Qt::WidgetWithChildrenShortcut);
+    reload->setAutoRepeat(false);
+    connect(reload, &QShortcut::activated, this, &Form3::Form_KeyDown);
+}
+
+void Form3::Form_Load()
+{
+    resumeNext([this] { m_board.readSavedTicketTotal(); });
+    FReLoad();
+}
+
+/// F5, wherever the focus is on the page: leaves the filter.
+void Form3::Form_KeyDown()
+{
+    if (MemberFilterOn)
+        m_ui->lvButtons_H7->click(); // a cut has hidden it, maybe
+}
+
+void Form3::FReLoad()
+{
+    SelUpDown = true;
+    for (int at = 0; at < ClassCount; ++at)
+        load(at, false);
+}
+
+void Form3::load(int at, bool filtered)
+{
+    m_board.load(at, filtered, m_progress);
+    m_estimates[at]->setText(m_board.estimates[at]);
+    m_board.takeTotal(at);
+    if (at < TopClassCount)
+        Nubyod();
+    else
+        Nubyod0();
+}
+
+void Form3::Nubyod()
+{
+    resumeNext([this] { LoadMember(); });
+    m_progress.finish();
+    m_ui->SSTab1->setTab(TopTab);
+    showSum(TopTab, u"   บน ( ยอดรวม "_s, m_board.TopSum);
+    showGrandTotal();
+}
+
+/// Like Nubyod() for the bottom. The board ends on the side that is being cut.
+void Form3::Nubyod0()
+{
+    resumeNext([this] { LoadMember(); });
+    m_progress.finish();
+    m_ui->SSTab1->setTab(SelUpDown ? TopTab : BottomTab);
+    showSum(BottomTab, u"   ล่าง ( ยอดรวม "_s, m_board.BottomSum);
+    showGrandTotal();
+}
+
+/// Writes a tab's caption and takes its sum. A sum of nothing has no text, which is no number: the
+/// caption then shows nothing and @p sum stays.
+void Form3::showSum(int tab, const QString &caption, qint32 &sum)
+{
+    resumeNext([&] {
+        const QString text = caption + formatBaht(sideTotal(tab)) + u" )"_s;
+        if (m_ui->SSTab1->tabText(tab) != text) // or the strip would be laid out with each board
+            m_ui->SSTab1->setTabText(tab, text);
+    });
+    resumeNext([&] { sum = CLng(formatBaht(sideTotal(tab))); });
+}
+
+qint32 Form3::sideTotal(int tab) const
+{
+    return tab == TopTab ? topTotal(m_board.BoardSums) : bottomTotal(m_board.BoardSums);
+}
+
+void Form3::showGrandTotal()
+{
+    if (m_strip.isShown())
+        return;
+    resumeNext([this] {
+        m_ui->text2->setText(formatBaht(addLong({m_board.TopSum, m_board.BottomSum})));
+    });
+}
+
+/// Lists the customers who hold a bet. While nobody does, the old list stays.
+void Form3::LoadMember()
+{
+    const QStringList &names = m_buyers.get(readBuyers);
+    if (names.isEmpty())
+        return;
+    if (m_listed != names)
+        m_ui->Combo1->setList(names);
+    m_listed = names;
+    m_ui->Combo1->setCurrentIndex(-1);
+    m_ui->Combo1->clearEditText();
+}
+
+int Form3::Combo1_KeyPress(int code)
+{
+    if (code == EnterCode) {
+        filterToCustomer();
+        return 0;
+    }
+    const int passed = MaxLengthFilter(m_ui->Combo1->currentText().size(), LongestName, code);
+    return ComboAutoComplete(*m_ui->Combo1, passed);
+}
+
+/// Enter in the names: narrows the boards to one customer. The boards take the whole name, the
+/// discount is found by any part of it.
+void Form3::filterToCustomer()
+{
+    MemberFilterOn = true;
+    m_board.FilterName = m_ui->Combo1->currentText();
+    m_spreads[m_ui->SSTab1->tab() == TopTab ? 0 : TopClassCount]->setFocus();
+    showFilter(true);
+    if (!readCustomer()) {
+        refuse(u"ไม่พบชื่อลูกค้ารายนี้ อยู่ใน ฐานข้อมูล โปรดลองใหม่อีกครั้ง ..."_s);
+        MemberFilterOn = false;
+        showFilter(false);
+        m_ui->Combo1->setFocus();
+        return;
+    }
+    for (int at = 0; at < ClassCount; ++at)
+        resumeNext([&] { load(at, true); });
+    resumeNext([this] {
+        const double percent = CDbl(m_strip.text2.text());
+        m_strip.text3.setText(formatBaht(percent * sumTotal(m_board.BoardSums) / 100));
+    });
+    m_ui->text2->setEnabled(false);
+    m_ui->text3->setEnabled(false);
+    if (m_board.isEmpty())
+        refuse(u"ไม่พบข้อมูล ลูกค้ารายนี้ ( ไม่ได้ซื้อเลขใด ๆ ใน งวดนี้  ) . . ."_s);
+}
+
+/// Shows the customer of the filter in the strip; false if there is none.
+bool Form3::readCustomer()
+{
+    const QString part = u'%' + trimBlanks(m_board.FilterName) + u'%';
+    resumeNext([&] { RecordsetA.open(customerStatement(), {part}); });
+    if (RecordsetA.recordCount() < 1) {
+        RecordsetA.close();
+        return false;
+    }
+    m_strip.text2.setText(RecordsetA.field(u"Mpercen"_s).toString());
+    RecordsetA.close();
+    m_strip.Tname.setText(m_board.FilterName);
+    m_strip.show();
+    return true;
+}
+
+/// Shows the control that leaves the filter in place of those that start it, or the reverse.
+void Form3::showFilter(bool on)
+{
+    m_ui->Combo1->setVisible(!on);
+    m_ui->Combo1->setEnabled(!on);
+    m_ui->Frame5->setVisible(!on);
+    m_ui->lvButtons_H7->setVisible(on);
+}
+
+/// Puts the controls to the whole book, whatever MemberFilterOn says.
+void Form3::showWholeBook()
+{
+    m_ui->text2->setEnabled(true);
+    m_ui->text3->setEnabled(true);
+    showFilter(false);
+    m_strip.hide();
+}
+
+/// "รีโหลดข้อมูล(F5)": leaves the filter and reloads.
+void Form3::lvButtons_H7_Click()
+{
+    const bool hadFocus = m_ui->lvButtons_H7->hasFocus();
+    MemberFilterOn = false;
+    showWholeBook();
+    if (hadFocus)
+        m_ui->Combo1->setFocus();
+    FReLoad();
+}
+
+void Form3::SSTab1_Click()
+{
+    showSide(*m_ui->SSTab1, m_spreads);
+}
+
+/// Finds a number in all boards of its length, on both tabs. A hit is marked, a miss is silent.
+void Form3::lvButtons_H3_Click()
+{
+    const QString number = m_ui->text1->text();
+    if (trimBlanks(number).isEmpty()) {
+        m_ui->text1->setFocus();
+        return;
+    }
+    for (int at = 0; at < ClassCount; ++at) {
+        if (BetClasses[at].num23 != number.size())
+            continue;
+        const int row = m_board.grids[at].searchColumn(NumberColumn, number);
+        if (row > 0)
+            m_spreads[at]->setActiveRow(row);
+    }
+}
+
+/// A double click on a number, or Enter: hands it to the cut-out.
+void Form3::fpSpread_DblClick(int at)
+{
+    const SpreadModel &grid = m_board.grids[at];
+    if (grid.rows() == 0)
+        return;
+    const int row = m_spreads[at]->activeRow();
+    SelNumType = quint8(CInt(grid.text(row, TypeColumn)));
+    SelNumValue = grid.text(row, NumberColumn);
+    SelNum23 = quint8(CInt(grid.text(row, DigitsColumn)));
+    SelUpDown = grid.text(row, SideColumn) == u"True"_s;
+    showCutNum(window());
+    m_spreads[at]->setActiveRow(std::min(row, grid.rows())); // so that the next Enter goes on here
+}
+
+void Form3::showCutNum(QWidget *owner, const std::function<void()> &scanAgain)
+{
+    CutNum dialog([&] { closeCut(scanAgain); }, owner);
+    dialog.exec();
+    owner->activateWindow(); // a desktop without a window manager leaves it without keys
+}
+
+/// What the closing of the cut-out brings about. Under the filter the whole book comes back, and
+/// MemberFilterOn stays.
+void Form3::closeCut(const std::function<void()> &scanAgain)
+{
+    if (MemberFilterOn)
+        FReLoad();
+    else if (const int at = selectedClass(); at >= 0)
+        load(at, false);
+    if (scanAgain)
+        scanAgain();
+    showWholeBook(); // last, so that the total was not written while the strip was still shown
+}
+
+/// " &แสดงเลขที่คัดออก": what has been laid off.
+void Form3::lvButtons_H4_Click()
+{
+    Numcut(m_openers.printCuts, window()).exec();
+    window()->activateWindow();
+}
+
+/// " &ปริ้นข้อมูล": the boards as they are shown.
+void Form3::lvButtons_H5_Click()
+{
+    if (m_board.isEmpty())
+        refuse(u"ไม่สามารถส่งออกได้ ( ไม่มีข้อมูลในตาราง ) โปรดลองใหม่อีกครั้ง . .  ."_s);
+    else
+        m_openers.printBoard(*this);
+}
+
+/// " &ซ่อนแทบ " and " &แสดงแทบ ": hides the estimates from who looks on, and shows them again.
+void Form3::showBar(bool shown)
+{
+    m_ui->Frame3->setVisible(shown);
+    m_ui->Frame2->setVisible(!shown);
+}
+
+void reloadCurrentBoard(const QWidget &window)
+{
+    auto *board = window.findChild<Form3 *>();
+    if (board && CutOrigin == 1)
+        board->FReLoad();
+}

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// The page "คัดหวย": what each number could cost, and the way to lay it off.
+#pragma once
+
+#include "cutting/board.h"
+#include "platform/focustracker.h"
+#include "shell/mdiform1.h"
+
+#include <QWidget>
+
+class Form3;
+class Numcut;
+class QLabel;
+class Spread;
+
+namespace Ui {
+class Form3;
+}
+
+/// What the board opens without knowing it. A button whose opener is empty is disabled.
+struct BoardOpeners
+{
+    std::function<void(Form3 &board)> showScan; ///< " &วิเคราะห์เลข"
+    std::function<void(Form3 &board)> printBoard; ///< " &ปริ้นข้อมูล" of the board
+    std::function<void(Numcut &cutBoard)> printCuts; ///< " &ปริ้นข้อมูล" of the cut numbers
+};
+
+class Form3 : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// @p frame lends the progress bar and the customer strip, which must outlive the page.
+    Form3(const Frame &frame, BoardOpeners openers, QWidget *parent);
+    ~Form3() override;
+
+    /// The eight boards as they were loaded last.
+    const Board &board() const { return m_board; }
+
+    /// Reloads all boards with the whole book and ends on the top tab. Touches no control of the
+    /// filter.
+    void FReLoad();
+
+    /// Opens the cut-out for the selected class and number over @p owner. When it closes, the
+    /// board is loaded anew, @p scanAgain runs if there is one, then the filter is let go of.
+    void showCutNum(QWidget *owner, const std::function<void()> &scanAgain = {});
+
+private:
+    void connectControls();
+    void Form_Load();
+    void Form_KeyDown();
+
+    int Combo1_KeyPress(int code);
+    void filterToCustomer();
+    bool readCustomer();
+    void showFilter(bool on);
+    void showWholeBook();
+    void LoadMember();
+
+    void load(int at, bool filtered);
+    void Nubyod();
+    void Nubyod0();
+    void showSum(int tab, const QString &caption, qint32 &sum);
+    void showGrandTotal();
+    qint32 sideTotal(int tab) const;
+
+    void SSTab1_Click();
+    void fpSpread_DblClick(int at);
+    void closeCut(const std::function<void()> &scanAgain);
+
+    void lvButtons_H3_Click();
+    void lvButtons_H4_Click();
+    void lvButtons_H5_Click();
+    void lvButtons_H7_Click();
+    void showBar(bool shown);
+
+    std::unique_ptr<Ui::Form3> m_ui;
+    ProgressBar &m_progress;
+    CustomerStrip &m_strip;
+    BoardOpeners m_openers;
+    FocusTracker m_focus;
+    Board m_board;
+    LedgerMemo<QStringList> m_buyers;
+    QStringList m_listed; ///< what stands in the list of customers
+    std::array<Spread *, ClassCount> m_spreads;
+    std::array<QLabel *, ClassCount> m_estimates;
+};
+
+/// The rule of the settings when they close: the board is loaded anew if it is the page in
+/// @p window and no scan is shown. A filter's controls stay as they are.
+void reloadCurrentBoard(const QWidget &window);

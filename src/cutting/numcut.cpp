@@ -1,0 +1,63 @@
+// SPDX-License-Identifier: MIT
+#include "cutting/numcut.h"
+
+#include "ui_numcut.h"
+
+#include "fields/fieldguard.h"
+#include "platform/dialogplace.h"
+#include "platform/msgbox.h"
+#include "platform/searchicon.h"
+#include "runtime/values.h"
+
+using namespace Qt::StringLiterals;
+
+Numcut::Numcut(std::function<void(Numcut &)> print, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::Numcut>()), m_print(std::move(print)),
+      m_focus(this)
+{
+    m_ui->setupUi(this);
+    m_spreads = {m_ui->fpSpread1, m_ui->fpSpread2};
+    for (size_t list = 0; list < m_spreads.size(); ++list)
+        m_spreads[list]->setSpreadModel(&m_cutBoard.grids[list]);
+    m_ui->lvButtons_H3->setIcon(searchIcon());
+    m_ui->lvButtons_H5->setEnabled(bool(m_print));
+    new FieldGuard(this, &m_focus);
+    connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Numcut::lvButtons_H3_Click);
+    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Numcut::lvButtons_H5_Click);
+    Form_Load();
+}
+
+Numcut::~Numcut() = default;
+
+void Numcut::Form_Load()
+{
+    placeDialog(*this);
+    m_cutBoard.SetupSpread();
+    m_cutBoard.LoadNumcutup(*m_ui->pb1);
+    m_cutBoard.LoadNumcutdown(*m_ui->pb1);
+}
+
+/// Finds a number in both lists. A hit is marked, a miss is silent.
+void Numcut::lvButtons_H3_Click()
+{
+    const QString number = m_ui->text1->text();
+    if (trimBlanks(number).isEmpty()) {
+        m_ui->text1->setFocus();
+        return;
+    }
+    for (size_t list = 0; list < m_spreads.size(); ++list) {
+        const int row = m_cutBoard.grids[list].searchColumn(CutNumberColumn, number);
+        if (row > 0)
+            m_spreads[list]->setActiveRow(row);
+    }
+}
+
+/// " &ปริ้นข้อมูล": the lists as they are shown.
+void Numcut::lvButtons_H5_Click()
+{
+    if (m_cutBoard.isEmpty())
+        refuse(u"ไม่สามารถส่งออกได้ ( ไม่มีข้อมูลในตาราง ) โปรดลองใหม่อีกครั้ง . .  ."_s);
+    else
+        m_print(*this);
+}

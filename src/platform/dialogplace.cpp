@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: MIT
+#include "platform/dialogplace.h"
+
+#include <QScreen>
+#include <QWidget>
+
+void placeDialog(QWidget &dialog)
+{
+    constexpr QSize WindowFrame(8, 40);
+    const QRect desktop = dialog.screen()->availableGeometry();
+    dialog.resize(dialog.size().boundedTo(desktop.size() - WindowFrame));
+    const QSize spare = desktop.size() - WindowFrame - dialog.size();
+    dialog.move(desktop.x() + spare.width() / 2, desktop.y() + spare.height() / 3);
+}
