@@ -181,7 +181,7 @@ void Form3::filterToCustomer()
 {
     MemberFilterOn = true;
     m_board.FilterName = m_ui->Combo1->currentText();
-    m_spreads[m_ui->SSTab1->tab() == TopTab ? 0 : TopClassCount]->setFocus();
+    m_ui->SSTab1->setFocus(); // not into a number field, which would switch the keyboard
     showFilter(true);
     if (!readCustomer()) {
         refuse(u"ไม่พบชื่อลูกค้ารายนี้ อยู่ใน ฐานข้อมูล โปรดลองใหม่อีกครั้ง ..."_s);
@@ -198,6 +198,7 @@ void Form3::filterToCustomer()
     });
     m_ui->text2->setEnabled(false);
     m_ui->text3->setEnabled(false);
+    m_spreads[m_ui->SSTab1->tab() == TopTab ? 0 : TopClassCount]->setFocus();
     if (m_board.isEmpty())
         refuse(u"ไม่พบข้อมูล ลูกค้ารายนี้ ( ไม่ได้ซื้อเลขใด ๆ ใน งวดนี้  ) . . ."_s);
 }

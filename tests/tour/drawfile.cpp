@@ -28,6 +28,11 @@ Draw Draw::read(const QString &path)
             draw.tickets.last().lines += {part.value(1), part.value(2), part.value(3)};
         else if (what == u"row"_s)
             draw.tickets.last().rows += part.mid(1).join(u'\t');
+        else if (what == u"board"_s)
+            draw.boards +=
+                DrawBoard{part.value(1), part.value(2), part.value(3), part.value(4), {}};
+        else if (what == u"heavy"_s)
+            draw.boards.last().heavy += part.mid(2).join(u'\t');
         else if (what == u"book"_s)
             draw.book = part.mid(1).join(u'\t');
         else if (what == u"total"_s) {

@@ -30,11 +30,22 @@ struct DrawTicket
     QStringList rows; ///< "class number amount" of every grid row, parted by tabs
 };
 
+/// A board of the whole book, as shown.
+struct DrawBoard
+{
+    QString caption;
+    QString rows;
+    QString total;
+    QString estimate;
+    QStringList heavy; ///< "number amount" of its first rows, with "hot" behind, parted by tabs
+};
+
 struct Draw
 {
     QList<DrawMember> members;
     QStringList hotNumbers;
     QList<DrawTicket> tickets;
+    QList<DrawBoard> boards; ///< after all tickets
     QString book; ///< "lines money discounts" of the Ledger after all tickets, parted by tabs
 
     /// Reads a draw; ends the program with a message when the file cannot be read.

@@ -42,6 +42,16 @@ private:
     void clearField();
     void save();
 
+    void visitBoard(const Draw &draw);
+    void compareBoard(int at, const DrawBoard &board);
+    void filterCustomer(const DrawTicket &ticket);
+    void findNumber(const QString &number);
+    void cutHeaviest();
+    void cutInDialog(QWidget *dialog);
+    void confirmCut(QWidget *dialog, const QString &amount, const QStringList &boxes);
+    void showCutNumbers();
+    static QString money(const QString &statement);
+
     QStringList shownRows() const;
     void checkBook(const QString &expected);
     void compare(const QString &what, const QString &expected, const QString &found);
