@@ -40,15 +40,72 @@ void insertLines(sqlite3 *file, sqlite3_stmt *insert, const std::vector<BetLine>
     }
 }
 
-} // namespace
-
-double insertBare(const QByteArray &path, const std::vector<BetLine> &lines, Durable durable)
+sqlite3 *openBare(const QByteArray &path)
 {
     sqlite3 *file = nullptr;
-    sqlite3_stmt *insert = nullptr;
     check(file, sqlite3_open_v2(path.constData(), &file, SQLITE_OPEN_READWRITE, nullptr));
     check(file, sqlite3_key(file, LedgerPassword, int(qstrlen(LedgerPassword))));
     check(file, sqlite3_exec(file, Settings, nullptr, nullptr, nullptr));
+    return file;
+}
+
+sqlite3_stmt *prepareBare(sqlite3 *file, const BareStatement &asked)
+{
+    sqlite3_stmt *statement = nullptr;
+    check(file, sqlite3_prepare_v2(file, asked.sql.constData(), -1, &statement, nullptr));
+    for (int at = 0; at < asked.values.size(); ++at) {
+        const QVariant &value = asked.values[at];
+        const QByteArray text = value.toString().toUtf8();
+        if (value.typeId() == QMetaType::QString)
+            sqlite3_bind_text(statement, at + 1, text.constData(), -1, SQLITE_TRANSIENT);
+        else
+            sqlite3_bind_int(statement, at + 1, value.toInt());
+    }
+    return statement;
+}
+
+/// Gives the bytes of text read, so that no reading is left out as useless.
+qint64 readAll(sqlite3_stmt *statement)
+{
+    qint64 bytes = 0;
+    const int columns = sqlite3_column_count(statement);
+    while (sqlite3_step(statement) == SQLITE_ROW) {
+        for (int column = 0; column < columns; ++column) {
+            sqlite3_column_text(statement, column);
+            bytes += sqlite3_column_bytes(statement, column);
+        }
+    }
+    return bytes;
+}
+
+} // namespace
+
+std::vector<double> selectBare(const QByteArray &path, const std::vector<BareStatement> &statements,
+                               int rounds)
+{
+    sqlite3 *file = openBare(path);
+    std::vector<double> seconds;
+    for (int round = 0; round < rounds; ++round) {
+        QElapsedTimer clock;
+        clock.start();
+        qint64 bytes = 0;
+        for (const BareStatement &asked : statements) {
+            sqlite3_stmt *statement = prepareBare(file, asked);
+            bytes += readAll(statement);
+            check(file, sqlite3_finalize(statement));
+        }
+        seconds.push_back(double(clock.nsecsElapsed()) / 1e9);
+        if (bytes == 0)
+            qFatal("the statements read nothing");
+    }
+    check(file, sqlite3_close(file));
+    return seconds;
+}
+
+double insertBare(const QByteArray &path, const std::vector<BetLine> &lines, Durable durable)
+{
+    sqlite3 *file = openBare(path);
+    sqlite3_stmt *insert = nullptr;
     check(file, sqlite3_prepare_v2(file, Insert, -1, &insert, nullptr));
     QElapsedTimer clock;
     clock.start();

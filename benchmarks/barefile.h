@@ -6,6 +6,7 @@
 #include "entry/vocabulary.h"
 
 #include <QByteArray>
+#include <QVariant>
 
 #include <vector>
 
@@ -18,6 +19,19 @@ struct BetLine
 };
 
 enum class Durable { EachLine, AllAtOnce };
+
+/// A reading statement with what is bound to its question marks: whole numbers and texts.
+struct BareStatement
+{
+    QByteArray sql;
+    QVariantList values;
+};
+
+/// Opens a closed Ledger with the settings that the program gives it, runs the statements
+/// @p rounds times, each from its preparing to its end, and reads every field of every row. Gives
+/// the seconds of each round.
+std::vector<double> selectBare(const QByteArray &path, const std::vector<BareStatement> &statements,
+                               int rounds);
 
 /// Opens a closed Ledger with the settings that the program gives it and inserts the lines into
 /// the empty tblNumber. Gives the seconds that the inserting took.

@@ -47,6 +47,16 @@ Measured measureCustomers(benchmark::State &state);
 /// until the field is repainted with the voice on: the 99th of each hundred.
 Measured measureVoice(benchmark::State &state, bool painted);
 
+/// A reload of all eight boards of a book of @p lines lines, as a multiple of the eight statements
+/// run through the bare C interface.
+Measured measureReload(benchmark::State &state, int lines);
+
+/// The filter of one customer, as a multiple of its statements.
+Measured measureFilter(benchmark::State &state, int lines);
+
+/// Milliseconds of a cut at 1,000,000 lines and of the reload of its board, 0 to 7.
+Measured measureCut(benchmark::State &state, int board);
+
 /// A save of 1,000 rows as a multiple of the same rows inserted through the bare C interface.
 Measured measureSave(benchmark::State &state);
 

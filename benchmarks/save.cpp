@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What a save costs: against the least that the engine takes for the same durable rows, and in a
 // Ledger that has grown big.
-#include "barefile.h"
+#include "drawlines.h"
 #include "figure.h"
 
 #include "entry/save.h"
@@ -16,18 +16,10 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int RowCount = 1000;
-constexpr int CustomerCount = 200;
 
 /// Rows of the measured ticket by class, RowCount in all. A third are tod bets, whose spelling is
 /// looked for in the Ledger.
 constexpr std::array<int, ClassCount> RowsByClass{300, 270, 100, 80, 10, 140, 90, 10};
-
-/// A line of a class and customer, its number from the last digits of @p digits.
-BetLine betLine(size_t betClass, int customer, int digits)
-{
-    const BetClass &asked = BetClasses[betClass];
-    return {&asked, customer, QByteArray::number(1000 + digits % 1000).right(asked.num23)};
-}
 
 std::vector<BetLine> ticketLines()
 {
@@ -35,18 +27,6 @@ std::vector<BetLine> ticketLines()
     for (size_t at = 0; at < ClassCount; ++at) {
         for (int row = 0; row < RowsByClass[at]; ++row)
             lines.push_back(betLine(at, 1, row * 37)); // 37 comes by each number once
-    }
-    return lines;
-}
-
-/// Lines of a whole draw: fifty to a customer in turn, all classes and numbers mixed.
-std::vector<BetLine> drawLines(int count)
-{
-    std::vector<BetLine> lines;
-    lines.reserve(size_t(count));
-    for (int at = 0; at < count; ++at) {
-        const int customer = 1 + at / 50 % CustomerCount;
-        lines.push_back(betLine(size_t(at % ClassCount), customer, at / ClassCount * 379));
     }
     return lines;
 }

@@ -98,10 +98,12 @@ void Board::fillRows(int at, ProgressBar &progress)
     const QString numType = QString::number(betClass.numType);
     const QString num23 = QString::number(betClass.num23);
     const QString updown = betClass.updown ? u"True"_s : u"False"_s;
+    const qsizetype moneyPlace = RecordsetA.place(u"nMoney"_s);
+    const qsizetype numberPlace = RecordsetA.place(u"numValue"_s);
     for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
-        const double money = numberOf(RecordsetA.field(u"nMoney"_s));
+        const double money = numberOf(RecordsetA.field(moneyPlace));
         BoardTotal = addLong({BoardTotal, CLng(money)});
-        const QString number = RecordsetA.field(u"numValue"_s).toString();
+        const QString number = RecordsetA.field(numberPlace).toString();
         const bool isHot = hot.contains(number);
         grid.setText(row, TypeColumn, numType);
         grid.setText(row, NumberColumn, number);

@@ -33,6 +33,7 @@ Numcut::~Numcut() = default;
 void Numcut::Form_Load()
 {
     placeDialog(*this);
+    m_ui->pb1->show();
     m_cutBoard.SetupSpread();
     m_cutBoard.LoadNumcutup(*m_ui->pb1);
     m_cutBoard.LoadNumcutdown(*m_ui->pb1);

@@ -39,7 +39,7 @@ void Recordset::openRow(const QString &table, const QString &key, const QVariant
     m_editValue = value;
 }
 
-QVariant Recordset::field(const QString &column) const
+qsizetype Recordset::place(const QString &column) const
 {
     const auto found =
         std::find_if(m_read.columns.begin(), m_read.columns.end(), [&](const QString &name) {
@@ -47,9 +47,19 @@ QVariant Recordset::field(const QString &column) const
         });
     if (found == m_read.columns.end())
         throw RunTimeError(RunTimeError::DatabaseFailure, u"no such column: "_s + column);
+    return found - m_read.columns.begin();
+}
+
+const QVariant &Recordset::field(qsizetype place) const
+{
     if (eof())
         raiseNoCurrentRow();
-    return m_read.rows.at(m_current).at(found - m_read.columns.begin());
+    return m_read.rows.at(m_current).at(place);
+}
+
+QVariant Recordset::field(const QString &column) const
+{
+    return field(place(column));
 }
 
 void Recordset::addNew()

@@ -32,6 +32,10 @@ public:
     /// DatabaseFailure without a current row or such a column.
     QVariant field(const QString &column) const;
 
+    /// Place of a column among those read, and its value in the current row: for long lists.
+    qsizetype place(const QString &column) const;
+    const QVariant &field(qsizetype place) const;
+
     /// Starts a row of the table readied with openTable().
     void addNew();
 

@@ -10,16 +10,28 @@ SpreadModel::SpreadModel(QObject *parent) : QAbstractTableModel(parent)
     setup(0, 0);
 }
 
-SpreadModel::Rebuild::Rebuild(SpreadModel &grid) : m_grid(grid)
+SpreadModel::Rebuild::Rebuild(SpreadModel &grid)
+    : m_grid(grid), m_columns(grid.m_columns), m_headers(grid.m_headers), m_rows(grid.m_rows)
 {
-    if (m_grid.m_rebuilds++ == 0)
-        m_grid.beginResetModel();
+    ++m_grid.m_rebuilds;
 }
 
 SpreadModel::Rebuild::~Rebuild()
 {
-    if (--m_grid.m_rebuilds == 0)
+    if (--m_grid.m_rebuilds > 0)
+        return;
+    if (m_columns.size() != m_grid.m_columns.size() || m_headers.size() != m_grid.m_headers.size()
+        || m_rows.size() != m_grid.m_rows.size()) {
+        m_grid.beginResetModel();
         m_grid.endResetModel();
+        return;
+    }
+    // A board that is loaded again mostly is what it was.
+    if (m_headers != m_grid.m_headers)
+        emit m_grid.headerDataChanged(Qt::Horizontal, 0, m_grid.columns());
+    if (m_rows != m_grid.m_rows || m_columns != m_grid.m_columns)
+        emit m_grid.dataChanged(m_grid.index(0, 0),
+                                m_grid.index(m_grid.rows() - 1, m_grid.columns()));
 }
 
 void SpreadModel::setup(int columns, int headers)

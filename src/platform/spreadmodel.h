@@ -27,20 +27,11 @@ public:
         Qt::Alignment alignment = Qt::AlignCenter;
         bool bold = false;
         int span = 1;
+
+        bool operator==(const HeaderCell &) const = default;
     };
 
-    /// Writes a grid anew: views hear of it once, when this goes, also when an error ends the work
-    /// half way. Without it they hear of each cell.
-    class Rebuild
-    {
-    public:
-        explicit Rebuild(SpreadModel &grid);
-        ~Rebuild();
-        Q_DISABLE_COPY_MOVE(Rebuild)
-
-    private:
-        SpreadModel &m_grid;
-    };
+    class Rebuild;
 
     explicit SpreadModel(QObject *parent = nullptr);
 
@@ -88,6 +79,8 @@ private:
     {
         QString text;
         QColor color;
+
+        bool operator==(const Cell &) const = default;
     };
     using Row = QList<Cell>;
 
@@ -100,4 +93,20 @@ private:
     QList<QList<HeaderCell>> m_headers;
     QList<Row> m_rows;
     int m_rebuilds = 0; ///< how many Rebuilds are at work
+};
+
+/// Writes a grid anew: views hear of it once, when this goes, also when an error ends the work half
+/// way, and only of what has changed. Without it they hear of each cell.
+class SpreadModel::Rebuild
+{
+public:
+    explicit Rebuild(SpreadModel &grid);
+    ~Rebuild();
+    Q_DISABLE_COPY_MOVE(Rebuild)
+
+private:
+    SpreadModel &m_grid;
+    QList<Qt::Alignment> m_columns; ///< as they were before
+    QList<QList<HeaderCell>> m_headers;
+    QList<Row> m_rows;
 };

@@ -13,14 +13,23 @@ void WorkProgress::start(int maximum)
 {
     setRange(0, maximum);
     setValue(0);
-    show();
-    repaint();
+    m_steps = 0;
+    m_unseen.start();
 }
 
 void WorkProgress::step()
 {
-    if (value() < maximum())
-        setValue(value() + 1); // paints when the bar has grown by a pixel
+    constexpr qint64 SightMsecs = 40; // what passes sooner is not seen
+    if (m_steps == maximum())
+        return;
+    ++m_steps;
+    if (m_unseen.elapsed() >= SightMsecs) {
+        show();
+        setValue(m_steps); // paints
+        m_unseen.start();
+    } else if (m_steps == maximum()) {
+        setValue(m_steps);
+    }
 }
 
 void WorkProgress::finish()

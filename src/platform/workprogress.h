@@ -4,9 +4,11 @@
 
 #include "platform/progressbar.h"
 
+#include <QElapsedTimer>
 #include <QProgressBar>
 
-/// Paints itself at once with each step that shows, since long work takes no events.
+/// Shows and paints itself from within the work, which takes no events; work that is done before
+/// a bar would be seen goes without.
 class WorkProgress : public QProgressBar, public ProgressBar
 {
     Q_OBJECT
@@ -17,4 +19,8 @@ public:
     void start(int maximum) override;
     void step() override;
     void finish() override;
+
+private:
+    int m_steps = 0;
+    QElapsedTimer m_unseen; ///< since the start, or since the bar was painted last
 };

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: MIT
+// What the board costs: a reload and the filter of one customer against the bare statements, a cut
+// with the reload that it brings about.
+#include "drawlines.h"
+#include "figure.h"
+#include "workfolder.h"
+
+#include "cutting/form3.h"
+#include "platform/combo.h"
+#include "platform/msgbox.h"
+#include "platform/spread.h"
+#include "program.h"
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QTest>
+#include <QTimer>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int HotCount = 50;
+
+const QString Buyer = u"ลูกค้า 7"_s;
+
+/// The real program on its board, with a book of many lines and 50 hot numbers.
+class BoardDesk
+{
+public:
+    explicit BoardDesk(int lines)
+    {
+        ConnectLedger();
+        for (int key = 1; key <= CustomerCount; ++key)
+            m_folder.addMember(key, u"ลูกค้า %1"_s.arg(key), u"10"_s);
+        for (int key = 1; key <= HotCount; ++key)
+            m_folder.run(u"INSERT INTO tblNumberFix VALUES (?, ?)"_s,
+                         {key, QString::number(1000 + key * 137 % 1000).right(key % 2 + 2)});
+        CloseLedger();
+        insertBare(m_folder.path().toUtf8(), drawLines(lines), Durable::AllAtOnce);
+        QFile::copy(m_folder.path(), copy());
+        m_window = startProgram();
+        if (!m_window || !QTest::qWaitForWindowActive(m_window.get()))
+            qFatal("the program did not come up");
+        m_window->openPage(2);
+        QApplication::processEvents();
+    }
+    ~BoardDesk()
+    {
+        m_window.reset();
+        CloseLedger();
+    }
+    Q_DISABLE_COPY_MOVE(BoardDesk)
+
+    /// Seconds of a reload of all boards after a change of the book.
+    double reload()
+    {
+        m_folder.run(u"UPDATE tblNumber SET numBuy = numBuy + 1 WHERE NPK = 1"_s);
+        QElapsedTimer clock;
+        clock.start();
+        form().FReLoad();
+        const double taken = seconds(clock);
+        QApplication::processEvents();
+        return taken;
+    }
+
+    /// Seconds of filtering to one customer, from Enter on.
+    double filter()
+    {
+        auto *names = form().findChild<Combo *>();
+        names->setEditText(Buyer);
+        names->setFocus();
+        QElapsedTimer clock;
+        clock.start();
+        QTest::keyClick(names, Qt::Key_Return);
+        const double taken = seconds(clock);
+        if (form().board().isEmpty())
+            qFatal("the customer has no bets");
+        QTest::keyClick(&form(), Qt::Key_F5);
+        QApplication::processEvents();
+        return taken;
+    }
+
+    /// Seconds from the confirmed cut of one baht from a line in @p row of a board to the board
+    /// loaded again.
+    double cut(int board, int row)
+    {
+        auto *grid = form().findChild<Spread *>(u"fpSpread%1"_s.arg(board + 1));
+        QElapsedTimer clock;
+        QTimer::singleShot(0, &form(), [&] {
+            QWidget *dialog = QApplication::activeModalWidget();
+            QTest::keyClick(dialog->findChild<Spread *>(), Qt::Key_Space);
+            auto *amount = dialog->findChild<QLineEdit *>(u"text1"_s);
+            amount->setText(u"1"_s);
+            clock.start();
+            QTest::keyClick(amount, Qt::Key_Return);
+            dialog->close();
+        });
+        grid->setActiveRow(row);
+        QTest::keyClick(grid, Qt::Key_Return);
+        return seconds(clock);
+    }
+
+    /// Seconds of the bare statements on a copy of the file, round by round.
+    Samples bare(bool filtered, int rounds) const
+    {
+        std::vector<BareStatement> statements;
+        if (filtered)
+            statements.push_back({customerStatement().toUtf8(), {u'%' + Buyer + u'%'}});
+        for (const BetClass &betClass : BetClasses) {
+            QVariantList values{betClass.num23, betClass.updown ? -1 : 0, betClass.numType};
+            if (filtered)
+                values += Buyer;
+            statements.push_back({boardStatement(filtered).toUtf8(), values});
+        }
+        return selectBare(copy().toUtf8(), statements, rounds);
+    }
+
+private:
+    static double seconds(const QElapsedTimer &clock) { return double(clock.nsecsElapsed()) / 1e9; }
+    QString copy() const { return m_folder.path() + u".copy"_s; }
+    Form3 &form() { return *m_window->findChild<Form3 *>(); }
+
+    WorkFolder m_folder;
+    std::unique_ptr<MDIForm1> m_window;
+};
+
+template<typename Work>
+Samples taken(benchmark::State &state, Work &&work)
+{
+    Samples samples;
+    work(); // reads the pages into memory, as the first of the bare rounds does
+    for ([[maybe_unused]] auto round : state) {
+        samples.push_back(work() * 1e6);
+        state.SetIterationTime(samples.back() / 1e6);
+    }
+    return samples;
+}
+
+Samples bareMicroseconds(const BoardDesk &desk, bool filtered)
+{
+    constexpr int Rounds = 21;
+    Samples samples = desk.bare(filtered, Rounds + 1);
+    samples.erase(samples.begin());
+    for (double &sample : samples)
+        sample *= 1e6;
+    return samples;
+}
+
+} // namespace
+
+Measured measureReload(benchmark::State &state, int lines)
+{
+    BoardDesk desk(lines);
+    const Samples ours = taken(state, [&] { return desk.reload(); });
+    return ratio(ours, bareMicroseconds(desk, false), "us");
+}
+
+Measured measureFilter(benchmark::State &state, int lines)
+{
+    BoardDesk desk(lines);
+    const Samples ours = taken(state, [&] { return desk.filter(); });
+    return ratio(ours, bareMicroseconds(desk, true), "us");
+}
+
+Measured measureCut(benchmark::State &state, int board)
+{
+    BoardDesk desk(1'000'000);
+    const BoxShower before = setBoxShower([](const Box &) { return BoxAnswer::Ok; });
+    int row = 0;
+    const Samples ours = taken(state, [&] { return desk.cut(board, ++row % 10 + 1); });
+    setBoxShower(before);
+    return {quantile(ours, 0.5) / 1000,
+            QString::asprintf("slowest %.0f", quantile(ours, 1) / 1000)};
+}

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+// The bet lines that the measurements fill a Ledger with.
+#pragma once
+
+#include "barefile.h"
+
+inline constexpr int CustomerCount = 200;
+
+/// A line of a class and customer, its number from the last digits of @p digits.
+inline BetLine betLine(size_t betClass, int customer, int digits)
+{
+    const BetClass &asked = BetClasses[betClass];
+    return {&asked, customer, QByteArray::number(1000 + digits % 1000).right(asked.num23)};
+}
+
+/// Lines of a whole draw: fifty to a customer in turn, all classes and numbers mixed.
+inline std::vector<BetLine> drawLines(int count)
+{
+    std::vector<BetLine> lines;
+    lines.reserve(size_t(count));
+    for (int at = 0; at < count; ++at) {
+        const int customer = 1 + at / 50 % CustomerCount;
+        lines.push_back(betLine(size_t(at % ClassCount), customer, at / ClassCount * 379));
+    }
+    return lines;
+}
