@@ -27,11 +27,13 @@ struct BareStatement
     QVariantList values;
 };
 
+using BareStatements = std::vector<BareStatement>;
+
 /// Opens a closed Ledger with the settings that the program gives it, runs the statements
 /// @p rounds times, each from its preparing to its end, and reads every field of every row. Gives
-/// the seconds of each round.
-std::vector<double> selectBare(const QByteArray &path, const std::vector<BareStatement> &statements,
-                               int rounds);
+/// the seconds of each round. What runs @p before them in each round is not counted.
+std::vector<double> selectBare(const QByteArray &path, const BareStatements &before,
+                               const BareStatements &statements, int rounds);
 
 /// Opens a closed Ledger with the settings that the program gives it and inserts the lines into
 /// the empty tblNumber. Gives the seconds that the inserting took.

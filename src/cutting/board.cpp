@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "cutting/board.h"
 
-#include "entry/hotnumbers.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
 
@@ -94,7 +93,7 @@ void Board::fillRows(int at, ProgressBar &progress)
 {
     const BetClass &betClass = BetClasses[at];
     SpreadModel &grid = grids[at];
-    const QSet<QString> hot = hotSpellings(betClass);
+    const HotNumbers &hotNumbers = m_hotNumbers.get([] { return HotNumbers(readHotNumbers()); });
     const QString numType = QString::number(betClass.numType);
     const QString num23 = QString::number(betClass.num23);
     const QString updown = betClass.updown ? u"True"_s : u"False"_s;
@@ -104,7 +103,7 @@ void Board::fillRows(int at, ProgressBar &progress)
         const double money = numberOf(RecordsetA.field(moneyPlace));
         BoardTotal = addLong({BoardTotal, CLng(money)});
         const QString number = RecordsetA.field(numberPlace).toString();
-        const bool isHot = hot.contains(number);
+        const bool isHot = hotNumbers.reach(betClass, number);
         grid.setText(row, TypeColumn, numType);
         grid.setText(row, NumberColumn, number);
         grid.setText(row, AmountColumn, formatBaht(isHot ? money / 2 : money));
@@ -114,23 +113,6 @@ void Board::fillRows(int at, ProgressBar &progress)
             grid.setColor(row, NumberColumn, QColor(HotColor));
         progress.step();
     }
-}
-
-/// A straight number is hot as it stands, on top as at the bottom, a tod number in any order, a
-/// run number never. Several hot numbers that reach one bet halve it once.
-QSet<QString> Board::hotSpellings(const BetClass &betClass)
-{
-    QSet<QString> spellings;
-    if (betClass.numType == Run)
-        return spellings;
-    for (const QString &hot : m_hotNumbers.get(hotNumbers)) {
-        if (betClass.numType == Straight)
-            spellings += hot;
-        for (const QString &form :
-             betClass.numType == Tod ? todBetsReached(hot, betClass.num23) : QStringList())
-            spellings += form;
-    }
-    return spellings;
 }
 
 void Board::takeTotal(int at)

@@ -4,10 +4,9 @@
 #pragma once
 
 #include "entry/betgrid.h"
+#include "entry/hotnumbers.h"
 #include "ledger/ledgermemo.h"
 #include "platform/progressbar.h"
-
-#include <QSet>
 
 /// Columns of a board behind those that are shown, with column 0 the class of each row: its
 /// numType, its num23 and "True" for top or "False" for bottom.
@@ -64,8 +63,7 @@ struct Board
 
 private:
     void fillRows(int at, ProgressBar &progress);
-    QSet<QString> hotSpellings(const BetClass &betClass);
 
     qint32 BoardTotal = 0; ///< of the board being loaded
-    LedgerMemo<QStringList> m_hotNumbers;
+    LedgerMemo<HotNumbers> m_hotNumbers;
 };

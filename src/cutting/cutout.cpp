@@ -25,6 +25,9 @@ constexpr std::array Titles{
     Title{CutColumn::Amount, u"ยอดซื้อ"},
 };
 
+/// Places of what the list of lines reads.
+enum class Read { Key, Name, Buyer, Type, Number, Money, User };
+
 /// Takes the amount off a line that stays in the book.
 void takeOff(const CutLine &line, qint32 amount)
 {
@@ -73,7 +76,7 @@ void CutOut::LoadNumrunup()
         return;
     }
     for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
-        CutTotal = addLong({CutTotal, CLng(numberOf(RecordsetA.field(u"numBuy"_s)))});
+        CutTotal = addLong({CutTotal, CLng(numberOf(RecordsetA.field(qsizetype(Read::Money))))});
         writeRow(row);
     }
     RecordsetA.close();
@@ -83,15 +86,15 @@ void CutOut::LoadNumrunup()
 /// Writes the recordset's current row.
 void CutOut::writeRow(int row)
 {
-    const auto field = [](const QString &column) { return RecordsetA.field(column); };
-    grid.setText(row, CutColumn::Key, field(u"NPK"_s).toString());
+    const auto field = [](Read place) { return RecordsetA.field(qsizetype(place)); };
+    grid.setText(row, CutColumn::Key, field(Read::Key).toString());
     grid.setText(row, CutColumn::Place, QString::number(row));
-    grid.setText(row, CutColumn::Customer, u' ' + field(u"Mname"_s).toString());
-    grid.setText(row, CutColumn::Label, twoPartLabel(field(u"numType"_s).toInt(), SelUpDown));
-    grid.setText(row, CutColumn::Number, field(u"numValue"_s).toString());
-    grid.setText(row, CutColumn::Amount, formatBaht(numberOf(field(u"numBuy"_s))) + u' ');
-    grid.setText(row, CutColumn::Buyer, field(u"nameFK"_s).toString());
-    grid.setText(row, CutColumn::User, field(u"nuser"_s).toString());
+    grid.setText(row, CutColumn::Customer, u' ' + field(Read::Name).toString());
+    grid.setText(row, CutColumn::Label, twoPartLabel(field(Read::Type).toInt(), SelUpDown));
+    grid.setText(row, CutColumn::Number, field(Read::Number).toString());
+    grid.setText(row, CutColumn::Amount, formatBaht(numberOf(field(Read::Money))) + u' ');
+    grid.setText(row, CutColumn::Buyer, field(Read::Buyer).toString());
+    grid.setText(row, CutColumn::User, field(Read::User).toString());
 }
 
 CutLine CutOut::lineAt(int row) const

@@ -7,7 +7,18 @@
 
 using namespace Qt::StringLiterals;
 
-QStringList hotNumbers()
+namespace {
+
+/// Two tod bets with the same digits in any order have the same text here.
+QString sortedDigits(QString number)
+{
+    std::sort(number.begin(), number.end());
+    return number;
+}
+
+} // namespace
+
+QStringList readHotNumbers()
 {
     QStringList numbers;
     RecordsetB.open(u" SELECT tblNumberFix.* FROM tblNumberFix ORDER BY PK"_s);
@@ -17,20 +28,23 @@ QStringList hotNumbers()
     return numbers;
 }
 
-QStringList todBetsReached(const QString &hot, int digits)
+HotNumbers::HotNumbers(const QStringList &numbers) : m_numbers(numbers.begin(), numbers.end())
 {
-    if (digits == 2) {
-        QString turned = hot;
-        std::reverse(turned.begin(), turned.end());
-        return {hot, turned};
+    for (QString number : numbers) {
+        m_sorted += sortedDigits(number.left(3));
+        std::reverse(number.begin(), number.end());
+        m_turned += number;
     }
-    const QString one = hot.mid(0, 1); // a digit that is not there is empty
-    const QString two = hot.mid(1, 1);
-    const QString three = hot.mid(2, 1);
-    return {hot,
-            two + three + one,
-            two + one + three,
-            one + three + two,
-            three + one + two,
-            three + two + one};
+}
+
+bool HotNumbers::reach(const BetClass &betClass, const QString &number) const
+{
+    if (betClass.numType == Run)
+        return false;
+    if (m_numbers.contains(number))
+        return true;
+    if (betClass.numType == Straight)
+        return false;
+    return betClass.num23 == 2 ? m_turned.contains(number)
+                               : m_sorted.contains(sortedDigits(number));
 }

@@ -2,11 +2,26 @@
 // Hot numbers (เลขดัง), on which the agent pays half the prize: which bets they reach.
 #pragma once
 
+#include "entry/vocabulary.h"
+
+#include <QSet>
 #include <QStringList>
 
 /// The hot numbers, the one entered first in front. Uses RecordsetB.
-QStringList hotNumbers();
+QStringList readHotNumbers();
 
-/// The spellings of a tod bet of @p digits digits, 2 or 3, that @p hot reaches. A hot number of
-/// another length reaches a bet that is spelled as it stands.
-QStringList todBetsReached(const QString &hot, int digits);
+class HotNumbers
+{
+public:
+    HotNumbers() = default;
+    explicit HotNumbers(const QStringList &numbers);
+
+    /// True for a straight bet on a hot number, on top as at the bottom, and for a tod bet on one in
+    /// any order of its digits. A run bet is never hot.
+    bool reach(const BetClass &betClass, const QString &number) const;
+
+private:
+    QSet<QString> m_numbers;
+    QSet<QString> m_turned; ///< with the digits in reverse
+    QSet<QString> m_sorted; ///< the first three digits in rising order
+};

@@ -112,7 +112,9 @@ struct Connection::Engine
     void openFile(int flags, const QByteArray &password)
     {
         journalWaited = QFile::exists(path + u"-wal"_s);
-        check(sqlite3_open_v2(path.toUtf8().constData(), &handle, flags, nullptr));
+        // One thread works on it, so no call needs to lock.
+        check(sqlite3_open_v2(path.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX,
+                              nullptr));
         check(sqlite3_key(handle, password.constData(), int(password.size())));
         check(sqlite3_create_collation(handle, AnyCaseCollation, SQLITE_UTF8, nullptr,
                                        compareUtf8<compareAnyCase>));
@@ -124,6 +126,9 @@ struct Connection::Engine
         execute("PRAGMA locking_mode = EXCLUSIVE");
         execute("PRAGMA synchronous = FULL");
         execute("PRAGMA secure_delete = ON");
+        // Room for the lines of a big book, so that boards need not decrypt them again and again.
+        // Only a book of that size fills it.
+        execute("PRAGMA cache_size = -32000");
     }
 
     void execute(const char *sql) const

@@ -11,7 +11,7 @@ SpreadModel::SpreadModel(QObject *parent) : QAbstractTableModel(parent)
 }
 
 SpreadModel::Rebuild::Rebuild(SpreadModel &grid)
-    : m_grid(grid), m_columns(grid.m_columns), m_headers(grid.m_headers), m_rows(grid.m_rows)
+    : m_grid(grid), m_columns(grid.columns()), m_headers(grid.m_headers), m_rows(grid.rows())
 {
     ++m_grid.m_rebuilds;
 }
@@ -20,16 +20,16 @@ SpreadModel::Rebuild::~Rebuild()
 {
     if (--m_grid.m_rebuilds > 0)
         return;
-    if (m_columns.size() != m_grid.m_columns.size() || m_headers.size() != m_grid.m_headers.size()
-        || m_rows.size() != m_grid.m_rows.size()) {
+    if (m_columns != m_grid.columns() || m_headers.size() != m_grid.m_headers.size()
+        || m_rows != m_grid.rows()) {
         m_grid.beginResetModel();
         m_grid.endResetModel();
         return;
     }
-    // A board that is loaded again mostly is what it was.
+    // A board that is loaded again mostly has the rows that it had.
     if (m_headers != m_grid.m_headers)
         emit m_grid.headerDataChanged(Qt::Horizontal, 0, m_grid.columns());
-    if (m_rows != m_grid.m_rows || m_columns != m_grid.m_columns)
+    if (m_grid.rows() > 0)
         emit m_grid.dataChanged(m_grid.index(0, 0),
                                 m_grid.index(m_grid.rows() - 1, m_grid.columns()));
 }

@@ -79,8 +79,6 @@ private:
     {
         QString text;
         QColor color;
-
-        bool operator==(const Cell &) const = default;
     };
     using Row = QList<Cell>;
 
@@ -96,7 +94,7 @@ private:
 };
 
 /// Writes a grid anew: views hear of it once, when this goes, also when an error ends the work half
-/// way, and only of what has changed. Without it they hear of each cell.
+/// way; a grid that keeps its shape keeps its active row. Without it they hear of each cell.
 class SpreadModel::Rebuild
 {
 public:
@@ -106,7 +104,7 @@ public:
 
 private:
     SpreadModel &m_grid;
-    QList<Qt::Alignment> m_columns; ///< as they were before
+    int m_columns; ///< as they were before
     QList<QList<HeaderCell>> m_headers;
-    QList<Row> m_rows;
+    int m_rows;
 };
