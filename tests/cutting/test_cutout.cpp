@@ -1,0 +1,177 @@
+// SPDX-License-Identifier: MIT
+// Cuts: money moves out of the book and is never lost or made; what was cut is listed by number.
+#include "cutting/cutboard.h"
+#include "cutting/cutout.h"
+#include "cutting/selection.h"
+#include "runtime/runtimeerror.h"
+#include "support/noprogress.h"
+#include "support/outcome.h"
+#include "support/testledger.h"
+
+#include <QRandomGenerator>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList rowsOf(const SpreadModel &grid)
+{
+    QStringList rows;
+    for (int row = 1; row <= grid.rows(); ++row) {
+        QStringList cells;
+        for (int column = 0; column <= grid.columns(); ++column)
+            cells += grid.text(row, column);
+        rows += cells.join(u'|');
+    }
+    return rows;
+}
+
+void select(int num23, int numType, bool updown, const QString &number)
+{
+    SelNum23 = quint8(num23);
+    SelNumType = quint8(numType);
+    SelUpDown = updown;
+    SelNumValue = number;
+}
+
+} // namespace
+
+class CutOutTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void linesOfAllCustomersAreListed();
+    void cutMovesMoney_data();
+    void cutMovesMoney();
+    void anySeriesKeepsTheMoney();
+    void vanishedLine();
+    void cutNumbersAreListedByKind();
+
+private:
+    void file(const QString &table, const QString &values) const
+    {
+        m_ledger->run(u"INSERT INTO %1 (NameFK, num23, updown, numType, numValue, numBuy, nuser) "
+                      "VALUES (%2, 'sv')"_s.arg(table, values));
+    }
+    QStringList book(const QString &table) const
+    {
+        return m_ledger->run(
+            u"SELECT NPK, NameFK, num23, updown, numType, numValue, numBuy, nuser, "
+            "typeof(numBuy) FROM "_s
+            + table + u" ORDER BY NPK"_s);
+    }
+
+    std::optional<TestLedger> m_ledger;
+};
+
+void CutOutTest::init()
+{
+    m_ledger.reset();
+    m_ledger.emplace();
+    m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
+    m_ledger->addMember(2, u"สมหญิง"_s, u"0"_s);
+}
+
+void CutOutTest::linesOfAllCustomersAreListed()
+{
+    file(u"tblNumber"_s, u"1, 3, 0, 1, '012', 1500"_s);
+    file(u"tblNumber"_s, u"2, 3, 0, 1, '012', 20000"_s);
+    file(u"tblNumber"_s, u"1, 3, 0, 1, '012', 1500"_s);
+    file(u"tblNumber"_s, u"1, 3, -1, 1, '012', 5"_s);
+    file(u"tblNumber"_s, u"1, 3, 0, 1, '120', 5"_s);
+    select(3, 1, false, u"012 "_s);
+    CutOut cutOut;
+    cutOut.LoadNumrunup();
+    QCOMPARE(rowsOf(cutOut.grid), QStringList({u"2|1| สมหญิง|ตรง-ล่าง|012|20,000 |2|sv"_s,
+                                               u"1|2| สมชาย|ตรง-ล่าง|012|1,500 |1|sv"_s,
+                                               u"3|3| สมชาย|ตรง-ล่าง|012|1,500 |1|sv"_s}));
+    QCOMPARE(cutOut.grid.text(-1000, CutColumn::Amount), u"23,000 บาท"_s);
+}
+
+void CutOutTest::cutMovesMoney_data()
+{
+    QTest::addColumn<int>("amount");
+    QTest::addColumn<QStringList>("left");
+    const QString line = u"1 2 2 -1 2 12 "_s;
+    QTest::newRow("part") << 200 << QStringList(line + u"300 sv integer"_s);
+    QTest::newRow("all") << 500 << QStringList();
+    QTest::newRow("nothing") << 0 << QStringList(line + u"500 sv integer"_s);
+}
+
+void CutOutTest::cutMovesMoney()
+{
+    QFETCH(int, amount);
+    file(u"tblNumber"_s, u"2, 2, -1, 2, '12', 500"_s);
+    select(2, 2, true, u"12"_s);
+    CutOut cutOut;
+    cutOut.LoadNumrunup();
+    cutOut.cut(cutOut.lineAt(1), amount);
+    QTEST(book(u"tblNumber"_s), "left");
+    QCOMPARE(book(u"tblNumberCut"_s), QStringList(u"1 2 2 -1 2 12 %1 sv integer"_s.arg(amount)));
+}
+
+void CutOutTest::anySeriesKeepsTheMoney()
+{
+    QRandomGenerator dice(20261123); // the same series in every run
+    for (int line = 0; line < 40; ++line)
+        file(u"tblNumber"_s, u"%1, 1, %2, 3, '%3', %4"_s.arg(line % 2 + 1)
+                                 .arg(-(line % 2))
+                                 .arg(5 + line % 3)
+                                 .arg(dice.bounded(1, 9)));
+    const QString sums =
+        u"SELECT numValue, updown, NameFK, sum(numBuy) FROM (SELECT * FROM tblNumber"
+        " UNION ALL SELECT * FROM tblNumberCut) GROUP BY 1, 2, 3"_s;
+    const QStringList before = m_ledger->run(sums);
+    QCOMPARE(before.size(), 6);
+    int cuts = 0;
+    for (int tries = 0; tries < 400; ++tries) {
+        select(1, 3, dice.bounded(2) == 1, QString::number(5 + dice.bounded(3)));
+        CutOut cutOut;
+        cutOut.LoadNumrunup();
+        if (cutOut.grid.rows() == 0)
+            continue;
+        const CutLine line = cutOut.lineAt(1 + dice.bounded(cutOut.grid.rows()));
+        cutOut.cut(line, dice.bounded(line.amount + 1));
+        ++cuts;
+        QCOMPARE(m_ledger->run(sums), before);
+    }
+    QVERIFY(cuts > 80);
+}
+
+void CutOutTest::vanishedLine()
+{
+    file(u"tblNumber"_s, u"2, 1, 0, 3, '5', 500"_s);
+    select(1, 3, false, u"5"_s);
+    CutOut cutOut;
+    cutOut.LoadNumrunup();
+    const CutLine line = cutOut.lineAt(1);
+    m_ledger->run(u"UPDATE tblNumber SET nuser = 'xx'"_s); // key and user have to agree
+    QVERIFY(!errorOf([&] { cutOut.cut(line, 200); }).isEmpty());
+    QCOMPARE(book(u"tblNumberCut"_s), QStringList());
+    cutOut.cut(line, 500);
+    QCOMPARE(book(u"tblNumber"_s).size(), 1);
+    QCOMPARE(book(u"tblNumberCut"_s).size(), 1);
+}
+
+void CutOutTest::cutNumbersAreListedByKind()
+{
+    for (const auto &line :
+         {u"1, 1, -1, 3, '5', 7"_s, u"1, 2, -1, 1, '12', 10"_s, u"2, 3, -1, 1, '512', 20"_s,
+          u"1, 3, -1, 1, '012', 1000"_s, u"2, 3, -1, 1, '012', 500"_s, u"1, 3, -1, 2, '012', 5"_s})
+        file(u"tblNumberCut"_s, line);
+    m_ledger->run(u"INSERT INTO tblNumberFix VALUES (1, '012')"_s); // real money all the same
+    CutBoard board;
+    NoProgress progress;
+    board.LoadNumcutup(progress);
+    board.LoadNumcutdown(progress);
+    QCOMPARE(rowsOf(board.grids[0]), QStringList({u"|ตรง|012|1,500"_s, u"|ตรง|512|20"_s,
+                                                  u"|ตรง|12|10"_s, u"|โต๊ด|012|5"_s, u"|วิ่ง|5|7"_s}));
+    QCOMPARE(board.grids[0].text(-999, 2), u"1,542"_s);
+    QCOMPARE(board.grids[1].text(-999, 2), u"0"_s);
+}
+
+QTEST_GUILESS_MAIN(CutOutTest)
+#include "test_cutout.moc"

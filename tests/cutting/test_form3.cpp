@@ -1,0 +1,475 @@
+// SPDX-License-Identifier: MIT
+// The board, the cut-out and the cut numbers in the real program, under real keys and clicks.
+#include "cutting/cutnum.h"
+#include "cutting/form3.h"
+#include "cutting/selection.h"
+#include "ledger/ledger.h"
+#include "platform/application.h"
+#include "platform/combo.h"
+#include "platform/programfolder.h"
+#include "platform/pushbutton.h"
+#include "platform/spread.h"
+#include "platform/tabstrip.h"
+#include "platform/workprogress.h"
+#include "program.h"
+#include "shell/globals.h"
+#include "support/hands.h"
+#include "support/testledger.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+class Form3Test : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void bookIsShownOnTheTopTab();
+    void emptySideKeepsItsOldSum();
+    void filterShowsOneCustomer();
+    void filterThatFindsNothing_data();
+    void filterThatFindsNothing();
+    void failedLoaderIsAbandonedAlone();
+    void percentThatIsNoNumberKeepsTheMoney();
+    void numberIsFoundOnBothTabs();
+    void cutReloadsItsBoardAlone();
+    void cutUnderTheFilterShowsTheWholeBook();
+    void scanRunsBeforeTheStripGoes();
+    void closingTheSettingsReloads();
+    void leavingThePageHidesTheStrip();
+    void openersEnableTheirButtons();
+
+    void amountIsChecked_data();
+    void amountIsChecked();
+    void activeRowIsCut();
+    void lineIsRemoved();
+    void dialogClosesOnce_data();
+    void dialogClosesOnce();
+
+private:
+    template<typename Control>
+    Control *control(const char *name) const
+    {
+        return page().findChild<Control *>(QLatin1String(name));
+    }
+    template<typename Control>
+    Control *banner(const char *name) const
+    {
+        return m_window->findChild<QWidget *>(u"Toolbar1"_s)
+            ->findChild<Control *>(QLatin1String(name));
+    }
+    Form3 &page() const { return *static_cast<Form3 *>(m_window->page()); }
+    Spread *grid(int number) const
+    {
+        return control<Spread>(qPrintable(u"fpSpread%1"_s.arg(number)));
+    }
+    QString total(int number) const { return grid(number)->text(-999, 2); }
+    QString text(const char *field) const { return control<QLineEdit>(field)->text(); }
+    QStringList strip() const
+    {
+        QStringList texts{banner<QWidget>("Frame6")->isVisible() ? u"shown"_s : u"hidden"_s};
+        for (const char *field : {"Tname", "text2", "text3"})
+            texts += banner<QLineEdit>(field)->text();
+        return texts;
+    }
+    QString tabs() const
+    {
+        const auto *strip = control<TabStrip>("SSTab1");
+        return strip->tabText(1) + strip->tabText(0) + QString::number(strip->tab());
+    }
+    /// What the filter shows, hides and disables.
+    QString controls() const
+    {
+        QStringList states;
+        for (const char *name : {"Combo1", "Frame5", "lvButtons_H7", "text2", "text3"}) {
+            const auto *each = control<QWidget>(name);
+            if (each->isVisible())
+                states += QLatin1String(name) + (each->isEnabled() ? u""_s : u"-"_s);
+        }
+        return states.join(u' ');
+    }
+    void filter(const QString &name)
+    {
+        control<Combo>("Combo1")->setFocus();
+        Hands::type(name);
+        Hands::press(Qt::Key_Return);
+    }
+    /// Opens the cut-out of a board's first row with Enter; @p work is done in it.
+    void cut(int board, const std::function<void(QWidget *)> &work)
+    {
+        m_hands->inNextDialog([&](QWidget *dialog) {
+            if (!Hands::focusComesTo(dialog))
+                qFatal("the cut-out did not come to the front");
+            work(dialog);
+            dialog->close();
+        });
+        grid(board)->setFocus();
+        grid(board)->setActiveRow(1);
+        Hands::press(Qt::Key_Return);
+    }
+    void confirm(QWidget *dialog, const QString &amount)
+    {
+        dialog->findChild<Spread *>()->setFocus();
+        Hands::press(Qt::Key_Space);
+        auto *field = dialog->findChild<QLineEdit *>(u"text1"_s);
+        field->setFocus();
+        field->clear();
+        Hands::type(amount);
+        m_hands->answerNextWithOk();
+        Hands::press(Qt::Key_Return);
+    }
+
+    std::optional<TestLedger> m_ledger;
+    std::optional<Hands> m_hands;
+    std::unique_ptr<MDIForm1> m_window;
+};
+
+void Form3Test::init()
+{
+    m_ledger.emplace();
+    m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
+    m_ledger->addMember(2, u"สมหญิง"_s, u"5"_s);
+    m_ledger->addMember(3, u"นารี"_s, u"5"_s);
+    m_ledger->run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy, nuser)"
+                  " VALUES (1, 3, -1, 1, '123', 1000, 'sv'), (2, 3, -1, 1, '123', 500, 'sv'),"
+                  " (2, 3, -1, 1, '456', 200, 'sv'), (1, 3, 0, 1, '123', 300, 'sv'),"
+                  " (2, 1, 0, 3, '7', 40, 'sv')"_s);
+    CloseLedger();
+    m_hands.emplace();
+    MemberFilterOn = false;
+    m_window = startProgram();
+    QVERIFY(m_window && QTest::qWaitForWindowActive(m_window.get()));
+    Hands::click(m_window->findChild<PushButton *>(u"lvButtons_H2"_s));
+}
+
+void Form3Test::cleanup()
+{
+    QCOMPARE(m_hands->takeBoxes(), QStringList());
+    m_window.reset();
+    m_hands.reset();
+    m_ledger.reset();
+}
+
+void Form3Test::bookIsShownOnTheTopTab()
+{
+    QCOMPARE(tabs(), u"   บน ( ยอดรวม 1,700 )   ล่าง ( ยอดรวม 340 )1"_s);
+    QCOMPARE(text("text2"), u"2,040"_s);
+    QCOMPARE(text("text3"), u"ยอดรวม บนและล่าง"_s);
+    QCOMPARE(controls(), u"Combo1 Frame5 text2 text3"_s);
+    const auto *names = control<Combo>("Combo1");
+    QCOMPARE(names->count(), 2); // only who holds a bet
+    QCOMPARE(names->itemText(1), u"สมหญิง"_s);
+    QCOMPARE(control<QLabel>("Label31")->text(), u"750,000"_s);
+    QVERIFY(grid(5)->isVisible() && !grid(6)->isVisible());
+    QVERIFY(grid(1)->isColumnHidden(3) && grid(1)->isColumnHidden(4));
+    Hands::press(Qt::Key_F5); // nothing without a filter
+    QCOMPARE(total(1), u"1,700"_s);
+}
+
+void Form3Test::emptySideKeepsItsOldSum()
+{
+    m_ledger->run(u"DELETE FROM tblNumber WHERE updown = -1"_s);
+    page().FReLoad();
+    QCOMPARE(tabs(), u"   บน ( ยอดรวม  )   ล่าง ( ยอดรวม 340 )1"_s);
+    QCOMPARE(text("text2"), u"2,040"_s);
+    m_ledger->run(u"DELETE FROM tblNumber"_s);
+    page().FReLoad();
+    QCOMPARE(control<Combo>("Combo1")->count(), 2); // the list before the last line went
+}
+
+void Form3Test::filterShowsOneCustomer()
+{
+    filter(u"สมห"_s); // completed from the list
+    QCOMPARE(strip(), QStringList({u"shown"_s, u"สมหญิง"_s, u"5"_s, u"37"_s}));
+    QCOMPARE(tabs(), u"   บน ( ยอดรวม 700 )   ล่าง ( ยอดรวม 40 )1"_s);
+    QCOMPARE(controls(), u"lvButtons_H7 text2- text3-"_s);
+    QCOMPARE(text("text2"), u"2,040"_s); // not the customer's
+    QCOMPARE(Hands::focus()->objectName(), u"fpSpread1"_s);
+    Hands::press(Qt::Key_F5);
+    QCOMPARE(controls(), u"Combo1 Frame5 text2 text3"_s);
+    QCOMPARE(strip(), QStringList({u"hidden"_s, {}, {}, {}}));
+    QVERIFY(!MemberFilterOn);
+    QCOMPARE(total(1), u"1,700"_s);
+}
+
+void Form3Test::filterThatFindsNothing_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("percent");
+    QTest::addColumn<QString>("box");
+    const QString nothing = u"ไม่พบข้อมูล ลูกค้ารายนี้ ( ไม่ได้ซื้อเลขใด ๆ ใน งวดนี้  ) . . ."_s;
+    QTest::newRow("nobody") << u"ไม่มี"_s << QString()
+                            << u"ไม่พบชื่อลูกค้ารายนี้ อยู่ใน ฐานข้อมูล โปรดลองใหม่อีกครั้ง ..."_s;
+    QTest::newRow("no bets") << u"นารี"_s << u"5"_s << nothing;
+    QTest::newRow("part of a name") << u"าย"_s << u"10"_s << nothing;
+    QTest::newRow("empty, which finds the row 0") << QString() << u"0"_s << nothing;
+}
+
+void Form3Test::filterThatFindsNothing()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, percent);
+    QFETCH(QString, box);
+    filter(name);
+    QCOMPARE(m_hands->takeBoxes(), QStringList(box));
+    const bool found = !percent.isEmpty();
+    QCOMPARE(MemberFilterOn, found);
+    QCOMPARE(strip(), found ? QStringList({u"shown"_s, name, percent, {}})
+                            : QStringList({u"hidden"_s, {}, {}, {}}));
+    QCOMPARE(controls(), found ? u"lvButtons_H7 text2- text3-"_s : u"Combo1 Frame5 text2 text3"_s);
+    QCOMPARE(total(1), found ? u"0"_s : u"1,700"_s);
+    if (!found)
+        QCOMPARE(control<Combo>("Combo1")->currentText(), name); // for correction
+}
+
+void Form3Test::failedLoaderIsAbandonedAlone()
+{
+    m_ledger->run(u"UPDATE tblNumber SET numBuy = 3000000000 WHERE numValue = '456'"_s);
+    filter(u"สมห"_s);
+    QCOMPARE(total(1), u"0"_s);
+    QCOMPARE(control<QLabel>("Label31")->text(), u"750,000"_s); // as before
+    QCOMPARE(total(8), u"40"_s);
+    QCOMPARE(strip()[3], u"87"_s); // with the sum that the abandoned board had
+    QVERIFY(!banner<QWidget>("pb1")->isVisible());
+}
+
+void Form3Test::percentThatIsNoNumberKeepsTheMoney()
+{
+    m_ledger->run(u"UPDATE tblMember SET Mpercen = '' WHERE MPK = 2"_s);
+    banner<QLineEdit>("text3")->setText(u"123"_s);
+    filter(u"สมห"_s);
+    QCOMPARE(strip(), QStringList({u"shown"_s, u"สมหญิง"_s, {}, u"123"_s}));
+}
+
+void Form3Test::numberIsFoundOnBothTabs()
+{
+    control<QLineEdit>("text1")->setFocus();
+    Hands::type(u"123"_s);
+    Hands::press(Qt::Key_Return);
+    QCOMPARE(grid(1)->activeRow(), 1);
+    QCOMPARE(grid(6)->activeRow(), 1); // though it is hidden
+    QVERIFY(grid(1)->isVisible());
+    control<QLineEdit>("text1")->setText(u"456"_s);
+    Hands::click(control<PushButton>("lvButtons_H3"));
+    QCOMPARE(grid(1)->activeRow(), 2);
+    control<QLineEdit>("text1")->setText(u"  "_s);
+    Hands::click(control<PushButton>("lvButtons_H3"));
+    QCOMPARE(Hands::focus()->objectName(), u"text1"_s);
+}
+
+void Form3Test::cutReloadsItsBoardAlone()
+{
+    cut(2, [](QWidget *) { QFAIL("an empty board opens nothing"); });
+    m_hands->inNextDialog({});
+    control<TabStrip>("SSTab1")->setTab(0);
+    m_ledger->run(u"UPDATE tblNumber SET numBuy = 1 WHERE numValue = '7'"_s);
+    cut(6, [this](QWidget *dialog) { confirm(dialog, u"100"_s); });
+    m_hands->takeBoxes();
+    QCOMPARE(total(6), u"200"_s);
+    QCOMPARE(total(8), u"40"_s);                                         // stale
+    QCOMPARE(tabs(), u"   บน ( ยอดรวม 1,700 )   ล่าง ( ยอดรวม 240 )0"_s); // the side that was cut
+    QCOMPARE(text("text2"), u"1,940"_s);
+    QCOMPARE(Hands::focus()->objectName(), u"fpSpread6"_s);
+    QCOMPARE(grid(6)->activeRow(), 1);
+}
+
+void Form3Test::cutUnderTheFilterShowsTheWholeBook()
+{
+    filter(u"สมห"_s);
+    QString listed;
+    cut(1, [&](QWidget *dialog) {
+        listed = dialog->findChild<Spread *>()->text(-1000, 5); // of all customers
+        confirm(dialog, u"1"_s);
+    });
+    m_hands->takeBoxes();
+    QCOMPARE(listed, u"1,500 บาท"_s);
+    QCOMPARE(total(1), u"1,699"_s);
+    QCOMPARE(controls(), u"Combo1 Frame5 text2 text3"_s);
+    QCOMPARE(strip(), QStringList({u"hidden"_s, {}, {}, {}}));
+    QVERIFY(MemberFilterOn);
+    QCOMPARE(text("text2"), u"2,040"_s); // the strip was still shown when the boards were loaded
+    Hands::press(Qt::Key_F5);
+    QVERIFY(!MemberFilterOn);
+    QCOMPARE(text("text2"), u"2,039"_s);
+}
+
+void Form3Test::scanRunsBeforeTheStripGoes()
+{
+    filter(u"สมห"_s);
+    m_ledger->run(u"DELETE FROM tblNumber WHERE numValue = '7'"_s);
+    SelNumValue = u"456"_s;
+    m_hands->inNextDialog([](QWidget *dialog) { dialog->close(); });
+    QStringList atScan;
+    page().showCutNum(m_window.get(), [&] { atScan = strip() + QStringList(total(8)); });
+    QCOMPARE(atScan, QStringList({u"shown"_s, u"สมหญิง"_s, u"5"_s, u"37"_s, u"0"_s}));
+    QCOMPARE(strip()[0], u"hidden"_s);
+}
+
+void Form3Test::closingTheSettingsReloads()
+{
+    filter(u"สมห"_s);
+    for (const quint8 origin : {quint8(2), quint8(1)}) { // a scan is shown; then none
+        CutOrigin = origin;
+        m_hands->inNextDialog([](QWidget *dialog) { dialog->close(); });
+        Hands::click(m_window->findChild<PushButton *>(u"lvButtons_H5"_s));
+        QCOMPARE(total(1), origin == 1 ? u"1,700"_s : u"700"_s);
+        QCOMPARE(controls(), u"lvButtons_H7 text2- text3-"_s);
+        QCOMPARE(strip()[1], u"สมหญิง"_s);
+    }
+}
+
+void Form3Test::leavingThePageHidesTheStrip()
+{
+    filter(u"สมห"_s);
+    m_window->openPage(0);
+    QCOMPARE(strip(), QStringList({u"hidden"_s, {}, {}, {}}));
+    QVERIFY(MemberFilterOn);
+    m_window->openPage(2);
+    QCOMPARE(total(1), u"1,700"_s);
+}
+
+void Form3Test::openersEnableTheirButtons()
+{
+    QVERIFY(!control<PushButton>("lvButtons_H5")->isEnabled());
+    QStringList opened;
+    QWidget panel;
+    QLineEdit fields[3];
+    CustomerStrip own(panel, fields[0], fields[1], fields[2]);
+    Form3 board({*banner<WorkProgress>("pb1"), own},
+                {[&](Form3 &) { opened += u"scan"_s; }, [&](Form3 &) { opened += u"print"_s; }, {}},
+                nullptr);
+    board.findChild<PushButton *>(u"lvButtons_H6"_s)->click();
+    board.findChild<PushButton *>(u"lvButtons_H5"_s)->click();
+    m_ledger->run(u"DELETE FROM tblNumber"_s);
+    board.FReLoad();
+    board.findChild<PushButton *>(u"lvButtons_H5"_s)->click();
+    QCOMPARE(opened, QStringList({u"scan"_s, u"print"_s}));
+    QCOMPARE(m_hands->takeBoxes(), QStringList(u"ไม่สามารถส่งออกได้ ( ไม่มีข้อมูลในตาราง ) "
+                                               "โปรดลองใหม่อีกครั้ง . .  ."_s));
+}
+
+void Form3Test::amountIsChecked_data()
+{
+    QTest::addColumn<bool>("chosen");
+    QTest::addColumn<QString>("amount");
+    QTest::addColumn<QString>("box");
+    QTest::addColumn<QString>("left"); // in the field
+    const QString zero = u"ไม่สามารถคัดเลขได้ ( จำนวนเงินที่คุณระบุ = 0 ) โปรดลองใหม่อีกครั้ง . .. ."_s;
+    QTest::newRow("no customer chosen")
+        << false << u"5"_s << u"กรุณาเลือก ( ลูกค้าที่ต้องการคัดเลข ก่อน ) โปรดลองใหม่อีกครั้ง . . ."_s
+        << u"5"_s;
+    QTest::newRow("no amount") << true << u"  "_s
+                               << u"กรุณาระบุ ( จำนวนเงิน ) ที่ต้องการคัดออก  ก่อนเริ่มบันทึก"_s << u"  "_s;
+    QTest::newRow("zero") << true << u"0"_s << zero << u"0"_s;
+    QTest::newRow("two zeros pass") << true << u"00"_s << u"คัดออกเป็นเงิน =  บาท"_s << u"00"_s;
+    QTest::newRow("more than the line")
+        << true << u"1001"_s
+        << u"ไม่สามารถคัดเลขได้ ( จำนวนเงินที่คัดออกมีมากเกินไป ) โปรดลองใหม่อีกครั้ง . .. ."_s << u"1000"_s;
+    QTest::newRow("part") << true << u"999"_s << u"คัดออกเป็นเงิน = 999 บาท"_s << u"999"_s;
+}
+
+void Form3Test::amountIsChecked()
+{
+    QFETCH(bool, chosen);
+    QFETCH(QString, amount);
+    QString left;
+    cut(1, [&](QWidget *dialog) {
+        auto *lines = dialog->findChild<Spread *>();
+        if (chosen)
+            QTest::mouseClick(lines->viewport(), Qt::LeftButton, {}, {40, 10});
+        auto *field = dialog->findChild<QLineEdit *>(u"text1"_s);
+        field->setText(amount);
+        Hands::click(dialog->findChild<PushButton *>(u"lvButtons_H3"_s)); // Enter answers Cancel
+        left = field->text();
+    });
+    QFETCH(QString, box);
+    QCOMPARE(m_hands->takeBoxes(), QStringList(box));
+    QTEST(left, "left");
+    QCOMPARE(m_ledger->run(u"SELECT sum(numBuy) FROM tblNumber"_s), QStringList(u"2040"_s));
+}
+
+void Form3Test::activeRowIsCut()
+{
+    QString named;
+    int rows = -1;
+    cut(1, [&](QWidget *dialog) {
+        auto *lines = dialog->findChild<Spread *>();
+        Hands::press(Qt::Key_Space);
+        Hands::press(Qt::Key_Down); // to the line of the other, without choosing him
+        named = dialog->findChild<QLineEdit *>(u"Tname"_s)->text();
+        auto *amount = dialog->findChild<QLineEdit *>(u"text1"_s);
+        amount->setFocus();
+        Hands::type(u"500"_s);
+        for (int cuts = 0; cuts < 2; ++cuts) { // the whole line of 500, then 500 of the other
+            m_hands->answerNextWithOk();
+            Hands::press(Qt::Key_Return);
+        }
+        m_hands->answerNextWithOk();
+        Hands::press(Qt::Key_Return); // the rest; no line is left
+        Hands::press(Qt::Key_Return);
+        rows = lines->rows();
+    });
+    QCOMPARE(named, u" สมชาย"_s);
+    QCOMPARE(rows, 0);
+    QCOMPARE(m_hands->takeBoxes(), QStringList(3, u"คัดออกเป็นเงิน = 500 บาท"_s));
+    QCOMPARE(m_ledger->run(u"SELECT NPK, NameFK, numBuy FROM tblNumberCut"_s),
+             QStringList({u"1 2 500"_s, u"2 1 500"_s, u"3 1 500"_s}));
+    QCOMPARE(grid(1)->text(1, 1), u"456"_s);
+}
+
+void Form3Test::lineIsRemoved()
+{
+    cut(1, [&](QWidget *dialog) {
+        auto *button = dialog->findChild<PushButton *>(u"lvButtons_H1"_s);
+        Hands::click(button); // Enter answers Cancel
+        for (int line = 0; line < 2; ++line) {
+            m_hands->answerNextWithOk();
+            Hands::click(button);
+        }
+        Hands::click(button); // no row, no question
+    });
+    const QString first = u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[ สมชาย ][ 123 ][ 1,000 บาท ]"_s;
+    const QString second = u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[ สมหญิง ][ 123 ][ 500 บาท ]"_s;
+    QCOMPARE(m_hands->takeBoxes(), QStringList({first, first, second}));
+    QCOMPARE(total(1), u"200"_s);
+    QCOMPARE(m_ledger->run(u"SELECT * FROM tblNumberCut"_s), QStringList());
+}
+
+void Form3Test::dialogClosesOnce_data()
+{
+    QTest::addColumn<bool>("byKey");
+    QTest::newRow("Esc") << true;
+    QTest::newRow("the window's cross") << false;
+}
+
+void Form3Test::dialogClosesOnce()
+{
+    QFETCH(bool, byKey);
+    int unloads = 0;
+    CutNum dialog([&] { ++unloads; }, m_window.get());
+    dialog.open();
+    QVERIFY(Hands::focusComesTo(&dialog));
+    if (byKey)
+        Hands::press(Qt::Key_Escape);
+    else
+        dialog.close();
+    QVERIFY(!dialog.isVisible());
+    dialog.close();
+    QCOMPARE(unloads, 1);
+}
+
+int main(int argc, char **argv)
+{
+    static const QTemporaryDir ownPlace; // a running program is no second copy of this one
+    qputenv("TMPDIR", ownPlace.path().toUtf8());
+    const Application application(argc, argv);
+    Form3Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "test_form3.moc"
