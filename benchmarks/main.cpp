@@ -57,8 +57,6 @@ constexpr std::array Figures{
            [](State &state) { return measureFilter(state, 1'000'000); }},
     Figure{"Cut and reload of 3 digits straight, 1,000,000 lines", 50, "ms", 21,
            [](State &state) { return measureCut(state, 0); }},
-    Figure{"Cut and reload of run top, 1,000,000 lines", 50, "ms", 21,
-           [](State &state) { return measureCut(state, 4); }},
     Figure{"Start to first paint : bare window and Ledger, offscreen", 1.5, "times", 31,
            [](State &state) { return measureStart(state, "offscreen"); }},
     Figure{"Start to first paint : bare window and Ledger, X11", 1.5, "times", 31,
