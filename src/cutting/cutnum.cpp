@@ -19,6 +19,7 @@ CutNum::CutNum(std::function<void()> unload, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->fpSpread1->setSpreadModel(&m_cutOut.grid);
     m_ui->fpSpread1->hideColumns({CutColumn::Buyer, CutColumn::User});
+    m_ui->fpSpread1->setRowPoints(19);
     m_ui->fpSpread1->setColumnDigits(CutColumn::Place, 7);
     m_ui->fpSpread1->setColumnDigits(CutColumn::Label, 9);
     m_ui->fpSpread1->setColumnDigits(CutColumn::Number, 14);

@@ -8,6 +8,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 
+#include <algorithm>
 #include <utility>
 
 Spread::Spread(QWidget *parent) : QTableView(parent)
