@@ -33,10 +33,11 @@ Numcut::~Numcut() = default;
 void Numcut::Form_Load()
 {
     placeDialog(*this);
-    m_ui->pb1->show();
     m_cutBoard.SetupSpread();
     m_cutBoard.LoadNumcutup(*m_ui->pb1);
     m_cutBoard.LoadNumcutdown(*m_ui->pb1);
+    m_ui->pb1->hide(); // full as it is
+    m_ui->fpSpread1->setFocus();
 }
 
 /// Finds a number in both lists. A hit is marked, a miss is silent.
