@@ -4,8 +4,37 @@
 
 #include "customers/form2.h"
 #include "cutting/form3.h"
+#include "cutting/numcut.h"
 #include "entry/form1.h"
+#include "reports/viewers.h"
 #include "settings/setting.h"
+
+namespace {
+
+BoardsOnScreen onScreen(Form3 &board, const CustomerStrip &strip)
+{
+    BoardsOnScreen shown{{}, [&board](int tab) { return board.selectTab(tab); }};
+    for (const SpreadModel &grid : board.board().grids)
+        shown.boards += &grid;
+    shown.customer = strip.Tname.text();
+    shown.discount = strip.text3.text();
+    return shown;
+}
+
+BoardOpeners boardOpeners(const CustomerStrip &strip)
+{
+    BoardOpeners openers;
+    openers.printBoard = [&strip](Form3 &board) {
+        showStatement(onScreen(board, strip), board.window());
+    };
+    openers.printCuts = [](Numcut &dialog) {
+        const auto &grids = dialog.cutBoard().grids;
+        showCutNumbers(grids[0], grids[1], &dialog);
+    };
+    return openers;
+}
+
+} // namespace
 
 Pages programPages()
 {
@@ -17,7 +46,7 @@ Pages programPages()
         return new Form2(frame.progress, parent);
     };
     pages.makers[2] = [](const Frame &frame, QWidget *parent) {
-        return new Form3(frame, {}, parent);
+        return new Form3(frame, boardOpeners(frame.strip), parent);
     };
     pages.showSettings = [](QWidget *parent) {
         Setting(parent).exec();

@@ -253,6 +253,12 @@ void Form3::SSTab1_Click()
     showSide(*m_ui->SSTab1, m_spreads);
 }
 
+QString Form3::selectTab(int tab)
+{
+    m_ui->SSTab1->setTab(tab);
+    return m_ui->SSTab1->tabText(tab);
+}
+
 /// Finds a number in all boards of its length, on both tabs. A hit is marked, a miss is silent.
 void Form3::lvButtons_H3_Click()
 {

@@ -37,6 +37,9 @@ public:
     /// The eight boards as they were loaded last.
     const Board &board() const { return m_board; }
 
+    /// Shows a tab, 1 top or 0 bottom; gives its caption.
+    QString selectTab(int tab);
+
     /// Reloads all boards with the whole book and ends on the top tab. Touches no control of the
     /// filter.
     void FReLoad();
