@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "entry/vocabulary.h"
 
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
 BetKind kindOfCaption(const QString &caption)
 {
     for (const KindEntry &entry : KindEntries) {
@@ -21,4 +25,26 @@ QString rearranged(const QString &number, const char *order)
     for (const char *place = order; *place != '\0'; ++place)
         other += number[*place - '0'];
     return other;
+}
+
+QString oneWordLabel(int numType)
+{
+    switch (numType) {
+    case Straight:
+        return u"ตรง"_s;
+    case Tod:
+        return u"โต๊ด"_s;
+    case Run:
+        return u"วิ่ง"_s;
+    default:
+        return {};
+    }
+}
+
+QString twoPartLabel(int numType, bool updown)
+{
+    const bool known = std::any_of(BetClasses.begin(), BetClasses.end(), [&](const BetClass &each) {
+        return each.numType == numType && each.updown == updown;
+    });
+    return known ? oneWordLabel(numType) + (updown ? u"-บน"_s : u"-ล่าง"_s) : QString();
 }

@@ -91,6 +91,13 @@ BetKind kindOfCaption(const QString &caption);
 /// The digits of a number in another order, given as places in it: "120" turns "abc" to "bca".
 QString rearranged(const QString &number, const char *order);
 
+/// What a class is called in a narrow column of a list of both sides, "ตรง-บน"; "" for a
+/// combination that is no class. It does not tell the digits: the number beside it does.
+QString twoPartLabel(int numType, bool updown);
+
+/// The same where top and bottom stand in lists of their own, "ตรง".
+QString oneWordLabel(int numType);
+
 /// True for the kinds that also bet on the other orders of the digits; their lines carry two
 /// amounts.
 bool isTurnKind(BetKind kind);
