@@ -3,8 +3,21 @@
 #include "program.h"
 
 #include "customers/form2.h"
+#include "drawcheck/form4.h"
 #include "entry/form1.h"
+#include "history/form5.h"
+#include "ledger/ledger.h"
 #include "settings/setting.h"
+
+namespace {
+
+/// What the board of the whole book would say before a draw is closed.
+bool bookHasLines()
+{
+    return !LedgerConnection->run(QStringLiteral("SELECT 1 FROM tblNumber LIMIT 1")).rows.isEmpty();
+}
+
+} // namespace
 
 Pages programPages()
 {
@@ -15,7 +28,13 @@ Pages programPages()
     pages.makers[1] = [](const Frame &frame, QWidget *parent) {
         return new Form2(frame.progress, parent);
     };
-    pages.showSettings = [](QWidget *parent) { Setting(parent).exec(); };
+    pages.makers[3] = [](const Frame &frame, QWidget *parent) {
+        return new Form4(frame.progress, {}, parent); // no report to print yet
+    };
+    pages.makers[4] = [](const Frame &frame, QWidget *parent) {
+        return new Form5(frame.progress, parent);
+    };
+    pages.showSettings = [](QWidget *parent) { Setting(parent, bookHasLines).exec(); };
     return pages;
 }
 
