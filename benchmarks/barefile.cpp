@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "barefile.h"
 
+#include "ledger/collation.h"
 #include "ledger/connection.h"
 
 #include <QElapsedTimer>
@@ -25,6 +26,23 @@ void check(sqlite3 *file, int code)
         qFatal("the engine failed: %s", sqlite3_errmsg(file));
 }
 
+/// The order of names, as the program has the engine know it.
+int compareNames(void *, int leftSize, const void *left, int rightSize, const void *right)
+{
+    return compareThai(QString::fromUtf8(static_cast<const char *>(left), leftSize),
+                       QString::fromUtf8(static_cast<const char *>(right), rightSize));
+}
+
+sqlite3 *openBare(const QByteArray &path)
+{
+    sqlite3 *file = nullptr;
+    check(file, sqlite3_open_v2(path.constData(), &file, SQLITE_OPEN_READWRITE, nullptr));
+    check(file, sqlite3_key(file, LedgerPassword, int(qstrlen(LedgerPassword))));
+    check(file, sqlite3_exec(file, Settings, nullptr, nullptr, nullptr));
+    check(file, sqlite3_create_collation(file, ThaiCollation, SQLITE_UTF8, nullptr, compareNames));
+    return file;
+}
+
 void insertLines(sqlite3 *file, sqlite3_stmt *insert, const std::vector<BetLine> &lines)
 {
     int key = 0;
@@ -44,11 +62,8 @@ void insertLines(sqlite3 *file, sqlite3_stmt *insert, const std::vector<BetLine>
 
 double insertBare(const QByteArray &path, const std::vector<BetLine> &lines, Durable durable)
 {
-    sqlite3 *file = nullptr;
+    sqlite3 *file = openBare(path);
     sqlite3_stmt *insert = nullptr;
-    check(file, sqlite3_open_v2(path.constData(), &file, SQLITE_OPEN_READWRITE, nullptr));
-    check(file, sqlite3_key(file, LedgerPassword, int(qstrlen(LedgerPassword))));
-    check(file, sqlite3_exec(file, Settings, nullptr, nullptr, nullptr));
     check(file, sqlite3_prepare_v2(file, Insert, -1, &insert, nullptr));
     QElapsedTimer clock;
     clock.start();
@@ -60,6 +75,27 @@ double insertBare(const QByteArray &path, const std::vector<BetLine> &lines, Dur
         check(file, sqlite3_exec(file, "COMMIT", nullptr, nullptr, nullptr));
     const double seconds = double(clock.nsecsElapsed()) / 1e9;
     sqlite3_finalize(insert);
+    check(file, sqlite3_close(file));
+    return seconds;
+}
+
+double readBare(const QByteArray &path, const QString &sql, const QVariantList &values)
+{
+    sqlite3 *file = openBare(path);
+    sqlite3_stmt *read = nullptr;
+    check(file, sqlite3_prepare_v2(file, sql.toUtf8().constData(), -1, &read, nullptr));
+    for (int at = 0; at < values.size(); ++at) {
+        const QByteArray text = values[at].toString().toUtf8();
+        sqlite3_bind_text(read, at + 1, text.constData(), int(text.size()), SQLITE_TRANSIENT);
+    }
+    QElapsedTimer clock;
+    clock.start();
+    while (sqlite3_step(read) == SQLITE_ROW) {
+        for (int column = 0; column < sqlite3_column_count(read); ++column)
+            sqlite3_column_text(read, column);
+    }
+    const double seconds = double(clock.nsecsElapsed()) / 1e9;
+    check(file, sqlite3_finalize(read)); // gives the outcome of the steps
     check(file, sqlite3_close(file));
     return seconds;
 }

@@ -6,6 +6,7 @@
 #include "entry/vocabulary.h"
 
 #include <QByteArray>
+#include <QVariant>
 
 #include <vector>
 
@@ -22,3 +23,7 @@ enum class Durable { EachLine, AllAtOnce };
 /// Opens a closed Ledger with the settings that the program gives it and inserts the lines into
 /// the empty tblNumber. Gives the seconds that the inserting took.
 double insertBare(const QByteArray &path, const std::vector<BetLine> &lines, Durable durable);
+
+/// Runs a reading statement, whose values are texts, on a closed Ledger with the settings that the
+/// program gives it. Gives the seconds until its last row was read.
+double readBare(const QByteArray &path, const QString &sql, const QVariantList &values);
