@@ -7,6 +7,7 @@
 #include "entry/form1.h"
 #include "history/form5.h"
 #include "ledger/ledger.h"
+#include "reports/viewers.h"
 #include "settings/setting.h"
 
 namespace {
@@ -15,6 +16,11 @@ namespace {
 bool bookHasLines()
 {
     return !LedgerConnection->run(QStringLiteral("SELECT 1 FROM tblNumber LIMIT 1")).rows.isEmpty();
+}
+
+void printWinners(const DrawCheck &check, QWidget *opener)
+{
+    showWinners({check.winners, check.Label19, check.book == Book::CutOut}, opener);
 }
 
 } // namespace
@@ -29,7 +35,7 @@ Pages programPages()
         return new Form2(frame.progress, parent);
     };
     pages.makers[3] = [](const Frame &frame, QWidget *parent) {
-        return new Form4(frame.progress, {}, parent); // no report to print yet
+        return new Form4(frame.progress, printWinners, parent);
     };
     pages.makers[4] = [](const Frame &frame, QWidget *parent) {
         return new Form5(frame.progress, parent);

@@ -138,8 +138,10 @@ void Form4::lvButtons_H1_Click()
 /// "&ปริ้นข้อมูล": the winners on paper.
 void Form4::lvButtons_H5_Click()
 {
-    if (m_check.winners.rows() == 0)
+    if (m_check.winners.rows() == 0) {
         refuse(u"ไม่สามารถส่งออกได้ ( ไม่มีข้อมูลในตาราง ) โปรดลองใหม่อีกครั้ง . .  ."_s);
-    else
-        m_printer(m_check, this);
+        return;
+    }
+    m_printer(m_check, this);
+    activateWindow(); // a desktop without a window manager leaves it without keys
 }

@@ -54,6 +54,7 @@ private:
     void save();
 
     void runCheck(const QString &scene);
+    void printWinners();
     void checkCutBook(const Draw &draw);
     QString amounts() const;
     QStringList cells(int columns) const;
