@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "barefile.h"
 
+#include "ledger/collation.h"
 #include "ledger/connection.h"
 
 #include <QElapsedTimer>
@@ -40,12 +41,20 @@ void insertLines(sqlite3 *file, sqlite3_stmt *insert, const std::vector<BetLine>
     }
 }
 
+/// The order of names, as the program has the engine know it.
+int compareNames(void *, int leftSize, const void *left, int rightSize, const void *right)
+{
+    return compareThai(QString::fromUtf8(static_cast<const char *>(left), leftSize),
+                       QString::fromUtf8(static_cast<const char *>(right), rightSize));
+}
+
 sqlite3 *openBare(const QByteArray &path)
 {
     sqlite3 *file = nullptr;
     check(file, sqlite3_open_v2(path.constData(), &file, SQLITE_OPEN_READWRITE, nullptr));
     check(file, sqlite3_key(file, LedgerPassword, int(qstrlen(LedgerPassword))));
     check(file, sqlite3_exec(file, Settings, nullptr, nullptr, nullptr));
+    check(file, sqlite3_create_collation(file, ThaiCollation, SQLITE_UTF8, nullptr, compareNames));
     return file;
 }
 

@@ -78,3 +78,11 @@ Measured measureSheet(benchmark::State &state);
 
 /// Kilobytes of the statement of a full book as a PDF file.
 Measured measureDocument(benchmark::State &state);
+
+/// A draw check at 1,000,000 lines, from the sum of the book to the row that keeps the result, as a
+/// multiple of the two statements that it reads with, the sum and the search, run through the bare
+/// C interface.
+Measured measureWinnerSearch(benchmark::State &state);
+
+/// Milliseconds from the press of the button to 5,000 winning rows on the screen.
+Measured measureWinnersShown(benchmark::State &state);

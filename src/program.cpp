@@ -5,9 +5,13 @@
 #include "customers/form2.h"
 #include "cutting/form3.h"
 #include "cutting/numcut.h"
+#include "drawcheck/form4.h"
 #include "entry/form1.h"
+#include "history/form5.h"
 #include "reports/viewers.h"
 #include "settings/setting.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -34,6 +38,28 @@ BoardOpeners boardOpeners(const CustomerStrip &strip)
     return openers;
 }
 
+void printWinners(const DrawCheck &check, QWidget *opener)
+{
+    showWinners({check.winners, check.Label19, check.book == Book::CutOut}, opener);
+}
+
+/// The settings. What the board shows decides whether a draw can be closed; where the board is not
+/// the open page it is loaded, unseen, and goes with the settings.
+void showSettings(const Frame &frame, QWidget *window)
+{
+    const auto *open = window->findChild<Form3 *>();
+    std::unique_ptr<Form3> unseen;
+    const auto boardShowsRows = [&] {
+        if (!open && !unseen)
+            unseen = std::make_unique<Form3>(frame, BoardOpeners{}, nullptr);
+        const auto &grids = (open ? open : unseen.get())->board().grids;
+        return std::any_of(grids.begin(), grids.end(),
+                           [](const SpreadModel &grid) { return grid.rows() > 0; });
+    };
+    Setting(window, boardShowsRows).exec();
+    reloadCurrentBoard(*window);
+}
+
 } // namespace
 
 Pages programPages()
@@ -48,10 +74,13 @@ Pages programPages()
     pages.makers[2] = [](const Frame &frame, QWidget *parent) {
         return new Form3(frame, boardOpeners(frame.strip), parent);
     };
-    pages.showSettings = [](QWidget *parent) {
-        Setting(parent).exec();
-        reloadCurrentBoard(*parent);
+    pages.makers[3] = [](const Frame &frame, QWidget *parent) {
+        return new Form4(frame.progress, printWinners, parent);
     };
+    pages.makers[4] = [](const Frame &frame, QWidget *parent) {
+        return new Form5(frame.progress, parent);
+    };
+    pages.showSettings = showSettings;
     return pages;
 }
 

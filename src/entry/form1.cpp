@@ -12,6 +12,7 @@
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
 #include "ledger/ledger.h"
+#include "platform/ground.h"
 #include "platform/keycodes.h"
 #include "platform/msgbox.h"
 #include "runtime/runtimeerror.h"
@@ -33,15 +34,6 @@ QString noCustomer()
     return u"ยังไม่เลือกลูกค้า"_s;
 }
 
-/// A fixed background comes with a dark text, whatever the desktop's colours are.
-void paintField(QWidget *field, QRgb background)
-{
-    QPalette colors = field->palette();
-    colors.setColor(QPalette::Base, QColor(background));
-    colors.setColor(QPalette::Text, Qt::black);
-    field->setPalette(colors);
-}
-
 } // namespace
 
 Form1::Form1(ProgressBar &progress, QWidget *parent)
@@ -58,7 +50,7 @@ Form1::Form1(ProgressBar &progress, QWidget *parent)
     m_ui->SSTab1->addTab(QString());
     for (const KindEntry &kind : KindEntries)
         m_ui->Combo2->addItem(QString::fromUtf16(kind.entry));
-    paintField(m_ui->Combo1, KeyingColor);
+    paintGround(m_ui->Combo1, KeyingColor);
     setFocusProxy(m_ui->Tnumber);
     connectControls();
     Form_Load();
@@ -163,14 +155,14 @@ void Form1::controlLostFocus(QWidget *control)
 void Form1::Tnumber_GotFocus()
 {
     TnumberAway = false;
-    paintField(m_ui->Tnumber, KeyingColor);
+    paintGround(m_ui->Tnumber, KeyingColor);
     m_ui->Tnumber->clear();
 }
 
 void Form1::Tnumber_LostFocus()
 {
     TnumberAway = true;
-    paintField(m_ui->Tnumber, AwayColor);
+    paintGround(m_ui->Tnumber, AwayColor);
     m_ui->Tnumber->setText(u"คลิกเพื่อใส่เลขใหม่"_s);
 }
 

@@ -13,10 +13,12 @@
 
 using namespace Qt::StringLiterals;
 
-Setting::Setting(QWidget *parent)
-    : QDialog(parent), m_ui(std::make_unique<Ui::Setting>()), m_focus(this)
+Setting::Setting(QWidget *parent, BoardShowsRows boardShowsRows)
+    : QDialog(parent), m_ui(std::make_unique<Ui::Setting>()), m_focus(this),
+      m_boardShowsRows(std::move(boardShowsRows))
 {
     m_ui->setupUi(this);
+    m_ui->lvButtons_H0->setEnabled(bool(m_boardShowsRows));
     m_ui->fpSpread1->setSpreadModel(&m_hotNumbers);
     m_ui->fpSpread1->setColumnDigits(HotPlaceColumn, 8);
     m_ui->fpSpread1->setColumnDigits(HotNumberColumn, 19);
@@ -33,6 +35,8 @@ Setting::~Setting() = default;
 void Setting::connectControls()
 {
     new FieldGuard(this, &m_focus);
+    connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Setting::lvButtons_H0_Click);
+    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Setting::lvButtons_H1_Click);
     connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Setting::lvButtons_H2_Click);
     connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Setting::lvButtons_H3_Click);
     connect(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Setting::lvButtons_H4_Click);
@@ -63,6 +67,18 @@ void Setting::refuseAt(QLineEdit *field, const QString &words)
 {
     refuse(words);
     field->setFocus();
+}
+
+/// " ลบข้อมูลงวดนี้": closes the draw and ends the program.
+void Setting::lvButtons_H0_Click()
+{
+    closeDraw(m_boardShowsRows);
+}
+
+/// " ลบข้อมูลทั้งหมด": wipes the Ledger and ends the program.
+void Setting::lvButtons_H1_Click()
+{
+    wipeLedger();
 }
 
 /// "บันทึกอัตราจ่าย": stores the rates, which count from then on.

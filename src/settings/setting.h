@@ -4,6 +4,7 @@
 
 #include "platform/focustracker.h"
 #include "platform/spreadmodel.h"
+#include "settings/closing.h"
 
 #include <QDialog>
 
@@ -20,7 +21,8 @@ class Setting : public QDialog
     Q_OBJECT
 
 public:
-    explicit Setting(QWidget *parent);
+    /// @p boardShowsRows is asked before a draw is closed; without it none can be.
+    explicit Setting(QWidget *parent, BoardShowsRows boardShowsRows = {});
     ~Setting() override;
 
 private:
@@ -29,6 +31,8 @@ private:
     void LoadNumberFix();
     void LoadMoney();
 
+    void lvButtons_H0_Click();
+    void lvButtons_H1_Click();
     void lvButtons_H2_Click();
     void lvButtons_H3_Click();
     void lvButtons_H4_Click();
@@ -38,4 +42,5 @@ private:
     std::unique_ptr<Ui::Setting> m_ui;
     FocusTracker m_focus;
     SpreadModel m_hotNumbers;
+    BoardShowsRows m_boardShowsRows;
 };

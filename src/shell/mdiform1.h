@@ -35,7 +35,7 @@ inline constexpr int PageCount = 5;
 struct Pages
 {
     std::array<PageMaker, PageCount> makers;
-    std::function<void(QWidget *parent)> showSettings;
+    std::function<void(const Frame &frame, QWidget *parent)> showSettings;
 };
 
 class MDIForm1 : public QMainWindow

@@ -39,6 +39,7 @@ private slots:
     void hotNumberIsRefused_data();
     void hotNumberIsRefused();
     void keyBeyond16BitsOverflows();
+    void endingsAskTheirBoardAndTheirUser();
 
 private:
     template<typename Control>
@@ -203,6 +204,19 @@ void SettingsTest::keyBeyond16BitsOverflows()
 {
     m_ledger->run(u"INSERT INTO tblNumberFix (PK) VALUES (32767)"_s);
     QCOMPARE(errorOf([] { addHotNumber(u"12"_s); }), u"Run-time error '6': Overflow"_s);
+}
+
+void SettingsTest::endingsAskTheirBoardAndTheirUser()
+{
+    QVERIFY(!control<PushButton>("lvButtons_H0")->isEnabled()); // no board to ask
+    m_dialog.emplace(nullptr, [] { return false; });
+    m_dialog->show();
+    QVERIFY(QTest::qWaitForWindowActive(&*m_dialog));
+    click("lvButtons_H0");
+    click("lvButtons_H1"); // Enter answers Cancel
+    QCOMPARE(m_hands->takeBoxes(),
+             QStringList({u"ไม่สามารถลบข้อมูลได้ ( ไม่มีข้อมูลเลข ) อยู่ในฐานข้อมูล . . . . ."_s,
+                          u"คุณแน่ใจว่าต้องการลบข้อมูล ( ทั้งหมด ) ออกจาก ฐานข้อมูล แน่ใจ?"_s}));
 }
 
 int main(int argc, char **argv)

@@ -35,7 +35,14 @@ Draw Draw::read(const QString &path)
             draw.boards.last().heavy += part.mid(2).join(u'\t');
         else if (what == u"book"_s)
             draw.book = part.mid(1).join(u'\t');
-        else if (what == u"total"_s) {
+        else if (what == u"result"_s)
+            draw.result = part.value(1);
+        else if (what == u"win"_s)
+            draw.winners += part.mid(1).join(u'\t');
+        else if (what == u"settle"_s) {
+            draw.payout = part.value(1);
+            draw.profit = part.value(2);
+        } else if (what == u"total"_s) {
             draw.tickets.last().total = part.value(1);
             draw.tickets.last().discount = part.value(2);
         }

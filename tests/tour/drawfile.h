@@ -43,10 +43,14 @@ struct DrawBoard
 struct Draw
 {
     QList<DrawMember> members;
-    QStringList hotNumbers;
+    QStringList hotNumbers; ///< in the order entered
     QList<DrawTicket> tickets;
     QList<DrawBoard> boards; ///< after all tickets
-    QString book; ///< "lines money discounts" of the Ledger after all tickets, parted by tabs
+    QString book;   ///< "lines money discounts" of the Ledger after all tickets, parted by tabs
+    QString result; ///< seventeen digits
+    QStringList winners; ///< cells of every winning row, parted by tabs
+    QString payout;      ///< to all winners, as shown
+    QString profit;      ///< as shown
 
     /// Reads a draw; ends the program with a message when the file cannot be read.
     static Draw read(const QString &path);

@@ -7,6 +7,7 @@
 #include "platform/programfolder.h"
 #include "program.h"
 #include "support/testledger.h"
+#include "tour/ending.h"
 #include "tour/player.h"
 
 #include <QCommandLineParser>
@@ -29,6 +30,14 @@ void layFolder(const QString &folder)
     setProgramFolder(folder);
 }
 
+std::unique_ptr<MDIForm1> startedProgram()
+{
+    auto window = startProgram();
+    if (!window || !QTest::qWaitForWindowActive(window.get()))
+        qFatal("the program did not come up");
+    return window;
+}
+
 /// Plays one draw from an empty Ledger; true if all came out as the file states.
 bool playDraw(const QString &path, const QString &pictures)
 {
@@ -39,24 +48,31 @@ bool playDraw(const QString &path, const QString &pictures)
 
     QElapsedTimer clock;
     clock.start();
-    const auto window = startProgram();
-    if (!window || !QTest::qWaitForWindowActive(window.get()))
-        qFatal("the program did not come up");
+    auto window = startedProgram();
     // The first draw is keyed by mouse and list, the others by kind keys and with the voice on.
     const bool byKey = QFileInfo(path).baseName() != u"draw0"_s;
-    Player player(*window, pictures, QFileInfo(path).baseName(),
-                  byKey ? Player::Kinds::ByKey : Player::Kinds::FromTheList);
+    const auto kinds = byKey ? Player::Kinds::ByKey : Player::Kinds::FromTheList;
+    const QString name = QFileInfo(path).baseName();
+    Player player(*window, pictures, name, kinds);
     player.play(draw);
+    player.checkDraw(draw);
+    player.cutNumbers();
+    window.reset();
+    CloseLedger();
+    player.compareClosing(closeDraw(pictures, name));
+    window = startedProgram();
+    Player onTheNextDay(*window, pictures, name, kinds);
+    onTheNextDay.checkHistory(draw);
     CloseLedger();
     setProgramFolder(realFolder);
+    const QStringList differences = player.differences() + onTheNextDay.differences();
 
     std::printf("%s: %d tickets, %d lines keyed in %.1f s, %d differences\n",
                 qPrintable(QFileInfo(path).fileName()), int(draw.tickets.size()),
-                player.linesKeyed(), double(clock.elapsed()) / 1000,
-                int(player.differences().size()));
-    for (const QString &difference : player.differences())
+                player.linesKeyed(), double(clock.elapsed()) / 1000, int(differences.size()));
+    for (const QString &difference : differences)
         std::printf("%s\n", qUtf8Printable(difference));
-    return player.differences().isEmpty();
+    return differences.isEmpty();
 }
 
 } // namespace
@@ -71,6 +87,9 @@ int main(int argc, char **argv)
     options.addHelpOption();
     options.addOption(
         {u"pictures"_s, u"Save a picture of each screen below <folder>."_s, u"folder"_s});
+    options.addOption({u"close"_s,
+                       u"Close the draw in <folder> and end, as the tour has it done."_s,
+                       u"folder"_s});
     options.addPositionalArgument(u"draws"_s, u"Draw files to play; all if none is named."_s);
     options.process(application);
 
@@ -78,6 +97,8 @@ int main(int argc, char **argv)
     if (!pictures.isEmpty() && !QDir().mkpath(pictures))
         qFatal("cannot make the folder for the pictures");
     QStringList draws = options.positionalArguments();
+    if (options.isSet(u"close"_s))
+        return closeDrawHere(options.value(u"close"_s), pictures, draws.value(0));
     if (draws.isEmpty())
         draws = {QStringLiteral(TOUR_DRAWS "/draw0.txt"), QStringLiteral(TOUR_DRAWS "/draw1.txt")};
 

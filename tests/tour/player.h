@@ -4,6 +4,7 @@
 
 #include "support/hands.h"
 #include "tour/drawfile.h"
+#include "tour/ending.h"
 
 #include "shell/mdiform1.h"
 
@@ -21,6 +22,20 @@ public:
 
     /// Registers the customers and hot numbers of @p draw, keys its tickets and saves them.
     void play(const Draw &draw);
+
+    /// Keys the result on the page of the draw check, holds every winner and both amounts against
+    /// the draw file, and checks the lines cut out. Leaves the check of the own book as the last.
+    void checkDraw(const Draw &draw);
+
+    /// Cuts the heaviest number on the board and shows the cut numbers. The figures of the draw file
+    /// are those of the whole book, so this comes behind the check.
+    void cutNumbers();
+
+    /// Opens the history, which must list @p draw alone, as closed today.
+    void checkHistory(const Draw &draw);
+
+    /// Holds what a closing came to against what it has to.
+    void compareClosing(const Ending &ending);
 
     /// What came out otherwise than the draw file says.
     const QStringList &differences() const { return m_differences; }
@@ -51,6 +66,11 @@ private:
     void confirmCut(QWidget *dialog, const QString &amount, const QStringList &boxes);
     void showCutNumbers();
     static QString money(const QString &statement);
+    void runCheck(const QString &scene);
+    void printWinners();
+    void checkCutBook(const Draw &draw);
+    QString amounts() const;
+    QStringList cells(int columns) const;
 
     QStringList shownRows() const;
     void checkBook(const QString &expected);

@@ -39,6 +39,11 @@ void Player::visitBoard(const Draw &draw)
     control<TabStrip>("SSTab1")->setCurrentIndex(0);
     takePicture(u"board-bottom"_s);
     filterCustomer(draw.tickets.first());
+}
+
+void Player::cutNumbers()
+{
+    Hands::click(navigation(2));
     cutHeaviest();
     showCutNumbers();
 }

@@ -1,0 +1,154 @@
+// SPDX-License-Identifier: MIT
+// What a draw check costs: against the statements that it runs, and until thousands of winners
+// are on the screen.
+#include "barefile.h"
+#include "figure.h"
+#include "paintwatch.h"
+#include "workfolder.h"
+
+#include "drawcheck/form4.h"
+#include "platform/spread.h"
+#include "platform/workprogress.h"
+#include "program.h"
+#include "shell/globals.h"
+
+#include <QAbstractButton>
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QTest>
+
+#include <random>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int CustomerCount = 300;
+constexpr int LineCount = 1'000'000;
+constexpr int HotCount = 50;
+constexpr int WinnerCount = 5000;
+const QString Result = u"12345678901234567"_s;
+
+ResultDigits resultDigits()
+{
+    ResultDigits digits;
+    for (int at = 0; at < DigitCount; ++at)
+        digits[size_t(at)] = Result.mid(at, 1);
+    return digits;
+}
+
+/// Any number of any class for any customer: some 5,000 winning rows in a million lines.
+std::vector<BetLine> mixedLines()
+{
+    std::mt19937 dice(20261122);
+    std::vector<BetLine> lines;
+    lines.reserve(LineCount);
+    for (size_t at = 0; at < LineCount; ++at) {
+        const BetClass &betClass = BetClasses[at % ClassCount];
+        lines.push_back({&betClass, 1 + int(dice() % CustomerCount),
+                         QByteArray::number(1000 + uint(dice() % 1000)).right(betClass.num23)});
+    }
+    return lines;
+}
+
+void addCustomers(const TestLedger &ledger, int count)
+{
+    ledger.run(u"WITH RECURSIVE n(k) AS (SELECT 1 UNION ALL SELECT k + 1 FROM n WHERE k < ?)"
+               " INSERT INTO tblMember SELECT k, 'สม' || (k * 7919 % 1000) || 'ใจดี', 8 || k, 10"
+               " FROM n"_s,
+               {count});
+}
+
+/// A closed Ledger of a million lines and fifty hot numbers.
+class BigBook : public TestLedger
+{
+public:
+    BigBook()
+    {
+        addCustomers(*this, CustomerCount);
+        for (int hot = 0; hot < HotCount; ++hot)
+            run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s,
+                {QString::number(100 + hot * 17)});
+        CloseLedger();
+        insertBare(path().toUtf8(), mixedLines(), Durable::AllAtOnce);
+    }
+};
+
+/// Seconds of a whole check, from an opened Ledger to the row that keeps the result.
+double checkDraw(int &winners)
+{
+    ConnectLedger();
+    LoadMoney();
+    DrawCheck check;
+    WorkProgress bar;
+    check.readDiscounts();
+    QElapsedTimer clock;
+    clock.start();
+    check.LoadnumberT(resultDigits(), bar);
+    const double taken = double(clock.nsecsElapsed()) / 1e9;
+    winners = check.winners.rows();
+    CloseLedger();
+    return taken;
+}
+
+} // namespace
+
+Measured measureWinnerSearch(benchmark::State &state)
+{
+    const BigBook book;
+    const BoundStatement search = winnerSearch(Book::Ours, resultDigits());
+    const BareStatements statements{{"SELECT sum(numBuy) FROM tblNumber", {}},
+                                    {search.sql.toUtf8(), search.values}};
+    const QByteArray path = book.path().toUtf8();
+    Samples ours;
+    Samples bare;
+    int winners = 0;
+    for ([[maybe_unused]] auto round : state) {
+        ours.push_back(checkDraw(winners) * 1000);
+        bare.push_back(selectBare(path, {}, statements, 1).front() * 1000);
+        state.SetIterationTime(ours.back() / 1000);
+    }
+    Measured measured = ratio(ours, bare, "ms");
+    measured.detail += QString::asprintf(", %d rows", winners);
+    return measured;
+}
+
+Measured measureWinnersShown(benchmark::State &state)
+{
+    const WorkFolder folder;
+    ConnectLedger();
+    addCustomers(folder, WinnerCount / 10);
+    folder.run(u"WITH RECURSIVE n(k) AS (SELECT 0 UNION ALL SELECT k + 1 FROM n WHERE k < ? - 1)"
+               " INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy)"
+               " SELECT 1 + k / 10, w.num23, w.updown, w.numType, w.numValue, 20 FROM n JOIN"
+               " (SELECT 0 AS i, 3 AS num23, -1 AS updown, 1 AS numType, '123' AS numValue"
+               "  UNION VALUES (1, 3, -1, 2, '321'), (2, 2, -1, 1, '23'), (3, 2, -1, 2, '21'),"
+               "  (4, 1, -1, 3, '1'), (5, 1, -1, 3, '2'), (6, 3, 0, 1, '456'), (7, 2, 0, 1, '67'),"
+               "  (8, 1, 0, 3, '6'), (9, 1, 0, 3, '7')) AS w ON w.i = k % 10"_s,
+               {WinnerCount});
+    CloseLedger();
+    const auto window = startProgram();
+    if (!window || !QTest::qWaitForWindowActive(window.get()))
+        qFatal("the program did not come up");
+    window->openPage(3);
+    auto *grid = window->findChild<Spread *>(u"fpSpread1"_s);
+    auto *button = window->findChild<QAbstractButton *>(u"Command18"_s);
+    QTest::keyClicks(window->findChild<QLineEdit *>(u"text4"_s), Result.first(1));
+    for (const QChar digit : Result.mid(1))
+        QTest::keyClicks(QApplication::focusWidget(), digit);
+    Samples samples;
+    for ([[maybe_unused]] auto round : state) {
+        QApplication::processEvents();
+        const PaintWatch watch(grid->viewport());
+        QElapsedTimer clock;
+        clock.start();
+        button->click();
+        watch.wait();
+        samples.push_back(double(clock.nsecsElapsed()) / 1e6);
+        state.SetIterationTime(samples.back() / 1000);
+        if (grid->rows() != WinnerCount)
+            qFatal("the check found %d winners", grid->rows());
+    }
+    CloseLedger();
+    return {quantile(samples, 0.5), QString::asprintf("slowest %.0f", quantile(samples, 1))};
+}

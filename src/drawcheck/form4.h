@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+// The page "ตรวจหวย": the official result goes in digit by digit, out come the winners, what they
+// are paid and what is left.
+#pragma once
+
+#include "drawcheck/settlement.h"
+#include "platform/focustracker.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+
+class QLineEdit;
+
+namespace Ui {
+class Form4;
+}
+
+class Form4 : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// Shows a check on paper, in a window over @p opener.
+    using Printer = std::function<void(const DrawCheck &check, QWidget *opener)>;
+
+    /// @p progress covers the wait of a check; it must outlive the page. Without a printer the
+    /// button that prints is disabled.
+    Form4(ProgressBar &progress, Printer printer, QWidget *parent);
+    ~Form4() override;
+
+protected:
+    /// Selects the digit of a box that was clicked, so that keying replaces it.
+    bool eventFilter(QObject *object, QEvent *event) override;
+
+private:
+    void connectControls();
+    void Form_Load();
+
+    void Command18_Click();
+    void Option_Click(Book book);
+    void lvButtons_H1_Click();
+    void lvButtons_H5_Click();
+
+    ResultDigits keyedDigits() const;
+    void showAmounts();
+
+    std::unique_ptr<Ui::Form4> m_ui;
+    ProgressBar &m_progress;
+    Printer m_printer;
+    FocusTracker m_focus;
+    DrawCheck m_check;
+    std::array<QLineEdit *, DigitCount> m_boxes{}; ///< in reading order
+};

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "drawcheck/settlement.h"
+
+#include "ledger/ledger.h"
+#include "platform/clock.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/values.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An amount as shown, as the number that is stored; an empty one is 0.
+double storedAmount(const QString &shown)
+{
+    const QString text = trimBlanks(shown);
+    return CDbl(text.isEmpty() ? u"0"_s : text);
+}
+
+void writeTrue(const ResultDigits &digits, double profit, double payout)
+{
+    RecordsetA.openRow(u"tblTrue"_s, u"PK"_s, 1);
+    for (const Prize &prize : Prizes)
+        RecordsetA.set(QString::fromLatin1(prize.column), resultNumber(digits, prize.places));
+    RecordsetA.set(u"numdate"_s, currentDateTime().date().toString(Qt::ISODate));
+    RecordsetA.set(u"moneyup"_s, profit);
+    RecordsetA.set(u"moneydown"_s, payout);
+    RecordsetA.update();
+    RecordsetA.close();
+}
+
+} // namespace
+
+void DrawCheck::readDiscounts()
+{
+    iTotalB = 0;
+    resumeNext([] { RecordsetA.open(u" SELECT  sum(rMoney) as iTotalB  FROM tblRMoney "_s); });
+    resumeNext([this] {
+        const QVariant sum = RecordsetA.field(u"iTotalB"_s);
+        if (!sum.isNull())
+            iTotalB = CLng(numberOf(sum));
+    });
+    RecordsetA.close();
+}
+
+void DrawCheck::zeroAmounts()
+{
+    Label19 = u"0"_s;
+    Label21 = u"0"_s;
+}
+
+void DrawCheck::LoadnumberT(const ResultDigits &digits, ProgressBar &progress)
+{
+    SetupSpread();
+    if (book == Book::Ours)
+        showTakings();
+    const BoundStatement search = winnerSearch(book, digits);
+    RecordsetA.open(search.sql, search.values);
+    winners.setRows(RecordsetA.recordCount());
+    if (winners.rows() == 0) {
+        RecordsetA.close();
+        Savefalse(digits);
+        return;
+    }
+    progress.start(winners.rows());
+    listWinners(progress);
+    if (book == Book::Ours) {
+        Nubyod2();
+        showProfit();
+        SaveTrue(digits);
+    } else {
+        Label19 = u"เลขคัดออก"_s;
+        Label21 = u"เลขคัดออก"_s;
+    }
+    progress.finish();
+}
+
+/// What the book took in, the discounts taken off.
+void DrawCheck::showTakings()
+{
+    RecordsetA.open(u" SELECT  SUM(tblNumber.numBuy) as TotalMoneyA FROM tblNumber "_s);
+    const QVariant sum = RecordsetA.field(u"TotalMoneyA"_s);
+    RecordsetA.close();
+    const double taken = sum.isNull() ? 0 : numberOf(sum); // an empty book took nothing
+    Label21 = formatBaht(taken - iTotalB);
+}
+
+void DrawCheck::listWinners(ProgressBar &progress)
+{
+    // Hot numbers are read once: they cannot change while the check runs.
+    const Halvings halvings = book == Book::Ours ? Halvings::read() : Halvings();
+    for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
+        writeWinner(winners, row);
+        halvePayout(winners, row, halvings);
+        progress.step();
+    }
+    RecordsetA.close();
+}
+
+/// Totals the payouts as the grid shows them.
+void DrawCheck::Nubyod2()
+{
+    qint32 sum = 0;
+    for (int row = 1; row <= winners.rows(); ++row)
+        sum = CLng(CDbl(winners.text(row, WinPayoutColumn)) + sum);
+    Label19 = formatBaht(sum);
+}
+
+/// Reckons with the texts shown: an amount of 0 shows as "", which is no number.
+void DrawCheck::showProfit()
+{
+    Label21 = formatBaht(CDbl(Label21) + iTotalB - CDbl(Label19));
+}
+
+void DrawCheck::SaveTrue(const ResultDigits &digits) const
+{
+    writeTrue(digits, storedAmount(Label21), storedAmount(Label19));
+}
+
+void DrawCheck::Savefalse(const ResultDigits &digits) const
+{
+    writeTrue(digits, storedAmount(Label21), 0);
+}

@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: MIT
+#include "drawcheck/winners.h"
+
+#include "ledger/ledger.h"
+#include "runtime/values.h"
+#include "shell/globals.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Payout per baht by class, in the order of BetClasses.
+constexpr std::array<const qint16 *, ClassCount> ClassRates{
+    &Rate3up, &Rate3tod, &Rate2up, &Rate2tod, &Raterunup, &Rate3down, &Rate2down, &Raterundown};
+
+struct WinnerColumn
+{
+    const char16_t *header = u"";
+    Qt::Alignment alignment;
+};
+
+constexpr std::array WinnerColumns{
+    WinnerColumn{u"ประเภท", Qt::AlignCenter},   WinnerColumn{u"เลข", Qt::AlignCenter},
+    WinnerColumn{u"หัก %", Qt::AlignCenter},     WinnerColumn{u"ถูก", Qt::AlignRight},
+    WinnerColumn{u"ได้เงิน", Qt::AlignRight},     WinnerColumn{u"ชื่อลูกค้า", Qt::AlignCenter},
+    WinnerColumn{u"เบอร์ติดต่อ", Qt::AlignCenter},
+};
+
+/// The clause of one class: its lines that hold one of the winning numbers. A line is sought for
+/// the digits within it, so that one filed with a stray blank is paid all the same.
+QString classClause(const BetClass &betClass, qsizetype numbers)
+{
+    const QStringList tests(numbers, u"instr(numValue, ?) > 0"_s);
+    return u"num23 = %1 AND updown = %2 AND numType = %3 AND (%4)"_s.arg(
+        QString::number(betClass.num23), betClass.updown ? u"-1"_s : u"0"_s,
+        QString::number(betClass.numType), tests.join(u" OR "_s));
+}
+
+bool isTop()
+{
+    return numberOf(RecordsetA.field(u"updown"_s)) != 0;
+}
+
+int whole(const QString &column)
+{
+    return CInt(numberOf(RecordsetA.field(column)));
+}
+
+/// Payout per baht of the current row's class. All winning lines have a class: the search asks
+/// for no others.
+double rateOfCurrent()
+{
+    const bool top = isTop();
+    const int kind = whole(u"numType"_s);
+    const int length = whole(u"num23"_s);
+    const auto *found =
+        std::find_if(BetClasses.begin(), BetClasses.end(), [&](const BetClass &betClass) {
+            return betClass.updown == top && betClass.numType == kind && betClass.num23 == length;
+        });
+    return *ClassRates[size_t(found - BetClasses.begin())];
+}
+
+} // namespace
+
+BoundStatement winnerSearch(Book book, const ResultDigits &digits)
+{
+    QStringList clauses;
+    QVariantList values;
+    for (size_t at = 0; at < ClassCount; ++at) {
+        const QStringList numbers = winningNumbers(digits, at);
+        clauses += classClause(BetClasses[at], numbers.size());
+        for (const QString &number : numbers)
+            values += number;
+    }
+    // One pass over the table: a run wins on every tenth line, and to fetch so many lines one by
+    // one through an index takes longer. Customers join last, once a row and not once a line.
+    return {
+        u" SELECT Mpercen, Mber, Mname, win.* FROM"
+        " (SELECT NameFK, num23, updown, numType, numValue, sum(numBuy) AS nMoney"
+        " FROM %1 NOT INDEXED WHERE %2 GROUP BY NameFK, num23, updown, numType, numValue) AS win"
+        " INNER JOIN tblMember ON NameFK = MPK"
+        " ORDER BY Mname COLLATE ThaiOrder, updown, numType, num23, numValue, NameFK"_s.arg(
+            book == Book::Ours ? u"tblNumber"_s : u"tblNumberCut"_s, clauses.join(u" OR "_s)),
+        values};
+}
+
+void setupWinners(SpreadModel &grid)
+{
+    grid.setup(int(WinnerColumns.size()), 1);
+    for (int at = 0; at < int(WinnerColumns.size()); ++at) {
+        const WinnerColumn &column = WinnerColumns[size_t(at)];
+        grid.setHeader(FirstHeaderRow, at + 1,
+                       {QString::fromUtf16(column.header), column.alignment | Qt::AlignVCenter});
+        grid.setAlignment(at + 1, column.alignment);
+    }
+}
+
+void writeWinner(SpreadModel &grid, int row)
+{
+    const QVariant stake = RecordsetA.field(u"nMoney"_s);
+    const bool paid = !stake.isNull(); // a line without an amount is worth nothing
+    grid.setText(row, WinKindColumn, twoPartLabel(whole(u"numType"_s), isTop()));
+    grid.setText(row, WinPayoutColumn,
+                 paid ? formatBaht(numberOf(stake) * rateOfCurrent()) : QString());
+    grid.setText(row, WinNumberColumn, u' ' + RecordsetA.field(u"numValue"_s).toString());
+    grid.setText(row, WinPercentColumn, u' ' + RecordsetA.field(u"Mpercen"_s).toString());
+    grid.setText(row, WinStakeColumn, paid ? formatBaht(numberOf(stake)) : QString());
+    grid.setText(row, WinNameColumn, u' ' + RecordsetA.field(u"Mname"_s).toString());
+    grid.setText(row, WinTelephoneColumn, u'0' + RecordsetA.field(u"Mber"_s).toString());
+}
+
+void halvePayout(SpreadModel &grid, int row, const Halvings &halvings)
+{
+    int left = halvings.count(whole(u"numType"_s), RecordsetA.field(u"numValue"_s).toString());
+    for (; left > 0; --left) {
+        grid.setText(row, WinPayoutColumn, formatBaht(CLng(grid.text(row, WinPayoutColumn)) / 2.0));
+        grid.setColor(row, WinPayoutColumn, QColor(HalvedColor));
+    }
+}

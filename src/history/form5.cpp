@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: MIT
+#include "history/form5.h"
+
+#include "ui_form5.h"
+
+#include "history/drawlog.h"
+#include "platform/msgbox.h"
+#include "runtime/values.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+Form5::Form5(ProgressBar &progress, QWidget *parent)
+    : QWidget(parent), m_ui(std::make_unique<Ui::Form5>()), m_progress(progress)
+{
+    m_ui->setupUi(this);
+    m_ui->fpSpread1->setSpreadModel(&m_draws);
+    setFocusProxy(m_ui->fpSpread1);
+    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form5::lvButtons_H1_Click);
+    Form_Load();
+}
+
+Form5::~Form5() = default;
+
+void Form5::Form_Load()
+{
+    reload();
+    m_ui->fpSpread1->setColumnDigits(LogDateColumn, 16);
+    m_ui->fpSpread1->setColumnDigits(LogTopColumn, 12);
+    m_ui->fpSpread1->setColumnDigits(LogBottomTwoColumn, 12);
+    m_ui->fpSpread1->setColumnDigits(LogPayoutColumn, 20);
+    m_ui->fpSpread1->setColumnDigits(LogProfitColumn, 20);
+    m_ui->fpSpread1->setColumnDigits(m_draws.columns(), 0);
+}
+
+/// Lists the draws anew. The active row stays where it was, so that several can be deleted in a
+/// row.
+void Form5::reload()
+{
+    const int row = m_ui->fpSpread1->activeRow();
+    Loaddata(m_draws, m_progress);
+    m_ui->fpSpread1->setActiveRow(std::clamp(row, 1, std::max(1, m_draws.rows())));
+}
+
+/// " ลบรายการที่เลือกนี้ออกจากฐานข้อมูล": takes the draw of the active row out of the history.
+void Form5::lvButtons_H1_Click()
+{
+    const int row = m_ui->fpSpread1->activeRow();
+    if (row == 0)
+        return;
+    if (!ask(u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[  งวดที่  ][  "_s + m_draws.text(row, LogDateColumn)
+                 + u"  ]"_s,
+             u"ยืนยันการลบข้อมูล"_s, BoxIcon::Exclamation, BoxAnswer::Cancel))
+        return;
+    deleteClosedDraw(CLng(m_draws.text(row, 0)));
+    inform(u"ทำการ ลบข้อมูล ออกจากระบบเรียบร้อยแล้ว."_s);
+    reload();
+}

@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: MIT
+#include "platform/ground.h"
+
+#include <QFrame>
+
+void paintGround(QWidget *widget, QRgb ground)
+{
+    const bool box = qobject_cast<QFrame *>(widget) != nullptr;
+    QPalette colors = widget->palette();
+    colors.setColor(box ? QPalette::Window : QPalette::Base, QColor(ground));
+    colors.setColor(box ? QPalette::WindowText : QPalette::Text, Qt::black);
+    widget->setPalette(colors);
+    if (box)
+        widget->setAutoFillBackground(true);
+}

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: MIT
+#include "settings/closing.h"
+
+#include "ledger/ledger.h"
+#include "platform/msgbox.h"
+#include "platform/programend.h"
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array ClosingStatements{
+    "DELETE FROM tblRMoney",
+    "DELETE FROM tblNumber",
+    "DELETE FROM tblNumberCut",
+    "DELETE FROM tblNumberFix",
+};
+
+/// Customer 0 stands for nobody and is part of every Ledger.
+constexpr std::array WipeStatements{
+    "DELETE FROM tblMember WHERE [MPK] > 0",
+    "DELETE FROM tblRMoney",
+    "DELETE FROM tblNumber",
+    "DELETE FROM tblNumberCut",
+    "DELETE FROM tblNumberFix",
+    "DELETE FROM tblNumLog",
+};
+
+constexpr std::array ResultColumns{"num3up",   "num3down1", "num3down2", "num3down3", "num3down4",
+                                   "num2down", "numdate",   "moneyup",   "moneydown"};
+
+template<typename Statements>
+void runAll(const Statements &statements)
+{
+    for (const char *statement : statements)
+        LedgerConnection->run(QString::fromLatin1(statement));
+}
+
+/// Copies the result checked last to the history, whether or not it is of this draw.
+void logDraw()
+{
+    RecordsetA.open(u" SELECT  tblTrue.* FROM tblTrue WHERE [PK] = 1 "_s);
+    RecordsetB.openTable(u"tblNumLog"_s);
+    RecordsetB.addNew();
+    for (const char *column : ResultColumns)
+        RecordsetB.set(QString::fromLatin1(column), RecordsetA.field(QString::fromLatin1(column)));
+    RecordsetB.update();
+    RecordsetA.close();
+    RecordsetB.close();
+}
+
+/// Deleted rows are overwritten, in the file itself only once the journal has been moved into it:
+/// here, lest the machine be switched off while the last box waits.
+void overwriteDeleted()
+{
+    LedgerConnection->run(u"PRAGMA wal_checkpoint(TRUNCATE)"_s);
+}
+
+bool confirmDeletion(const QString &question)
+{
+    return ask(question, u"ยืนยันการลบข้อมูล"_s, BoxIcon::Exclamation, BoxAnswer::Cancel);
+}
+
+} // namespace
+
+void closeDraw(const BoardShowsRows &boardShowsRows)
+{
+    if (!boardShowsRows()) {
+        refuse(u"ไม่สามารถลบข้อมูลได้ ( ไม่มีข้อมูลเลข ) อยู่ในฐานข้อมูล . . . . ."_s);
+        return;
+    }
+    if (!confirmDeletion(u"คุณแน่ใจว่าต้องการลบข้อมูล ( เลขทั้งหมดของงวดนี้ !! ) ออกทั้งหมด แน่ใจ?"_s))
+        return;
+    runAll(ClosingStatements);
+    logDraw();
+    overwriteDeleted();
+    refuse(u"ลบข้อมูล เลขงวดนี้ ทั้งหมดเสร็จสิ้น ( โปรดเปิดโปรแกรมใหม่อีกครั้ง .. )"_s);
+    endProgram(0);
+}
+
+void wipeLedger()
+{
+    if (!confirmDeletion(u"คุณแน่ใจว่าต้องการลบข้อมูล ( ทั้งหมด ) ออกจาก ฐานข้อมูล แน่ใจ?"_s)
+        || !confirmDeletion(u"โปรดยืนยันการ ( ลบข้อมูลออกทั้งหมด ) อีกครั้ง !!!!!!!! "_s))
+        return;
+    runAll(WipeStatements);
+    overwriteDeleted();
+    refuse(u"ลบข้อมูลทั้งหมดเสร็จสิ้นแล้ว ( โปรดเปิดโปรแกรมใหม่อีกครั้ง .. )"_s);
+    endProgram(0);
+}
