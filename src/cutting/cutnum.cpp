@@ -22,8 +22,8 @@ CutNum::CutNum(std::function<void()> unload, QWidget *parent)
     m_ui->fpSpread1->setRowPoints(19);
     m_ui->fpSpread1->setColumnDigits(CutColumn::Place, 7);
     m_ui->fpSpread1->setColumnDigits(CutColumn::Label, 9);
-    m_ui->fpSpread1->setColumnDigits(CutColumn::Number, 14);
-    m_ui->fpSpread1->setColumnDigits(CutColumn::Amount, 16);
+    m_ui->fpSpread1->setColumnDigits(CutColumn::Number, 16);
+    m_ui->fpSpread1->setColumnDigits(CutColumn::Amount, 17);
     new FieldGuard(this, &m_focus);
     connect(m_ui->fpSpread1, &Spread::rowClicked, this, &CutNum::fpSpread1_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &CutNum::lvButtons_H1_Click);

@@ -38,6 +38,7 @@ Form4::Form4(ProgressBar &progress, Printer printer, QWidget *parent)
     paintGround(m_ui->profitBox, ProfitColor);
     m_ui->lvButtons_H5->setEnabled(bool(m_printer));
     m_ui->fpSpread1->setSpreadModel(&m_check.winners);
+    m_ui->fpSpread1->setRowPoints(19);
     setFocusProxy(m_ui->text4); // so that keying can begin at once
     connectControls();
     Form_Load();

@@ -16,6 +16,7 @@ Form5::Form5(ProgressBar &progress, QWidget *parent)
 {
     m_ui->setupUi(this);
     m_ui->fpSpread1->setSpreadModel(&m_draws);
+    m_ui->fpSpread1->setRowPoints(19);
     setFocusProxy(m_ui->fpSpread1);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form5::lvButtons_H1_Click);
     Form_Load();

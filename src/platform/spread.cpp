@@ -25,15 +25,18 @@ Spread::Spread(QWidget *parent) : QTableView(parent)
     setWordWrap(false);
     setAlternatingRowColors(true);
     fitRowHeights();
-    connect(this, &QTableView::clicked, this, &Spread::rowClicked);
-    connect(this, &QTableView::doubleClicked, this, &Spread::rowOpened);
 }
 
 void Spread::setSpreadModel(SpreadModel *model)
 {
     m_model = model;
     setModel(model);
-    connect(model, &SpreadModel::modelReset, this, &Spread::fitColumns);
+    connect(model, &SpreadModel::modelAboutToBeReset, this, [this] { m_rowBefore = activeRow(); });
+    connect(model, &SpreadModel::modelReset, this, [this] {
+        fitColumns();
+        if (m_rowBefore > 0 && rows() > 0) // Enter goes on working after a reload
+            setActiveRow(std::min(m_rowBefore, rows()));
+    });
     fitColumns();
 }
 
@@ -92,12 +95,30 @@ void Spread::currentChanged(const QModelIndex &current, const QModelIndex &previ
 
 void Spread::mousePressEvent(QMouseEvent *event)
 {
+    if (event->button() != Qt::LeftButton) // no other button moves the active row
+        return;
     const int before = activeRow();
     QTableView::mousePressEvent(event);
-    if (event->button() == Qt::LeftButton && before > 0 && before == activeRow()
-        && indexAt(event->pos()).isValid())
+    if (before > 0 && before == activeRow() && indexAt(event->pos()).isValid())
         emit rowPicked(before);
 }
+
+/// A slip of the mouse moves the active row while the button is held: the click is where it ends.
+void Spread::mouseReleaseEvent(QMouseEvent *event)
+{
+    QTableView::mouseReleaseEvent(event);
+    if (event->button() == Qt::LeftButton && activeRow() > 0)
+        emit rowClicked();
+}
+
+void Spread::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid())
+        emit rowOpened();
+}
+
+/// Letters do not move the active row: an amount typed in the wrong place would.
+void Spread::keyboardSearch(const QString &) {}
 
 void Spread::keyPressEvent(QKeyEvent *event)
 {

@@ -54,7 +54,10 @@ protected:
     void changeEvent(QEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void keyboardSearch(const QString &search) override;
 
 private:
     void fitRowHeights();
@@ -63,6 +66,7 @@ private:
     SpreadModel *m_model = nullptr;
     QMap<int, int> m_columnDigits;
     int m_rowPoints = 18;
+    int m_rowBefore = 0; ///< the active row before the model was reset
     QList<int> m_hidden{0};
     bool m_picking = true; ///< false while code sets the active row
 };

@@ -91,8 +91,10 @@ double plainAmount(QStringView text)
             amount = amount * 10 + (c.unicode() - u'0');
         else if (c != u',')
             return -1;
+        if (amount >= qint64(LongestWhole)) // one digit more could overflow
+            return -1;
     }
-    return amount < qint64(LongestWhole) ? double(amount) : -1;
+    return double(amount);
 }
 
 template<typename Whole>

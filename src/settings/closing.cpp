@@ -4,6 +4,7 @@
 #include "ledger/ledger.h"
 #include "platform/msgbox.h"
 #include "platform/programend.h"
+#include "runtime/runtimeerror.h"
 
 #include <array>
 
@@ -75,7 +76,7 @@ void closeDraw(const BoardShowsRows &boardShowsRows)
         return;
     runAll(ClosingStatements);
     logDraw();
-    overwriteDeleted();
+    resumeNext(overwriteDeleted); // all is done by then, and closing the Ledger does it too
     refuse(u"ลบข้อมูล เลขงวดนี้ ทั้งหมดเสร็จสิ้น ( โปรดเปิดโปรแกรมใหม่อีกครั้ง .. )"_s);
     endProgram(0);
 }
@@ -86,7 +87,7 @@ void wipeLedger()
         || !confirmDeletion(u"โปรดยืนยันการ ( ลบข้อมูลออกทั้งหมด ) อีกครั้ง !!!!!!!! "_s))
         return;
     runAll(WipeStatements);
-    overwriteDeleted();
+    resumeNext(overwriteDeleted); // all is done by then, and closing the Ledger does it too
     refuse(u"ลบข้อมูลทั้งหมดเสร็จสิ้นแล้ว ( โปรดเปิดโปรแกรมใหม่อีกครั้ง .. )"_s);
     endProgram(0);
 }

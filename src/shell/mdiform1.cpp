@@ -144,10 +144,10 @@ bool MDIForm1::MDIForm_QueryUnload()
 
 void MDIForm1::UnloadAllForms()
 {
-    delete m_page;
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         if (window != this && window->isVisible())
-            window->close();
+            window->close(); // a dialog may still speak to its page
     }
+    delete m_page;
 }

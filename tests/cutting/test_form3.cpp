@@ -48,6 +48,10 @@ private slots:
     void amountIsChecked_data();
     void amountIsChecked();
     void activeRowIsCut();
+    void slipOfTheMouseNamesTheActiveRow();
+    void enterOpensAfterAReload();
+    void boardDecidesWhetherADrawCanBeClosed_data();
+    void boardDecidesWhetherADrawCanBeClosed();
     void lineIsRemoved();
     void dialogClosesOnce_data();
     void dialogClosesOnce();
@@ -427,6 +431,78 @@ void Form3Test::activeRowIsCut()
     QCOMPARE(m_ledger->run(u"SELECT NPK, NameFK, numBuy FROM tblNumberCut"_s),
              QStringList({u"1 2 500"_s, u"2 1 500"_s, u"3 1 500"_s}));
     QCOMPARE(grid(1)->text(1, 1), u"456"_s);
+}
+
+void Form3Test::slipOfTheMouseNamesTheActiveRow()
+{
+    cut(1, [&](QWidget *dialog) {
+        auto *lines = dialog->findChild<Spread *>();
+        const auto *name = dialog->findChild<QLineEdit *>(u"Tname"_s);
+        const auto place = [&](int row, int column) {
+            return lines->visualRect(lines->model()->index(row - 1, column)).center();
+        };
+        QTest::mousePress(lines->viewport(), Qt::LeftButton, {}, place(2, 4));
+        QTest::mouseRelease(lines->viewport(), Qt::LeftButton, {}, place(2, 5));
+        QCOMPARE(name->text(), u" สมหญิง"_s);
+        QTest::mouseClick(lines->viewport(), Qt::RightButton, {}, place(1, 4));
+        lines->setFocus();
+        Hands::type(u"1"_s); // meant for the amount
+        QCOMPARE(lines->activeRow(), 2);
+        QCOMPARE(name->text(), u" สมหญิง"_s);
+    });
+}
+
+void Form3Test::enterOpensAfterAReload()
+{
+    filter(u"สมห"_s);
+    grid(1)->setFocus();
+    grid(1)->setActiveRow(2);
+    m_ledger->run(u"DELETE FROM tblNumber WHERE numValue = '456'"_s);
+    Hands::press(Qt::Key_F5);
+    QCOMPARE(grid(1)->rows(), 1);
+    bool opened = false;
+    m_hands->inNextDialog([&](QWidget *dialog) {
+        opened = true;
+        dialog->close();
+    });
+    grid(1)->setFocus();
+    Hands::press(Qt::Key_Return);
+    QVERIFY(opened);
+}
+
+void Form3Test::boardDecidesWhetherADrawCanBeClosed_data()
+{
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("customer");
+    QTest::addColumn<bool>("lines");
+    QTest::addColumn<bool>("asked");
+    QTest::newRow("the whole book") << 2 << QString() << true << true;
+    QTest::newRow("a customer without bets, with bets of others") << 2 << u"นารี"_s << true << false;
+    QTest::newRow("another page") << 0 << QString() << true << true;
+    QTest::newRow("another page, an empty book") << 0 << QString() << false << false;
+}
+
+void Form3Test::boardDecidesWhetherADrawCanBeClosed()
+{
+    QFETCH(int, page);
+    QFETCH(QString, customer);
+    QFETCH(bool, lines);
+    QFETCH(bool, asked);
+    if (!customer.isEmpty())
+        filter(customer);
+    if (!lines)
+        m_ledger->run(u"DELETE FROM tblNumber"_s);
+    if (page != 2)
+        m_window->openPage(page);
+    m_hands->takeBoxes();
+    m_hands->inNextDialog([](QWidget *dialog) {
+        Hands::click(dialog->findChild<PushButton *>(u"lvButtons_H0"_s)); // Enter answers Cancel
+        dialog->close();
+    });
+    Hands::click(m_window->findChild<PushButton *>(u"lvButtons_H5"_s));
+    QCOMPARE(m_hands->takeBoxes(),
+             QStringList(asked ? u"คุณแน่ใจว่าต้องการลบข้อมูล ( เลขทั้งหมดของงวดนี้ !! ) ออกทั้งหมด แน่ใจ?"_s
+                               : u"ไม่สามารถลบข้อมูลได้ ( ไม่มีข้อมูลเลข ) อยู่ในฐานข้อมูล . . . . ."_s));
 }
 
 void Form3Test::lineIsRemoved()

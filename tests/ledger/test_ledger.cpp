@@ -197,6 +197,7 @@ void LedgerTest::fileIsEncryptedAndTheStockToolReadsIt()
     const TestLedger ledger;
     ledger.addMember(1, u"สมชาย"_s, u"10"_s);
     QVERIFY(!bytesOf(ledger.path() + u"-wal"_s).contains("สมชาย"));
+    QCOMPARE(ledger.run(u"PRAGMA secure_delete"_s), QStringList(u"1"_s)); // deleted is gone
     CloseLedger();
     QCOMPARE(ledger.files(), QStringList(u"ztkdata.ZDB"_s)); // a clean end leaves one file
     QVERIFY(!bytesOf(ledger.path()).contains("สมชาย"));
