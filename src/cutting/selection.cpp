@@ -3,8 +3,6 @@
 
 #include "entry/vocabulary.h"
 
-#include <algorithm>
-
 quint8 SelNum23 = 0;
 quint8 SelNumType = 0;
 bool SelUpDown = false;
@@ -13,10 +11,5 @@ bool MemberFilterOn = false;
 
 int selectedClass()
 {
-    const auto found =
-        std::find_if(BetClasses.begin(), BetClasses.end(), [](const BetClass &betClass) {
-            return betClass.num23 == SelNum23 && betClass.numType == SelNumType
-                   && betClass.updown == SelUpDown;
-        });
-    return found == BetClasses.end() ? -1 : int(found - BetClasses.begin());
+    return classOf(SelNum23, SelUpDown, SelNumType);
 }

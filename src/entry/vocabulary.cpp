@@ -5,6 +5,16 @@
 
 using namespace Qt::StringLiterals;
 
+int classOf(int num23, bool updown, int numType)
+{
+    for (size_t at = 0; at < BetClasses.size(); ++at) {
+        const BetClass &each = BetClasses[at];
+        if (each.num23 == num23 && each.updown == updown && each.numType == numType)
+            return int(at);
+    }
+    return -1;
+}
+
 BetKind kindOfCaption(const QString &caption)
 {
     for (const KindEntry &entry : KindEntries) {

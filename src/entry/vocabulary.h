@@ -31,6 +31,9 @@ inline constexpr std::array BetClasses{
 };
 inline constexpr int ClassCount = int(BetClasses.size());
 
+/// Place of a class in BetClasses, or -1 for a combination that is no class.
+int classOf(int num23, bool updown, int numType);
+
 /// The first classes are the top ones, the rest bottom: the split of every tab strip.
 inline constexpr int TopClassCount = 5;
 
