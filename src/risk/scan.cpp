@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "risk/scan.h"
+
+#include "entry/hotnumbers.h"
+#include "ledger/ledger.h"
+#include "runtime/runtimeerror.h"
+#include "runtime/values.h"
+
+using namespace Qt::StringLiterals;
+
+qint32 ScanRow = 0;
+
+namespace {
+
+struct Title
+{
+    int column;
+    const char16_t *text;
+};
+
+constexpr std::array Titles{
+    Title{ScanColumn::Type, u"ประเภท"},   Title{ScanColumn::Number, u"เลข"},
+    Title{ScanColumn::Amount, u"ยอดเงิน"}, Title{ScanColumn::Risk, u"ความเสี่ยง"},
+    Title{ScanColumn::Inspect, u" "},     Title{ScanColumn::Cut, u" "},
+};
+
+QList<ScanLine> readLines(bool updown)
+{
+    QList<ScanLine> lines;
+    RecordsetA.open(scanStatement(), {updown});
+    lines.reserve(RecordsetA.recordCount());
+    for (; !RecordsetA.eof(); RecordsetA.moveNext())
+        lines += ScanLine{
+            RecordsetA.field(u"num23"_s).toInt(), RecordsetA.field(u"numType"_s).toInt(),
+            RecordsetA.field(u"numValue"_s).toString(), RecordsetA.field(u"nMoney"_s).toString()};
+    RecordsetA.close();
+    return lines;
+}
+
+QString textOf(const QList<ScanLine> &related)
+{
+    QString text;
+    for (const ScanLine &line : related)
+        text += QString::number(line.numType) + u"  =  "_s + line.numValue + u"      ยอด  "_s
+                + line.nMoney + u"\r\n"_s;
+    return text;
+}
+
+double countOf(const QString &risk)
+{
+    return risk.isEmpty() ? 0 : CDbl(risk.chopped(1)); // without the percent sign
+}
+
+} // namespace
+
+QString scanStatement()
+{
+    // The last column parts lines that are equal in both, as two classes of two digits may be.
+    return u"SELECT num23, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
+           " WHERE updown = ? GROUP BY num23, updown, numType, numValue"
+           " ORDER BY Sum(numBuy) DESC, numValue, numType"_s;
+}
+
+RiskScan::RiskScan()
+{
+    SetupSpread();
+}
+
+void RiskScan::SetupSpread()
+{
+    const SpreadModel::Rebuild rebuild(grid);
+    grid.setup(ScanColumn::Cut, 1);
+    for (const Title &title : Titles) {
+        grid.setHeader(FirstHeaderRow, title.column, {QString::fromUtf16(title.text)});
+        grid.setAlignment(title.column, Qt::AlignHCenter);
+    }
+}
+
+bool RiskScan::run(bool updown, ProgressBar &progress)
+{
+    const SpreadModel::Rebuild rebuild(grid);
+    SetupSpread();
+    const QList<ScanLine> lines = fill(updown, progress);
+    if (lines.isEmpty())
+        return true;
+    const int risky = relate(updown, lines);
+    grid.sortDescending(ScanColumn::Risk, countOf);
+    grid.setRows(risky); // those without a related line stand last
+    return risky > 0;
+}
+
+/// Writes all that is bought on a side and gives it in the order of the rows.
+QList<ScanLine> RiskScan::fill(bool updown, ProgressBar &progress)
+{
+    QList<ScanLine> lines;
+    resumeNext([&] { lines = readLines(updown); });
+    grid.setRows(int(lines.size()));
+    if (lines.isEmpty())
+        return lines;
+    HotNumbers hot;
+    resumeNext([&] { hot = HotNumbers(readHotNumbers()); });
+    progress.start(int(lines.size()));
+    for (int row = 1; const ScanLine &line : lines) {
+        const int at = classOf(line.num23, updown, line.numType);
+        const bool isHot = at >= 0 && hot.reach(BetClasses[size_t(at)], line.numValue);
+        grid.setText(row, ScanColumn::Type, oneWordLabel(line.numType));
+        grid.setText(row, ScanColumn::Number, line.numValue);
+        resumeNext([&] {
+            const double money = CDbl(line.nMoney);
+            grid.setText(row, ScanColumn::Amount, formatBaht(isHot ? money / 2 : money));
+        });
+        grid.setText(row, ScanColumn::Inspect, u"ตรวจสอบ"_s);
+        grid.setText(row, ScanColumn::Cut, u"คัดออก"_s);
+        progress.step();
+        ++row;
+    }
+    return lines;
+}
+
+/// Writes the related lines of each row and their count; gives how many rows have some.
+int RiskScan::relate(bool updown, const QList<ScanLine> &lines)
+{
+    const RelatedLines book(updown, lines);
+    int risky = 0;
+    for (int row = 1; const ScanLine &line : lines) {
+        if (const QList<ScanLine> related = book.of(line); !related.isEmpty()) {
+            ++risky;
+            grid.setText(row, ScanColumn::Risk, QString::number(related.size()) + u'%');
+            grid.setText(row, ScanColumn::Related, textOf(related));
+        }
+        ++row;
+    }
+    return risky;
+}

@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: MIT
+// The risk scan: the numbers of one side on which other bets depend, so that one result would hit
+// several classes at once. It weighs no rates: one related line makes a number risky.
+#pragma once
+
+#include "platform/progressbar.h"
+#include "platform/spreadmodel.h"
+#include "risk/relations.h"
+
+/// Columns of the scan.
+namespace ScanColumn {
+inline constexpr int Related = 0; ///< the related lines, one to a line of text; not shown
+inline constexpr int Type = 1;
+inline constexpr int Number = 2;
+inline constexpr int Amount = 3;
+inline constexpr int Risk = 4;    ///< how many lines are related, with "%" behind
+inline constexpr int Inspect = 5; ///< the two buttons of a row
+inline constexpr int Cut = 6;
+} // namespace ScanColumn
+
+/// The row handed to the inspector.
+extern qint32 ScanRow;
+
+/// The numbers of a side in all classes, the most money first. Parameter: updown.
+QString scanStatement();
+
+class RiskScan
+{
+public:
+    RiskScan();
+
+    SpreadModel grid;
+
+    void SetupSpread();
+
+    /// Fills the grid with the risky numbers of a side: those with the most related lines first,
+    /// of equal ones that with the most money. The money of hot numbers is halved. An error of the
+    /// Ledger leaves the grid as far as it had come. False if something is bought on that side and
+    /// nothing of it is risky. Shows the progress of the fill. Uses both recordsets.
+    bool run(bool updown, ProgressBar &progress);
+
+private:
+    QList<ScanLine> fill(bool updown, ProgressBar &progress);
+    int relate(bool updown, const QList<ScanLine> &lines);
+};
