@@ -9,6 +9,7 @@
 #include "entry/form1.h"
 #include "history/form5.h"
 #include "reports/viewers.h"
+#include "risk/vikoc.h"
 #include "settings/setting.h"
 
 #include <algorithm>
@@ -25,9 +26,19 @@ BoardsOnScreen onScreen(Form3 &board, const CustomerStrip &strip)
     return shown;
 }
 
+void showScan(Form3 &board)
+{
+    const auto showCutNum = [&](QWidget *owner, const std::function<void()> &scanAgain) {
+        board.showCutNum(owner, scanAgain);
+    };
+    ViKoC(board.board(), showCutNum, board.window()).exec();
+    board.window()->activateWindow(); // a desktop without a window manager leaves it without keys
+}
+
 BoardOpeners boardOpeners(const CustomerStrip &strip)
 {
     BoardOpeners openers;
+    openers.showScan = showScan;
     openers.printBoard = [&strip](Form3 &board) {
         showStatement(onScreen(board, strip), board.window());
     };

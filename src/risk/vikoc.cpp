@@ -1,0 +1,134 @@
+// SPDX-License-Identifier: MIT
+#include "risk/vikoc.h"
+
+#include "ui_vikoc.h"
+
+#include "cutting/selection.h"
+#include "platform/dialogplace.h"
+#include "platform/msgbox.h"
+#include "platform/spreadbuttons.h"
+#include "risk/coverage.h"
+#include "risk/number.h"
+#include "shell/globals.h"
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr quint8 OnBoard = 1;
+constexpr quint8 InTopScan = 2;
+constexpr quint8 InBottomScan = 3;
+
+} // namespace
+
+ViKoC::ViKoC(const Board &board, CutOpener showCutNum, QWidget *parent)
+    : QDialog(parent), m_ui(std::make_unique<Ui::ViKoC>()), m_board(board),
+      m_showCutNum(std::move(showCutNum))
+{
+    m_ui->setupUi(this);
+    m_ui->topCoverage->hide(); // until a scan says what is bought
+    m_ui->bottomCoverage->hide();
+    m_ui->fpSpread1->setSpreadModel(&m_scan.grid);
+    m_ui->fpSpread1->setColumnDigits(ScanColumn::Inspect, 12);
+    m_ui->fpSpread1->setColumnDigits(ScanColumn::Cut, 12);
+    connectControls();
+    placeDialog(*this);
+}
+
+ViKoC::~ViKoC()
+{
+    CutOrigin = OnBoard;
+}
+
+void ViKoC::connectControls()
+{
+    connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &ViKoC::lvButtons_H0_Click);
+    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &ViKoC::lvButtons_H1_Click);
+    const auto *buttons =
+        new SpreadButtons(m_ui->fpSpread1, {ScanColumn::Inspect, ScanColumn::Cut});
+    connect(buttons, &SpreadButtons::pressed, this, &ViKoC::fpSpread1_ButtonClicked);
+}
+
+/// "วิเคราะห์เลขบน": scans the top.
+void ViKoC::lvButtons_H0_Click()
+{
+    CutOrigin = InTopScan;
+    analyse(true);
+}
+
+/// " วิเคราะห์เลขล่าง": scans the bottom.
+void ViKoC::lvButtons_H1_Click()
+{
+    CutOrigin = InBottomScan;
+    analyse(false);
+}
+
+void ViKoC::analyse(bool updown)
+{
+    showCoverage(updown);
+    const bool found = m_scan.run(updown, *m_ui->pb1);
+    m_ui->pb1->hide();
+    if (m_scan.grid.rows() > 0) {
+        m_ui->fpSpread1->setActiveRow(1);
+        m_ui->fpSpread1->setFocus();
+    }
+    if (!found)
+        refuse(u"ไม่พบ ( เลขที่มีความเสี่ยง !! ) ยินดีด้วย . . ."_s);
+}
+
+/// Shows how much of each class of a side is bought, by what the board shows at this moment.
+void ViKoC::showCoverage(bool updown)
+{
+    for (size_t at = 0; at < CoverageBars.size(); ++at) {
+        if (BetClasses[at].updown != updown)
+            continue;
+        const CoverageBar &coverage = CoverageBars[at];
+        const int bought = m_board.grids[at].rows();
+        auto *bar = findChild<QProgressBar *>(QLatin1String(coverage.bar));
+        bar->setRange(0, coverage.numbers);
+        bar->setValue(coverageValue(coverage, bought));
+        findChild<QLabel *>(QLatin1String(coverage.label))->setText(coverageText(coverage, bought));
+    }
+    m_ui->topCoverage->setVisible(updown);
+    m_ui->bottomCoverage->setVisible(!updown);
+}
+
+void ViKoC::fpSpread1_ButtonClicked(int column, int row)
+{
+    if (column == ScanColumn::Cut)
+        cutRow(row);
+    else
+        inspectRow(row);
+}
+
+/// "ตรวจสอบ" in a row: shows it in full.
+void ViKoC::inspectRow(int row)
+{
+    ScanRow = row;
+    Number(m_scan.grid, this).exec();
+    activateWindow(); // a desktop without a window manager leaves it without keys
+}
+
+/// "คัดออก" in a row: hands its number to the cut-out, which re-runs the scan as it closes.
+void ViKoC::cutRow(int row)
+{
+    const QString type = m_scan.grid.text(row, ScanColumn::Type);
+    for (const int numType : {Straight, Tod, Run}) {
+        if (oneWordLabel(numType) == type)
+            SelNumType = quint8(numType);
+    }
+    SelNumValue = m_scan.grid.text(row, ScanColumn::Number);
+    SelNum23 = quint8(SelNumValue.size());
+    SelUpDown = CutOrigin == InTopScan;
+    m_showCutNum(this, [this] {
+        if (CutOrigin == InTopScan)
+            lvButtons_H0_Click();
+        else if (CutOrigin == InBottomScan)
+            lvButtons_H1_Click();
+    });
+    if (m_scan.grid.rows() > 0) // so that the next key goes on here
+        m_ui->fpSpread1->setActiveRow(std::min(row, m_scan.grid.rows()));
+}

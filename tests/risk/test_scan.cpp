@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: MIT
+// The risk scan without windows: held against a reckoning of its own over random books, and on the
+// books that are easily got wrong.
+#include "entry/vocabulary.h"
+#include "risk/inspection.h"
+#include "risk/scan.h"
+#include "shell/globals.h"
+#include "support/noprogress.h"
+#include "support/testledger.h"
+
+#include <QLocale>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+#include <map>
+#include <optional>
+#include <string>
+#include <tuple>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A bet as this reckoning knows it: class and digits, with the money of all its lines.
+using Bet = std::tuple<int, int, std::string>; // num23, numType, number
+using Book = std::map<Bet, int>;
+
+bool holds(const std::string &number, char digit)
+{
+    return std::find(number.begin(), number.end(), digit) != number.end();
+}
+
+/// The trade's own words for what one result hits together, one case after the other.
+bool hitTogether(bool top, const Bet &bet, const Bet &other)
+{
+    const auto &[digits, type, number] = bet;
+    const auto &[otherDigits, otherType, longer] = other;
+    if (!top)
+        return digits == 1 && otherDigits == 2 && holds(longer, number[0]);
+    if (otherDigits != 3 || otherType > 2)
+        return false;
+    if (digits == 1)
+        return otherType == 1 && holds(longer, number[0]);
+    if (digits == 2 && type == 2)
+        return holds(longer, number[0]) && holds(longer, number[1]);
+    if (digits == 2)
+        return longer[1] == number[0] && longer[2] == number[1];
+    return type == 2 && otherType == 1
+           && std::is_permutation(longer.begin(), longer.end(), number.begin());
+}
+
+bool isHot(const Bet &bet, const std::vector<std::string> &hot)
+{
+    const std::string &number = std::get<2>(bet);
+    return std::get<1>(bet) != 3
+           && std::any_of(hot.begin(), hot.end(), [&](const std::string &each) {
+                  const bool turned = std::get<1>(bet) == 2 && each.size() == number.size();
+                  return turned ? std::is_permutation(each.begin(), each.end(), number.begin())
+                                : each == number;
+              });
+}
+
+QString baht(int amount)
+{
+    return QLocale(QLocale::English).toString(amount);
+}
+
+struct RiskyRow
+{
+    int count;
+    int money;
+    Bet bet;
+    QString text;
+};
+
+/// All rows of a scan: "type number amount count related lines".
+QStringList reckoned(bool top, const Book &book, const std::vector<std::string> &hot)
+{
+    static const QStringList Words{u""_s, u"ตรง"_s, u"โต๊ด"_s, u"วิ่ง"_s};
+    std::vector<RiskyRow> rows;
+    for (const auto &[bet, money] : book) {
+        RiskyRow row{0, money, bet, {}};
+        for (const auto &[other, otherMoney] : book) {
+            if (!hitTogether(top, bet, other))
+                continue;
+            ++row.count;
+            row.text += u"%1  =  %2      ยอด  %3\r\n"_s.arg(std::get<1>(other))
+                            .arg(QString::fromStdString(std::get<2>(other)))
+                            .arg(otherMoney);
+        }
+        if (row.count > 0)
+            rows.push_back(row);
+    }
+    std::sort(rows.begin(), rows.end(), [](const RiskyRow &left, const RiskyRow &right) {
+        const auto &[digits, type, number] = left.bet;
+        const auto &[otherDigits, otherType, otherNumber] = right.bet;
+        return std::tie(right.count, right.money, number, type)
+               < std::tie(left.count, left.money, otherNumber, otherType);
+    });
+    QStringList texts;
+    for (const RiskyRow &row : rows) {
+        const int shown = isHot(row.bet, hot) ? (row.money + 1) / 2 : row.money;
+        texts += u"%1 %2 %3 %4% %5"_s.arg(Words[std::get<1>(row.bet)],
+                                          QString::fromStdString(std::get<2>(row.bet)), baht(shown),
+                                          QString::number(row.count), row.text);
+    }
+    return texts;
+}
+
+} // namespace
+
+class ScanTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { m_ledger.emplace(); }
+    void init();
+
+    void randomBooksAgree_data();
+    void randomBooksAgree();
+    void plainBooks_data();
+    void plainBooks();
+    void inspectionTakesTheRateOfTheClass_data();
+    void inspectionTakesTheRateOfTheClass();
+    void failingLedgerIsPassedOver(); // the last: it takes the tables away
+
+private:
+    void addLine(int num23, bool top, int type, const QString &number, int money = 100)
+    {
+        m_ledger->run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy) "
+                      "VALUES (?, ?, ?, ?, ?, ?)"_s,
+                      {++m_lines % 3, num23, top, type, number, money});
+    }
+    void addHot(const QString &number) const
+    {
+        m_ledger->run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s, {number});
+    }
+    /// The rows of a scan as reckoned() writes them.
+    QStringList scanned(bool top)
+    {
+        m_found = m_scan.run(top, m_progress);
+        QStringList rows;
+        for (int row = 1; row <= m_scan.grid.rows(); ++row) {
+            QStringList cells;
+            for (const int column : {ScanColumn::Type, ScanColumn::Number, ScanColumn::Amount,
+                                     ScanColumn::Risk, ScanColumn::Related})
+                cells += m_scan.grid.text(row, column);
+            rows += cells.join(u' ');
+        }
+        return rows;
+    }
+
+    std::optional<TestLedger> m_ledger;
+    RiskScan m_scan;
+    NoProgress m_progress;
+    bool m_found = false;
+    int m_lines = 0;
+};
+
+void ScanTest::init()
+{
+    m_ledger->run(u"DELETE FROM tblNumber"_s);
+    m_ledger->run(u"DELETE FROM tblNumberFix"_s);
+}
+
+void ScanTest::randomBooksAgree_data()
+{
+    QTest::addColumn<int>("lines");
+    QTest::addColumn<int>("digits"); // how many different digits are bought
+    for (int seed = 0; seed < 30; ++seed)
+        QTest::addRow("book %d", seed) << 1 + seed * seed << 2 + seed % 9;
+}
+
+void ScanTest::randomBooksAgree()
+{
+    QFETCH(int, lines);
+    QFETCH(int, digits);
+    QRandomGenerator chance{quint32(lines * 10 + digits)};
+    const auto number = [&](int length) {
+        std::string text;
+        while (int(text.size()) < length)
+            text += char('0' + chance.bounded(digits));
+        return text;
+    };
+    std::map<bool, Book> books;
+    m_ledger->run(u"BEGIN"_s);
+    for (int line = 0; line < lines; ++line) {
+        const BetClass &bet = BetClasses[size_t(chance.bounded(ClassCount))];
+        const std::string text = number(bet.num23);
+        const int money = 1 + chance.bounded(30);
+        addLine(bet.num23, bet.updown, bet.numType, QString::fromStdString(text), money);
+        books[bet.updown][{bet.num23, bet.numType, text}] += money;
+    }
+    std::vector<std::string> hot;
+    for (int count = chance.bounded(8); count > 0; --count) {
+        hot.push_back(number(2 + count % 2));
+        addHot(QString::fromStdString(hot.back()));
+    }
+    m_ledger->run(u"COMMIT"_s);
+    for (const bool top : {true, false}) {
+        const QStringList expected = reckoned(top, books[top], hot);
+        QCOMPARE(scanned(top), expected);
+        QCOMPARE(m_found, !expected.isEmpty() || books[top].empty());
+    }
+}
+
+void ScanTest::plainBooks_data()
+{
+    QTest::addColumn<QStringList>("bets"); // "num23 type number money", all on top, or "hot number"
+    QTest::addColumn<QStringList>("rows");
+    QTest::newRow("straight bets alone are never risky")
+        << QStringList{u"3 1 123 90000"_s, u"3 1 321 90000"_s} << QStringList();
+    QTest::newRow("tod of two, straight before tod, digits apart")
+        << QStringList{u"2 2 12 50"_s, u"3 2 120 9"_s, u"3 1 321 7"_s, u"3 1 312 1000"_s}
+        << QStringList{u"โต๊ด 12 50 3% 1  =  312      ยอด  1000\r\n1  =  321      ยอด  7\r\n"
+                       "2  =  120      ยอด  9\r\n"_s};
+}
+
+void ScanTest::plainBooks()
+{
+    QFETCH(QStringList, bets);
+    QFETCH(QStringList, rows);
+    for (const QString &bet : bets) {
+        const QStringList part = bet.split(u' ');
+        if (part[0] == u"hot"_s)
+            addHot(part[1]);
+        else
+            addLine(part[0].toInt(), true, part[1].toInt(), part[2], part[3].toInt());
+    }
+    QCOMPARE(scanned(true), rows);
+    QCOMPARE(m_found, !rows.isEmpty());
+    QCOMPARE(scanned(false), QStringList());
+    QVERIFY(m_found); // nothing is bought there, which is no finding
+}
+
+void ScanTest::inspectionTakesTheRateOfTheClass_data()
+{
+    QTest::addColumn<int>("origin");
+    QTest::addColumn<QString>("type");
+    QTest::addColumn<QString>("number");
+    QTest::addColumn<QString>("amount");
+    QTest::addColumn<QString>("loss");
+    QTest::newRow("3 tod") << 2 << u"โต๊ด"_s << u"012"_s << u"1,000"_s << u"100,000"_s;
+    QTest::newRow("run top") << 2 << u"วิ่ง"_s << u"5"_s << u"1,000"_s << u"3,000"_s;
+    QTest::newRow("run bottom") << 3 << u"วิ่ง"_s << u"5"_s << u"1,000"_s << u"4,000"_s;
+    QTest::newRow("no such row") << 3 << u"ตรง"_s << u"12"_s << u"1,000"_s << u"none"_s;
+}
+
+void ScanTest::inspectionTakesTheRateOfTheClass()
+{
+    QFETCH(int, origin);
+    QFETCH(QString, type);
+    QFETCH(QString, number);
+    QFETCH(QString, amount);
+    LoadMoney();
+    CutOrigin = quint8(origin);
+    m_scan.SetupSpread();
+    m_scan.grid.setRows(1);
+    m_scan.grid.setText(1, ScanColumn::Type, type);
+    m_scan.grid.setText(1, ScanColumn::Number, number);
+    m_scan.grid.setText(1, ScanColumn::Amount, amount);
+    const Inspection shown = inspect(m_scan.grid, 1);
+    QCOMPARE(shown.heading, u"ประเภท : %1  /  เลข : %2"_s.arg(type, number));
+    QTEST(shown.loss.value_or(u"none"_s), "loss");
+}
+
+void ScanTest::failingLedgerIsPassedOver()
+{
+    addLine(2, true, Tod, u"12"_s);
+    addLine(3, true, Straight, u"120"_s);
+    m_ledger->run(u"DROP TABLE tblNumberFix"_s);
+    QCOMPARE(scanned(true), QStringList{u"โต๊ด 12 100 1% 1  =  120      ยอด  100\r\n"_s});
+    m_ledger->run(u"DROP TABLE tblNumber"_s);
+    QCOMPARE(scanned(true), QStringList());
+}
+
+QTEST_GUILESS_MAIN(ScanTest)
+#include "test_scan.moc"
