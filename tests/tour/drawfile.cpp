@@ -33,6 +33,8 @@ Draw Draw::read(const QString &path)
                 DrawBoard{part.value(1), part.value(2), part.value(3), part.value(4), {}};
         else if (what == u"heavy"_s)
             draw.boards.last().heavy += part.mid(2).join(u'\t');
+        else if (what == u"risk"_s)
+            draw.risks += DrawRisk{part.value(1), part.mid(2).join(u'\t')};
         else if (what == u"book"_s)
             draw.book = part.mid(1).join(u'\t');
         else if (what == u"result"_s)

@@ -40,12 +40,20 @@ struct DrawBoard
     QStringList heavy; ///< "number amount" of its first rows, with "hot" behind, parted by tabs
 };
 
+/// A row of the risk scan.
+struct DrawRisk
+{
+    QString side; ///< "บน" or "ล่าง"
+    QString row;  ///< "type number related", parted by tabs
+};
+
 struct Draw
 {
     QList<DrawMember> members;
     QStringList hotNumbers; ///< in the order entered
     QList<DrawTicket> tickets;
     QList<DrawBoard> boards; ///< after all tickets
+    QList<DrawRisk> risks;   ///< after all tickets
     QString book;   ///< "lines money discounts" of the Ledger after all tickets, parted by tabs
     QString result; ///< seventeen digits
     QStringList winners; ///< cells of every winning row, parted by tabs

@@ -40,6 +40,7 @@ void Player::play(const Draw &draw)
     for (const DrawTicket &ticket : draw.tickets)
         playTicket(ticket);
     checkBook(draw.book);
+    visitScan(draw);
     visitBoard(draw);
 }
 

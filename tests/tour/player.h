@@ -72,6 +72,10 @@ private:
     QString amounts() const;
     QStringList cells(int columns) const;
 
+    void visitScan(const Draw &draw);
+    void analyse(QWidget *scan, bool top, const Draw &draw);
+    void inspectRow(QWidget *scan, int row, const QString &side);
+
     QStringList shownRows() const;
     void checkBook(const QString &expected);
     void compare(const QString &what, const QString &expected, const QString &found);
