@@ -57,6 +57,10 @@ Measured measureFilter(benchmark::State &state, int lines);
 /// Milliseconds of a cut at 1,000,000 lines and of the reload of its board, 0 to 7.
 Measured measureCut(benchmark::State &state, int board);
 
+/// A top scan of a full book of 1,000,000 lines to the repainted grid, as a multiple of what it may
+/// take: two bare grouped statements over the same lines and 0.1 s.
+Measured measureScan(benchmark::State &state);
+
 /// A save of 1,000 rows as a multiple of the same rows inserted through the bare C interface.
 Measured measureSave(benchmark::State &state);
 

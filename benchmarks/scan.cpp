@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: MIT
+// What the risk scan costs on a full book, in which every number of the top is bought.
+#include "barefile.h"
+#include "figure.h"
+#include "workfolder.h"
+
+#include "cutting/board.h"
+#include "platform/spread.h"
+#include "risk/vikoc.h"
+
+#include <QElapsedTimer>
+#include <QTest>
+
+#include <span>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int LineCount = 1'000'000;
+
+constexpr const char *GroupedStatement =
+    "SELECT num23, updown, numType, numValue, Sum(numBuy) FROM tblNumber WHERE updown = -1"
+    " GROUP BY num23, updown, numType, numValue";
+
+/// True if a tod bet may be filed under this spelling: one of each family, none of equal digits.
+bool isTodSpelling(const QByteArray &number)
+{
+    return std::is_sorted(number.begin(), number.end()) && number.front() != number.back();
+}
+
+/// Every number that can be bought on top: 1,000 + 210 + 100 + 45 + 10.
+std::vector<BetLine> allTopNumbers()
+{
+    std::vector<BetLine> lines;
+    for (const BetClass &betClass : std::span(BetClasses).first<TopClassCount>()) {
+        const int end = betClass.num23 == 3 ? 1000 : betClass.num23 == 2 ? 100 : 10;
+        for (int value = 0; value < end; ++value) {
+            const QByteArray number = QByteArray::number(1000 + value).right(betClass.num23);
+            if (betClass.numType != Tod || isTodSpelling(number))
+                lines.push_back({&betClass, 1, number});
+        }
+    }
+    return lines;
+}
+
+/// The numbers in turn, until the book has its lines.
+std::vector<BetLine> fullBook()
+{
+    const std::vector<BetLine> numbers = allTopNumbers();
+    std::vector<BetLine> lines;
+    lines.reserve(LineCount);
+    for (size_t at = 0; at < LineCount; ++at)
+        lines.push_back(numbers[at % numbers.size()]);
+    return lines;
+}
+
+} // namespace
+
+Measured measureScan(benchmark::State &state)
+{
+    const WorkFolder folder;
+    insertBare(folder.path().toUtf8(), fullBook(), Durable::AllAtOnce);
+    const Samples bare =
+        selectBare(folder.path().toUtf8(), {}, {{GroupedStatement, {}}}, int(state.max_iterations));
+    ConnectLedger();
+    for (int hot = 0; hot < 50; ++hot)
+        folder.run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s,
+                   {QString::number(1000 + hot * 137).right(hot % 2 + 2)});
+    const Board board;
+    ViKoC scan(board, {}, nullptr);
+    scan.show();
+    if (!QTest::qWaitForWindowExposed(&scan))
+        qFatal("the dialog did not come up");
+    Samples ours;
+    for ([[maybe_unused]] auto round : state) {
+        QElapsedTimer clock;
+        clock.start();
+        scan.lvButtons_H0_Click();
+        QApplication::processEvents(); // paints
+        ours.push_back(double(clock.nsecsElapsed()) / 1e9);
+        state.SetIterationTime(ours.back());
+    }
+    if (scan.findChild<Spread *>()->rows() != 365)
+        qFatal("the scan did not find every number that others depend on");
+    CloseLedger();
+    const double taken = quantile(ours, 0.5);
+    const double statement = quantile(bare, 0.5);
+    return {taken / (2 * statement + 0.1),
+            QString::asprintf("%.0f ms : 2 x %.0f ms + 100 ms", taken * 1000, statement * 1000)};
+}
