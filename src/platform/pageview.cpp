@@ -16,10 +16,8 @@
 namespace {
 
 constexpr double TwipsPerInch = 1440;
-constexpr int Gap = 14; // around pages, in pixels
-constexpr int Smallest = 25;
-constexpr int Largest = 400;
-constexpr int PicturesKept = 6;
+constexpr int Gap = 14;                 // around pages, in pixels
+constexpr int PicturesKept = 64 * 1024; // kilobytes
 
 } // namespace
 
@@ -70,7 +68,10 @@ QRect PageView::pageRect(int page) const
 
 int PageView::page() const
 {
-    const int inSight = verticalScrollBar()->value() + viewport()->height() / 3;
+    const QScrollBar &bar = *verticalScrollBar();
+    if (bar.maximum() > 0 && bar.value() == bar.maximum())
+        return std::max(1, pageCount()); // several may be in sight, and none comes after them
+    const int inSight = bar.value() + viewport()->height() / 3;
     return std::clamp(inSight / pageStep() + 1, 1, std::max(1, pageCount()));
 }
 
@@ -82,7 +83,8 @@ void PageView::goToPage(int page)
 
 void PageView::setZoom(int percent)
 {
-    const double place = double(verticalScrollBar()->value()) / pageStep();
+    const int step = m_laidOutStep > 0 ? m_laidOutStep : pageStep();
+    const double place = double(verticalScrollBar()->value()) / step;
     m_zoom = percent == FitWidth ? FitWidth : std::clamp(percent, Smallest, Largest);
     layOut();
     verticalScrollBar()->setValue(int(std::lround(place * pageStep())));
@@ -103,13 +105,15 @@ QPixmap PageView::picture(int page) const
     drawPage(painter, m_report.pages[page - 1]);
     painter.end();
     QPixmap shown = *picture;
-    m_pictures.insert(page, picture.release());
+    const qsizetype kilobytes = qsizetype(shown.width()) * shown.height() * 4 / 1024;
+    m_pictures.insert(page, picture.release(), kilobytes);
     return shown;
 }
 
 void PageView::layOut()
 {
     m_pictures.clear();
+    m_laidOutStep = pageStep();
     const QSize room = viewport()->size();
     const int height = Gap + pageCount() * pageStep();
     verticalScrollBar()->setRange(0, std::max(0, height - room.height()));
@@ -153,7 +157,7 @@ void PageView::wheelEvent(QWheelEvent *event)
         QAbstractScrollArea::wheelEvent(event);
         return;
     }
-    setZoom(shownPercent() + (event->angleDelta().y() > 0 ? Step : -Step));
+    setZoom(std::max(Smallest, shownPercent() + (event->angleDelta().y() > 0 ? Step : -Step)));
     event->accept();
 }
 

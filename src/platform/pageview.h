@@ -14,7 +14,9 @@ class PageView : public QAbstractScrollArea
     Q_OBJECT
 
 public:
-    static constexpr int FitWidth = 0; ///< as a zoom: pages as wide as the view
+    static constexpr int FitWidth = -1; ///< as a zoom: pages as wide as the view
+    static constexpr int Smallest = 25; ///< percent
+    static constexpr int Largest = 400; ///< percent
 
     explicit PageView(QWidget *parent = nullptr);
 
@@ -62,5 +64,6 @@ private:
 
     ReportPages m_report;
     int m_zoom = FitWidth;
+    int m_laidOutStep = 0; ///< from page to page when the pages were laid out last
     mutable QCache<int, QPixmap> m_pictures;
 };

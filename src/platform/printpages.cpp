@@ -1,25 +1,29 @@
 // SPDX-License-Identifier: MIT
 #include "platform/printpages.h"
 
+#include "platform/msgbox.h"
 #include "platform/pagepainter.h"
 
+#include <QPageRanges>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The pages asked for, counted from 0, in the order in which they leave the printer.
 QList<int> pagesAskedFor(const ReportPages &report, const QPrinter &printer)
 {
-    const int last = int(report.pages.size());
-    const int from = std::max(1, printer.fromPage());
-    const int to = printer.toPage() > 0 ? std::min(printer.toPage(), last) : last;
+    const QPageRanges asked = printer.pageRanges();
     QList<int> pages;
-    for (int page = from; page <= to; ++page)
-        pages += page - 1;
+    for (int page = 1; page <= int(report.pages.size()); ++page) {
+        if (asked.isEmpty() || asked.contains(page))
+            pages += page - 1;
+    }
     if (printer.pageOrder() == QPrinter::LastPageFirst)
         std::reverse(pages.begin(), pages.end());
     const QList<int> once = pages;
@@ -33,20 +37,25 @@ QList<int> pagesAskedFor(const ReportPages &report, const QPrinter &printer)
 void printWithDialog(const ReportPages &report, QWidget *parent)
 {
     QPrinter printer(QPrinter::HighResolution);
-    printer.setPageLayout({QPageSize(QPageSize::A4),
-                           report.landscape ? QPageLayout::Landscape : QPageLayout::Portrait,
-                           QMarginsF()});
+    // Each by itself: a printer that cannot print to the paper's edge would refuse a whole layout
+    // without margins, the orientation with it.
+    printer.setFullPage(true);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    printer.setPageOrientation(report.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer.setDocName(report.title);
     QPrintDialog dialog(&printer, parent);
     dialog.setOption(QPrintDialog::PrintPageRange);
     dialog.setMinMax(1, int(report.pages.size()));
-    if (dialog.exec() == QDialog::Accepted)
-        printPages(report, printer);
+    if (dialog.exec() == QDialog::Accepted && !printPages(report, printer))
+        refuse(u"พิมพ์ไม่สำเร็จ โปรดตรวจสอบเครื่องพิมพ์ . . ."_s);
 }
 
 bool printPages(const ReportPages &report, QPrinter &printer)
 {
     printer.setFullPage(true); // the margins are in the pages
+    const QList<int> asked = pagesAskedFor(report, printer);
+    if (asked.isEmpty())
+        return false;
     QPainter painter;
     if (!painter.begin(&printer))
         return false;
@@ -55,7 +64,7 @@ bool printPages(const ReportPages &report, QPrinter &printer)
         std::min(paper.width() / report.paper().width(), paper.height() / report.paper().height());
     painter.scale(scale, scale);
     bool first = true;
-    for (const int page : pagesAskedFor(report, printer)) {
+    for (const int page : asked) {
         if (!first && !printer.newPage())
             return false;
         drawPage(painter, report.pages[page]);

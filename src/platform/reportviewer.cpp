@@ -10,6 +10,8 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -90,7 +92,8 @@ void ReportViewer::print()
 
 void ReportViewer::zoomOut()
 {
-    m_pages->setZoom((m_pages->shownPercent() - 1) / ZoomStep * ZoomStep);
+    const int smaller = (m_pages->shownPercent() - 1) / ZoomStep * ZoomStep;
+    m_pages->setZoom(std::max(PageView::Smallest, smaller));
 }
 
 void ReportViewer::zoomIn()

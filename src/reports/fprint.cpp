@@ -30,7 +30,8 @@ void FPrint::Form_Load()
     const QRect room = screen()->availableGeometry();
     resize(std::min(1120, room.width() - 40), room.height() * 9 / 10);
     move(room.left() + (room.width() - width()) / 2, room.top() + (room.height() - height()) / 3);
-    m_ui->ARViewer21->tool(0)->setVisible(false); // what leaves this window is paper or a file
+    for (const int hidden : {0, 1}) // what leaves this window is paper or a file
+        m_ui->ARViewer21->tool(hidden)->setVisible(false);
     m_ui->ARViewer21->tool(2)->setText(u"พิมพ์.."_s);
     m_ui->ARViewer21->setReport(m_report->run());
     m_ui->ARViewer21->setFocus();

@@ -17,6 +17,7 @@ Number::Number(const SpreadModel &scan, QWidget *parent)
     /// "ออกจากหน้านี้"
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &QDialog::reject);
     Form_Load(scan);
+    m_ui->lvButtons_H0->setFocus(); // it takes no repeat of the Enter that has opened the dialog
 }
 
 Number::~Number() = default;

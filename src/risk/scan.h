@@ -34,8 +34,8 @@ public:
     void SetupSpread();
 
     /// Fills the grid with the risky numbers of a side: those with the most related lines first,
-    /// of equal ones that with the most money. The money of hot numbers is halved. An error of the
-    /// Ledger leaves the grid as far as it had come. False if something is bought on that side and
+    /// of equal ones that with the most money. The money of hot numbers is halved. If the
+    /// book cannot be read the grid stays empty; without the hot numbers nothing is halved. False if something is bought on that side and
     /// nothing of it is risky. Shows the progress of the fill. Uses both recordsets.
     bool run(bool updown, ProgressBar &progress);
 

@@ -32,8 +32,11 @@ ViKoC::ViKoC(const Board &board, CutOpener showCutNum, QWidget *parent)
     m_ui->topCoverage->hide(); // until a scan says what is bought
     m_ui->bottomCoverage->hide();
     m_ui->fpSpread1->setSpreadModel(&m_scan.grid);
-    m_ui->fpSpread1->setColumnDigits(ScanColumn::Inspect, 12);
-    m_ui->fpSpread1->setColumnDigits(ScanColumn::Cut, 12);
+    m_ui->fpSpread1->setRowPoints(19);
+    m_ui->fpSpread1->setColumnDigits(ScanColumn::Type, 10);
+    m_ui->fpSpread1->setColumnDigits(ScanColumn::Number, 13);
+    m_ui->fpSpread1->setColumnDigits(ScanColumn::Inspect, 17);
+    m_ui->fpSpread1->setColumnDigits(ScanColumn::Cut, 16);
     connectControls();
     placeDialog(*this);
 }

@@ -212,6 +212,9 @@ void ScanTest::plainBooks_data()
     QTest::addColumn<QStringList>("rows");
     QTest::newRow("straight bets alone are never risky")
         << QStringList{u"3 1 123 90000"_s, u"3 1 321 90000"_s} << QStringList();
+    QTest::newRow("a hot number in another order, halved once, a half up")
+        << QStringList{u"hot 12"_s, u"2 2 21 25"_s, u"3 1 211 7"_s}
+        << QStringList{u"โต๊ด 21 13 1% 1  =  211      ยอด  7\r\n"_s};
     QTest::newRow("tod of two, straight before tod, digits apart")
         << QStringList{u"2 2 12 50"_s, u"3 2 120 9"_s, u"3 1 321 7"_s, u"3 1 312 1000"_s}
         << QStringList{u"โต๊ด 12 50 3% 1  =  312      ยอด  1000\r\n1  =  321      ยอด  7\r\n"
