@@ -75,8 +75,7 @@ void RuntimeTest::textAsNumber_data()
     QTest::newRow("rounds back into them") << u"-32768.5"_s << u"-32768.5, -32768, -32768"_s;
     QTest::newRow("rounds out of 32 bits")
         << u"2147483647.5"_s << u"2147483647.5, error 6, error 6"_s;
-    QTest::newRow("nineteen digits")
-        << u"9999999999999999999"_s << u"1e+19, error 6, error 6"_s;
+    QTest::newRow("nineteen digits") << u"9999999999999999999"_s << u"1e+19, error 6, error 6"_s;
     QTest::newRow("beyond a double") << u"1e400"_s << u"error 6, error 6, error 6"_s;
 }
 
