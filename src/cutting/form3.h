@@ -85,8 +85,8 @@ private:
     Board m_board;
     LedgerMemo<QStringList> m_buyers;
     QStringList m_listed; ///< what stands in the list of customers
-    std::array<Spread *, ClassCount> m_spreads;
-    std::array<QLabel *, ClassCount> m_estimates;
+    std::array<Spread *, ClassCount> m_spreads{};
+    std::array<QLabel *, ClassCount> m_estimates{};
 };
 
 /// The rule of the settings when they close: the board is loaded anew if it is the page in

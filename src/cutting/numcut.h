@@ -36,5 +36,5 @@ private:
     std::function<void(Numcut &)> m_print;
     FocusTracker m_focus;
     CutBoard m_cutBoard;
-    std::array<Spread *, 2> m_spreads;
+    std::array<Spread *, 2> m_spreads{};
 };

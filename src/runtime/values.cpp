@@ -65,11 +65,11 @@ constexpr double LongestWhole = 1e15;
 
 QString groupedDigits(qint64 amount)
 {
-    std::array<char16_t, 24> digits; // room for 19 digits, their commas and the sign
+    std::array<char16_t, 24> digits{}; // room for 19 digits, their commas and the sign
     auto *const end = digits.data() + digits.size();
     auto *first = end;
     int count = 0;
-    for (quint64 rest = quint64(std::abs(amount)); rest > 0; rest /= 10) {
+    for (auto rest = quint64(std::abs(amount)); rest > 0; rest /= 10) {
         if (count > 0 && count % 3 == 0)
             *--first = u',';
         *--first = char16_t(u'0' + rest % 10);
