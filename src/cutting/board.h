@@ -14,9 +14,6 @@ inline constexpr int TypeColumn = 0;
 inline constexpr int DigitsColumn = 3;
 inline constexpr int SideColumn = 4;
 
-/// Background of a hot number.
-inline constexpr QRgb HotColor = qRgb(215, 159, 158);
-
 /// Numbers of one class with their money, the most money first. Parameters: num23, updown, numType;
 /// the second form shows one customer and takes his name as the fourth.
 QString boardStatement(bool filtered);

@@ -3,6 +3,7 @@
 
 #include "ui_form4.h"
 
+#include "entry/hotnumbers.h"
 #include "fields/fieldguard.h"
 #include "platform/ground.h"
 #include "platform/msgbox.h"
@@ -34,7 +35,7 @@ Form4::Form4(ProgressBar &progress, Printer printer, QWidget *parent)
                m_ui->Text17, m_ui->Text18, m_ui->Text19, m_ui->Text20, m_ui->Text21};
     for (int at = 0; at < DigitCount; ++at)
         paintGround(m_boxes[size_t(at)], at < TopDigitCount ? TopBoxColor : BottomBoxColor);
-    paintGround(m_ui->payoutBox, HalvedColor);
+    paintGround(m_ui->payoutBox, HotColor);
     paintGround(m_ui->profitBox, ProfitColor);
     m_ui->lvButtons_H5->setEnabled(bool(m_printer));
     m_ui->fpSpread1->setSpreadModel(&m_check.winners);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "drawcheck/winners.h"
 
+#include "entry/hotnumbers.h"
 #include "ledger/ledger.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
@@ -116,6 +117,6 @@ void halvePayout(SpreadModel &grid, int row, const Halvings &halvings)
     int left = halvings.count(whole(u"numType"_s), RecordsetA.field(u"numValue"_s).toString());
     for (; left > 0; --left) {
         grid.setText(row, WinPayoutColumn, formatBaht(CLng(grid.text(row, WinPayoutColumn)) / 2.0));
-        grid.setColor(row, WinPayoutColumn, QColor(HalvedColor));
+        grid.setColor(row, WinPayoutColumn, QColor(HotColor));
     }
 }

@@ -24,9 +24,6 @@ inline constexpr int WinPayoutColumn = 5;
 inline constexpr int WinNameColumn = 6;
 inline constexpr int WinTelephoneColumn = 7;
 
-/// Ground of a payout that a hot number has halved.
-inline constexpr QRgb HalvedColor = 0xD79F9E;
-
 /// A statement and the values that are bound to it.
 struct BoundStatement
 {

@@ -4,8 +4,12 @@
 
 #include "entry/vocabulary.h"
 
+#include <QRgb>
 #include <QSet>
 #include <QStringList>
+
+/// Ground of what pays half because of a hot number: a number on the board, a winner's money.
+inline constexpr QRgb HotColor = 0xD79F9E;
 
 /// The hot numbers, the one entered first in front. Uses RecordsetB.
 QStringList readHotNumbers();

@@ -226,7 +226,6 @@ void CustomersTest::changeGoesByTheActiveRow()
     click(button);
     QTEST(m_hands->takeBoxes().join(u'\n'), "refusal");
     QCOMPARE(Hands::focus()->objectName(), QString::fromLatin1(field));
-    Hands::type(u"7"_s);
     control<QLineEdit>(field)->setText(u"7"_s);
     m_hands->answerNextWithOk();
     click(button);
@@ -298,15 +297,15 @@ void CustomersTest::searchListsPartsOfNames()
 
 void CustomersTest::deleteSparesCustomersWithLines_data()
 {
-    QTest::addColumn<int>("nothing");
-    QTest::newRow("tblNumber") << 0;
-    QTest::newRow("tblNumberCut") << 0;
+    QTest::addColumn<QString>("table");
+    QTest::newRow("in the book") << u"tblNumber"_s;
+    QTest::newRow("laid off") << u"tblNumberCut"_s;
 }
 
 void CustomersTest::deleteSparesCustomersWithLines()
 {
-    m_ledger->run(
-        u"INSERT INTO %1 (NameFK) VALUES (2)"_s.arg(QLatin1String(QTest::currentDataTag())));
+    QFETCH(QString, table);
+    m_ledger->run(u"INSERT INTO %1 (NameFK) VALUES (2)"_s.arg(table));
     pick(1);
     Hands::press(Qt::Key_Delete);
     QCOMPARE(m_hands->takeBoxes(),

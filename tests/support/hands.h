@@ -30,7 +30,7 @@ public:
     static void click(QWidget *control);
 
     /// Texts of the boxes that came up since the last call. Each was answered with Enter, which
-    /// presses its default button, or with the button asked for by answerNext().
+    /// presses its default button, or with the button asked for by answerNextWithOk().
     QStringList takeBoxes();
 
     /// How the first box since then looked: "title, icon, default button", the icon as one of
