@@ -49,6 +49,8 @@ private slots:
     void windowsAreModalAndNamed();
     void pagesAreTurned();
     void zoomKeepsThePlace();
+    void resizingKeepsThePlace();
+    void smallestZoomIsTheLastStep();
     void pageInSightIsDrawn();
     void exportThroughTheRealDialog_data();
     void exportThroughTheRealDialog();
@@ -129,6 +131,33 @@ void ViewersTest::zoomKeepsThePlace()
         QCOMPARE(view->page(), 5);
     }
     QCOMPARE(view->shownPercent(), fitting);
+}
+
+void ViewersTest::resizingKeepsThePlace()
+{
+    const auto window = viewerOf(400);
+    auto *view = window->findChild<PageView *>();
+    window->resize(500, 600);
+    QApplication::processEvents();
+    view->goToPage(8);
+    for (const int width : {1100, 500}) {
+        const int before = view->shownPercent();
+        window->resize(width, 600);
+        QApplication::processEvents();
+        QVERIFY(view->shownPercent() != before); // the pages fit the width anew
+        QCOMPARE(view->page(), 8);
+    }
+}
+
+void ViewersTest::smallestZoomIsTheLastStep()
+{
+    const auto window = viewerOf(400);
+    auto *view = window->findChild<PageView *>();
+    for (int step = 0; step < 30; ++step)
+        window->findChild<QAction *>(u"zoomOut"_s)->trigger();
+    QCOMPARE(view->zoom(), PageView::Smallest); // and not the width of the view
+    view->goToPage(view->pageCount());          // with several pages in sight
+    QCOMPARE(view->page(), view->pageCount());
 }
 
 void ViewersTest::pageInSightIsDrawn()
