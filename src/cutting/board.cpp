@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cutting/board.h"
 
+#include "ledger/collation.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
 
@@ -14,17 +15,59 @@ namespace {
 constexpr std::array<const qint16 *, ClassCount> Rates{
     &Rate3up, &Rate3tod, &Rate2up, &Rate2tod, &Raterunup, &Rate3down, &Rate2down, &Raterundown};
 
+/// The number of RecordsetA's current row in column @p at, and its money behind it.
+NumberMoney lineAt(qsizetype at)
+{
+    return {RecordsetA.field(at).toString(), numberOf(RecordsetA.field(at + 1))};
+}
+
+/// True if RecordsetA's current row begins with the marks of a class.
+bool isOfCurrentRow(const BetClass &betClass)
+{
+    return RecordsetA.field(0).toInt() == betClass.num23
+           && RecordsetA.field(1).toInt() == (betClass.updown ? -1 : 0)
+           && RecordsetA.field(2).toInt() == betClass.numType;
+}
+
+void sortLines(BoardLines &lines)
+{
+    std::sort(lines.begin(), lines.end(), [](const NumberMoney &left, const NumberMoney &right) {
+        return left.money != right.money ? left.money > right.money : left.number < right.number;
+    });
+}
+
 } // namespace
 
-QString boardStatement(bool filtered)
+BoardLines readBoard(const BetClass &betClass)
 {
-    // A customer's lines are found by the index on buyers; a plus keeps the one on classes away.
-    const QString plus = filtered ? u"+"_s : QString();
-    const QString customer =
-        filtered ? u" AND NameFK IN (SELECT MPK FROM tblMember WHERE [Mname] LIKE ?)"_s : QString();
-    return u"SELECT numValue, Sum(numBuy) AS nMoney FROM tblNumber WHERE %1num23 = ?"
-           " AND %1updown = ? AND %1numType = ?%2 GROUP BY numValue"
-           " ORDER BY Sum(numBuy) DESC, numValue"_s.arg(plus, customer);
+    RecordsetA.open(u"SELECT numValue, Sum(numBuy) AS nMoney FROM tblNumber"
+                    " WHERE num23 = ? AND updown = ? AND numType = ? GROUP BY numValue"_s,
+                    {betClass.num23, betClass.updown, betClass.numType});
+    BoardLines lines;
+    lines.reserve(size_t(RecordsetA.recordCount()));
+    for (; !RecordsetA.eof(); RecordsetA.moveNext())
+        lines.push_back(lineAt(0));
+    RecordsetA.close();
+    sortLines(lines);
+    return lines;
+}
+
+std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name)
+{
+    RecordsetA.open(u"SELECT num23, updown, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
+                    " WHERE NameFK IN (SELECT MPK FROM tblMember WHERE [Mname] LIKE ?)"
+                    " GROUP BY num23, updown, numType, numValue"_s,
+                    {name});
+    std::array<BoardLines, ClassCount> boards;
+    for (; !RecordsetA.eof(); RecordsetA.moveNext()) {
+        const auto found = std::find_if(BetClasses.begin(), BetClasses.end(), isOfCurrentRow);
+        if (found != BetClasses.end()) // a line that another tool has put in belongs to no board
+            boards[size_t(found - BetClasses.begin())].push_back(lineAt(3));
+    }
+    RecordsetA.close();
+    for (BoardLines &lines : boards)
+        sortLines(lines);
+    return boards;
 }
 
 QString customerStatement()
@@ -32,16 +75,34 @@ QString customerStatement()
     return u"SELECT tblMember.* FROM tblMember WHERE [Mname] LIKE ? ORDER BY MPK LIMIT 1"_s;
 }
 
-QStringList readBuyers()
+const QStringList &Buyers::names()
 {
-    QStringList names;
-    RecordsetB.open(u"SELECT Mname FROM tblMember WHERE EXISTS"
-                    " (SELECT 1 FROM tblNumber WHERE NameFK = MPK)"
-                    " GROUP BY Mname COLLATE AnyCase ORDER BY Mname COLLATE ThaiOrder"_s);
-    for (; !RecordsetB.eof(); RecordsetB.moveNext())
-        names += RecordsetB.field(u"Mname"_s).toString();
-    RecordsetB.close();
-    return names;
+    return m_names.get([this] {
+        QStringList found;
+        RecordsetB.open(u"SELECT Mname FROM tblMember WHERE EXISTS"
+                        " (SELECT 1 FROM tblNumber WHERE NameFK = MPK) ORDER BY MPK"_s);
+        for (; !RecordsetB.eof(); RecordsetB.moveNext())
+            found += RecordsetB.field(0).toString();
+        RecordsetB.close();
+        return sorted(found);
+    });
+}
+
+const QStringList &Buyers::sorted(const QStringList &found)
+{
+    if (found == m_found)
+        return m_sorted;
+    m_found = found;
+    m_sorted = found;
+    const auto before = [](const QString &left, const QString &right) {
+        return compareThai(left, right) < 0;
+    };
+    const auto same = [](const QString &left, const QString &right) {
+        return compareAnyCase(left, right) == 0;
+    };
+    std::stable_sort(m_sorted.begin(), m_sorted.end(), before);
+    m_sorted.erase(std::unique(m_sorted.begin(), m_sorted.end(), same), m_sorted.end());
+    return m_sorted;
 }
 
 Board::Board()
@@ -63,56 +124,61 @@ void Board::SetupSpread(int at)
 
 void Board::load(int at, bool filtered, ProgressBar &progress)
 {
-    const BetClass &betClass = BetClasses[at];
     SpreadModel &grid = grids[at];
     const SpreadModel::Rebuild rebuild(grid);
     BoardTotal = 0;
     SetupSpread(at);
-    QVariantList values{betClass.num23, betClass.updown, betClass.numType};
-    if (filtered)
-        values += trimBlanks(FilterName);
-    RecordsetA.open(boardStatement(filtered), values);
-    grid.setRows(RecordsetA.recordCount());
-    if (grid.rows() == 0) {
-        RecordsetA.close();
+    const BoardLines lines = linesOf(at, filtered);
+    grid.setRows(int(lines.size()));
+    if (lines.empty()) {
         estimates[at] = u"0"_s;
         grid.setText(TotalRow, AmountColumn, u"0"_s);
         return;
     }
     progress.start(grid.rows());
-    fillRows(at, progress);
-    RecordsetA.close();
-    grid.sortDescending(AmountColumn, [](const QString &text) {
-        return text.isEmpty() ? 0 : CDbl(text); // no money has no text
-    });
+    fillRows(at, lines, progress);
     estimates[at] = formatBaht(CDbl(grid.text(1, AmountColumn)) * *Rates[at]);
     grid.setText(TotalRow, AmountColumn, formatBaht(BoardTotal));
 }
 
-void Board::fillRows(int at, ProgressBar &progress)
+BoardLines Board::linesOf(int at, bool filtered)
+{
+    if (!filtered)
+        return readBoard(BetClasses[at]);
+    const QString name = trimBlanks(FilterName);
+    if (m_customer != name)
+        m_customerBoards = {};
+    m_customer = name;
+    return m_customerBoards.get([&] { return readCustomerBoards(name); })[at];
+}
+
+/// Writes the rows and sums the money. Halving may send a hot number down the board.
+void Board::fillRows(int at, const BoardLines &lines, ProgressBar &progress)
 {
     const BetClass &betClass = BetClasses[at];
     SpreadModel &grid = grids[at];
     const HotNumbers &hotNumbers = m_hotNumbers.get([] { return HotNumbers(readHotNumbers()); });
-    const QString numType = QString::number(betClass.numType);
-    const QString num23 = QString::number(betClass.num23);
-    const QString updown = betClass.updown ? u"True"_s : u"False"_s;
-    const qsizetype moneyPlace = RecordsetA.place(u"nMoney"_s);
-    const qsizetype numberPlace = RecordsetA.place(u"numValue"_s);
-    for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
-        const double money = numberOf(RecordsetA.field(moneyPlace));
+    std::array<QString, SideColumn + 1> texts;
+    texts[TypeColumn] = QString::number(betClass.numType);
+    texts[DigitsColumn] = QString::number(betClass.num23);
+    texts[SideColumn] = betClass.updown ? u"True"_s : u"False"_s;
+    bool halved = false;
+    int row = 0;
+    for (const auto &[number, money] : lines) {
         BoardTotal = addLong({BoardTotal, CLng(money)});
-        const QString number = RecordsetA.field(numberPlace).toString();
         const bool isHot = hotNumbers.reach(betClass, number);
-        grid.setText(row, TypeColumn, numType);
-        grid.setText(row, NumberColumn, number);
-        grid.setText(row, AmountColumn, formatBaht(isHot ? money / 2 : money));
-        grid.setText(row, DigitsColumn, num23);
-        grid.setText(row, SideColumn, updown);
+        texts[NumberColumn] = number;
+        texts[AmountColumn] = formatBaht(isHot ? money / 2 : money);
+        grid.setRow(++row, texts);
         if (isHot)
             grid.setColor(row, NumberColumn, QColor(HotColor));
+        halved = halved || isHot;
         progress.step();
     }
+    if (halved)
+        grid.sortDescending(AmountColumn, [](const QString &text) {
+            return text.isEmpty() ? 0 : CDbl(text); // no money has no text
+        });
 }
 
 void Board::takeTotal(int at)

@@ -8,22 +8,49 @@
 #include "ledger/ledgermemo.h"
 #include "platform/progressbar.h"
 
+#include <vector>
+
 /// Columns of a board behind those that are shown, with column 0 the class of each row: its
 /// numType, its num23 and "True" for top or "False" for bottom.
 inline constexpr int TypeColumn = 0;
 inline constexpr int DigitsColumn = 3;
 inline constexpr int SideColumn = 4;
 
-/// Numbers of one class with their money, the most money first. Parameters: num23, updown, numType;
-/// the second form shows one customer and takes his name as the fourth.
-QString boardStatement(bool filtered);
+/// A number of a class and the money on it.
+struct NumberMoney
+{
+    QString number;
+    double money; ///< whole baht
+};
+
+/// Numbers with their money, the most money first, equal money by number.
+using BoardLines = std::vector<NumberMoney>;
+
+/// Numbers of the whole book in one class.
+BoardLines readBoard(const BetClass &betClass);
+
+/// Numbers of one customer in all classes; wild cards in the name count. All eight boards of a
+/// filter come from this one statement.
+std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
 
 /// The customer whom a name keyed in part finds: the one with the lowest key. Takes the name
 /// between two "%".
 QString customerStatement();
 
-/// Names of the customers who hold a bet in the draw, in Thai order. Uses RecordsetB.
-QStringList readBuyers();
+/// Names of the customers who hold a bet in the draw, in Thai order, each once.
+class Buyers
+{
+public:
+    /// Reads them if the Ledger has changed. Uses RecordsetB.
+    const QStringList &names();
+
+private:
+    const QStringList &sorted(const QStringList &found);
+
+    LedgerMemo<QStringList> m_names;
+    QStringList m_found; ///< as the Ledger gave them last: sorting Thai names is dear
+    QStringList m_sorted;
+};
 
 struct Board
 {
@@ -59,8 +86,11 @@ struct Board
     void takeTotal(int at);
 
 private:
-    void fillRows(int at, ProgressBar &progress);
+    BoardLines linesOf(int at, bool filtered);
+    void fillRows(int at, const BoardLines &lines, ProgressBar &progress);
 
     qint32 BoardTotal = 0; ///< of the board being loaded
+    QString m_customer;    ///< whose boards are kept below
+    LedgerMemo<std::array<BoardLines, ClassCount>> m_customerBoards;
     LedgerMemo<HotNumbers> m_hotNumbers;
 };

@@ -15,6 +15,7 @@
 #include "runtime/values.h"
 #include "shell/globals.h"
 
+#include <QScopeGuard>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -92,8 +93,19 @@ void Form3::Form_KeyDown()
 void Form3::FReLoad()
 {
     SelUpDown = true;
+    loadAll([this](int at) { load(at, false); });
+}
+
+/// Loads board by board; the tabs are laid out once, at the end.
+void Form3::loadAll(const std::function<void(int at)> &loadOne)
+{
+    m_captionsHeld = true;
+    const auto show = qScopeGuard([this] {
+        m_captionsHeld = false;
+        showCaptions();
+    });
     for (int at = 0; at < ClassCount; ++at)
-        load(at, false);
+        loadOne(at);
 }
 
 void Form3::load(int at, bool filtered)
@@ -130,12 +142,18 @@ void Form3::Nubyod0()
 /// caption then shows nothing and @p sum stays.
 void Form3::showSum(int tab, const QString &caption, qint32 &sum)
 {
-    resumeNext([&] {
-        const QString text = caption + formatBaht(sideTotal(tab)) + u" )"_s;
-        if (m_ui->SSTab1->tabText(tab) != text) // or the strip would be laid out with each board
-            m_ui->SSTab1->setTabText(tab, text);
-    });
+    resumeNext([&] { m_captions[tab] = caption + formatBaht(sideTotal(tab)) + u" )"_s; });
     resumeNext([&] { sum = CLng(formatBaht(sideTotal(tab))); });
+    if (!m_captionsHeld)
+        showCaptions();
+}
+
+void Form3::showCaptions()
+{
+    for (const int tab : {BottomTab, TopTab}) {
+        if (m_ui->SSTab1->tabText(tab) != m_captions[tab])
+            m_ui->SSTab1->setTabText(tab, m_captions[tab]);
+    }
 }
 
 qint32 Form3::sideTotal(int tab) const
@@ -155,7 +173,7 @@ void Form3::showGrandTotal()
 /// Lists the customers who hold a bet. While nobody does, the old list stays.
 void Form3::LoadMember()
 {
-    const QStringList &names = m_buyers.get(readBuyers);
+    const QStringList &names = m_buyers.names();
     if (names.isEmpty())
         return;
     if (m_listed != names)
@@ -190,8 +208,7 @@ void Form3::filterToCustomer()
         m_ui->Combo1->setFocus();
         return;
     }
-    for (int at = 0; at < ClassCount; ++at)
-        resumeNext([&] { load(at, true); });
+    loadAll([this](int at) { resumeNext([&] { load(at, true); }); });
     resumeNext([this] {
         const double percent = CDbl(m_strip.text2.text());
         m_strip.text3.setText(formatBaht(percent * sumTotal(m_board.BoardSums) / 100));

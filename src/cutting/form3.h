@@ -61,9 +61,11 @@ private:
     void LoadMember();
 
     void load(int at, bool filtered);
+    void loadAll(const std::function<void(int at)> &loadOne);
     void Nubyod();
     void Nubyod0();
     void showSum(int tab, const QString &caption, qint32 &sum);
+    void showCaptions();
     void showGrandTotal();
     qint32 sideTotal(int tab) const;
 
@@ -83,8 +85,10 @@ private:
     BoardOpeners m_openers;
     FocusTracker m_focus;
     Board m_board;
-    LedgerMemo<QStringList> m_buyers;
-    QStringList m_listed; ///< what stands in the list of customers
+    Buyers m_buyers;
+    QStringList m_listed;              ///< what stands in the list of customers
+    std::array<QString, 2> m_captions; ///< of the tabs, by tab
+    bool m_captionsHeld = false;
     std::array<Spread *, ClassCount> m_spreads{};
     std::array<QLabel *, ClassCount> m_estimates{};
 };

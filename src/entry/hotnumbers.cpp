@@ -22,8 +22,9 @@ QStringList readHotNumbers()
 {
     QStringList numbers;
     RecordsetB.open(u" SELECT tblNumberFix.* FROM tblNumberFix ORDER BY PK"_s);
+    const qsizetype place = RecordsetB.place(u"Fnumber"_s);
     for (; !RecordsetB.eof(); RecordsetB.moveNext())
-        numbers += RecordsetB.field(u"Fnumber"_s).toString();
+        numbers += RecordsetB.field(place).toString();
     RecordsetB.close();
     return numbers;
 }

@@ -268,7 +268,7 @@ ResultRows Connection::run(const QString &sql, const QVariantList &values)
         row.reserve(columns);
         for (int column = 0; column < columns; ++column)
             row += columnValue(statement, column);
-        result.rows += row;
+        result.rows.emplaceBack(std::move(row));
     }
     if (code != SQLITE_DONE)
         m_engine->check(code);

@@ -7,6 +7,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -34,7 +35,7 @@ int SpreadHeader::rowHeight(const QFont &font)
 QSize SpreadHeader::sizeHint() const
 {
     const int rows = spread() ? std::max(spread()->headerRows(), 1) : 1;
-    return {QHeaderView::sizeHint().width(), rows * rowHeight(font())};
+    return {length(), rows * rowHeight(font())};
 }
 
 void SpreadHeader::setModel(QAbstractItemModel *model)
@@ -43,8 +44,15 @@ void SpreadHeader::setModel(QAbstractItemModel *model)
     if (model) {
         const auto repaint = [this] { viewport()->update(); };
         connect(model, &QAbstractItemModel::headerDataChanged, this, repaint);
-        connect(model, &QAbstractItemModel::modelReset, this, &QHeaderView::geometriesChanged);
+        connect(model, &QAbstractItemModel::modelReset, this, &SpreadHeader::fitHeight);
     }
+}
+
+/// Has the view lay itself out anew if there are more or fewer header rows than before.
+void SpreadHeader::fitHeight()
+{
+    if (std::exchange(m_rows, spread()->headerRows()) != m_rows)
+        emit geometriesChanged();
 }
 
 const SpreadModel *SpreadHeader::spread() const

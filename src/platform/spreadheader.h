@@ -25,5 +25,8 @@ protected:
 
 private:
     const SpreadModel *spread() const;
+    void fitHeight();
     void paintCell(QPainter &painter, int row, int column) const;
+
+    int m_rows = 0; ///< header rows when the view was laid out last
 };

@@ -114,6 +114,17 @@ void SpreadModel::setText(int row, int column, const QString &text)
     changed(row, column);
 }
 
+void SpreadModel::setRow(int row, std::span<const QString> texts)
+{
+    Q_ASSERT(holds(row, int(texts.size()) - 1));
+    Row &cells = m_rows[row - 1];
+    auto cell = cells.begin();
+    for (const QString &text : texts)
+        (cell++)->text = text;
+    if (m_rebuilds == 0)
+        emit dataChanged(index(row - 1, 0), index(row - 1, int(texts.size()) - 1));
+}
+
 QColor SpreadModel::color(int row, int column) const
 {
     return holds(row, column) ? m_rows[row - 1][column].color : QColor();

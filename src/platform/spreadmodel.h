@@ -9,6 +9,7 @@
 #include <QString>
 
 #include <functional>
+#include <span>
 
 /// Header rows count up from here: -1000 is the first, -999 the second, -998 the third.
 inline constexpr int FirstHeaderRow = -1000;
@@ -51,6 +52,9 @@ public:
     /// Text of a cell, header cells included; "" outside the grid.
     QString text(int row, int column) const;
     void setText(int row, int column, const QString &text);
+
+    /// Writes the texts of a whole row, from column 0 on.
+    void setRow(int row, std::span<const QString> texts);
 
     /// Background of a cell; invalid where the grid's own colour shows.
     QColor color(int row, int column) const;
