@@ -57,6 +57,8 @@ constexpr std::array Figures{
            [](State &state) { return measureFilter(state, 1'000'000); }},
     Figure{"Cut and reload of 3 digits straight, 1,000,000 lines", 50, "ms", 21,
            [](State &state) { return measureCut(state, 0); }},
+    Figure{"Cut and reload of a run behind which 12,500 lines stand", 50, "ms", 21,
+           [](State &state) { return measureCut(state, 4); }},
     Figure{"Top scan of a full book : 2 bare grouped statements, 0.1 s", 1, "times", 11,
            measureScan},
     Figure{"Draw check at 1,000,000 lines : its bare statements", 1.2, "times", 15,

@@ -26,7 +26,12 @@ constexpr std::array Titles{
 };
 
 /// Places of what the list of lines reads.
-enum class Read { Key, Name, Buyer, Type, Number, Money, User };
+enum class Read { Key, Name, Buyer, Money, User };
+
+const QVariant &field(Read place)
+{
+    return RecordsetA.field(qsizetype(place));
+}
 
 /// Takes the amount off a line that stays in the book.
 void takeOff(const CutLine &line, qint32 amount)
@@ -63,38 +68,38 @@ void CutOut::LoadNumrunup()
 {
     const SpreadModel::Rebuild rebuild(grid);
     SetupSpread();
-    qint32 CutTotal = 0;
-    RecordsetA.open(u"SELECT tblNumber.NPK, tblMember.Mname, tblNumber.nameFK, tblNumber.numType,"
-                    " tblNumber.numValue, tblNumber.numBuy, tblNumber.nuser"
+    const QString number = trimBlanks(SelNumValue);
+    RecordsetA.open(u"SELECT tblNumber.NPK, tblMember.Mname, tblNumber.nameFK, tblNumber.numBuy,"
+                    " tblNumber.nuser"
                     " FROM tblNumber INNER JOIN tblMember ON tblNumber.nameFK = tblMember.MPK"
                     " WHERE [num23] = ? AND [numType] = ? AND [updown] = ? AND [numValue] = ?"
                     " ORDER BY numBuy DESC, NPK"_s,
-                    {SelNum23, SelNumType, SelUpDown, trimBlanks(SelNumValue)});
+                    {SelNum23, SelNumType, SelUpDown, number});
     grid.setRows(RecordsetA.recordCount());
-    if (grid.rows() == 0) {
-        RecordsetA.close();
-        return;
-    }
-    for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
-        CutTotal = addLong({CutTotal, CLng(numberOf(RecordsetA.field(qsizetype(Read::Money))))});
-        writeRow(row);
-    }
+    if (grid.rows() > 0)
+        fillRows(number);
     RecordsetA.close();
-    grid.setText(TotalRow, CutColumn::Amount, formatBaht(CutTotal) + u" บาท"_s);
 }
 
-/// Writes the recordset's current row.
-void CutOut::writeRow(int row)
+/// Writes the recordset's rows and their sum.
+void CutOut::fillRows(const QString &number)
 {
-    const auto field = [](Read place) { return RecordsetA.field(qsizetype(place)); };
-    grid.setText(row, CutColumn::Key, field(Read::Key).toString());
-    grid.setText(row, CutColumn::Place, QString::number(row));
-    grid.setText(row, CutColumn::Customer, u' ' + field(Read::Name).toString());
-    grid.setText(row, CutColumn::Label, twoPartLabel(field(Read::Type).toInt(), SelUpDown));
-    grid.setText(row, CutColumn::Number, field(Read::Number).toString());
-    grid.setText(row, CutColumn::Amount, formatBaht(numberOf(field(Read::Money))) + u' ');
-    grid.setText(row, CutColumn::Buyer, field(Read::Buyer).toString());
-    grid.setText(row, CutColumn::User, field(Read::User).toString());
+    qint32 CutTotal = 0;
+    std::array<QString, CutColumn::User + 1> texts;
+    texts[CutColumn::Label] = twoPartLabel(SelNumType, SelUpDown);
+    texts[CutColumn::Number] = number;
+    for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
+        const double money = numberOf(field(Read::Money));
+        CutTotal = addLong({CutTotal, CLng(money)});
+        texts[CutColumn::Key] = field(Read::Key).toString();
+        texts[CutColumn::Place] = QString::number(row);
+        texts[CutColumn::Customer] = u' ' + field(Read::Name).toString();
+        texts[CutColumn::Amount] = formatBaht(money) + u' ';
+        texts[CutColumn::Buyer] = field(Read::Buyer).toString();
+        texts[CutColumn::User] = field(Read::User).toString();
+        grid.setRow(row, texts);
+    }
+    grid.setText(TotalRow, CutColumn::Amount, formatBaht(CutTotal) + u" บาท"_s);
 }
 
 CutLine CutOut::lineAt(int row) const

@@ -49,7 +49,7 @@ public:
 
 private:
     void SetupSpread();
-    void writeRow(int row);
+    void fillRows(const QString &number);
     void SetupNewData8();
 
     qint32 NextCutKey = 0;

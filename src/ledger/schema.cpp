@@ -47,8 +47,10 @@ constexpr std::array Tables{
 };
 
 // Boards, scans and spelling searches read by class and number, the lists of buyers by customer.
+// Whose line it is stands in the index as well, so that the lines behind a number are listed
+// without looking up each in the table.
 constexpr std::array Indexes{
-    "CREATE INDEX %1_class ON %1 (num23, updown, numType, numValue, numBuy)",
+    "CREATE INDEX %1_class ON %1 (num23, updown, numType, numValue, numBuy, NameFK, nuser)",
     "CREATE INDEX %1_buyer ON %1 (NameFK)",
 };
 
