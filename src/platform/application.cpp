@@ -3,16 +3,36 @@
 
 #include "platform/messagebox.h"
 #include "platform/programend.h"
+#include "platform/programfolder.h"
 #include "platform/savedialog.h"
 
+#include <QDir>
 #include <QFont>
+#include <QFontDatabase>
 
 using namespace Qt::StringLiterals;
+
+#ifndef Q_OS_WIN
+namespace {
+
+/// Type that lies beside the program. The portable folder carries it for machines that have no Thai
+/// letters; elsewhere the type is the machine's.
+void takeCarriedType()
+{
+    const QDir folder(programFile(u"fonts"_s));
+    const QStringList files = folder.entryList({u"*.ttf"_s}, QDir::Files);
+    for (const QString &file : files)
+        QFontDatabase::addApplicationFont(folder.filePath(file));
+}
+
+} // namespace
+#endif
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(u"mirakla-desk"_s);
 #ifndef Q_OS_WIN
+    takeCarriedType();
     // Latin digits and Thai letters of one design. Windows has its own Thai type.
     QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s});
     type.setPointSize(11);
