@@ -79,6 +79,17 @@ int bindValue(sqlite3_stmt *statement, int place, const QVariant &value)
     }
 }
 
+/// What the rights of a file or folder say. Under Windows those of a folder are not told so.
+bool mayBeWritten(const QByteArray &path)
+{
+#ifdef Q_OS_WIN
+    const QFileInfo file(QFile::decodeName(path));
+    return !file.isFile() || file.isWritable();
+#else
+    return faccessat(AT_FDCWD, path.constData(), W_OK, AT_EACCESS) == 0;
+#endif
+}
+
 } // namespace
 
 /// The engine's handle and the statements that it has prepared once.
@@ -170,13 +181,11 @@ struct Connection::Engine
 
     /// Raises once the folder turned read-only. The engine holds its journal open and would write
     /// on, but could not remove it at the end, and nobody would learn of it before the next start
-    /// is refused. Cheap enough for each row. Under Windows rights of a folder are not told so.
+    /// is refused. Cheap enough for each row.
     void requireWritableFolder() const
     {
-#ifndef Q_OS_WIN
-        if (faccessat(AT_FDCWD, folder.constData(), W_OK, AT_EACCESS) != 0)
+        if (!mayBeWritten(folder))
             raiseFailure(SQLITE_READONLY);
-#endif
     }
 
     QString path;
@@ -189,12 +198,13 @@ struct Connection::Engine
 namespace {
 
 /// The journal and the folder have to take writing as well as the file. Rights alone do not tell,
-/// so both are tried.
+/// so both are tried; the file itself may be in use and is only asked.
 void refuseUnwritable(const QString &path)
 {
     QFile journal(path + u"-wal"_s);
     QTemporaryFile probe(path + u"-XXXXXX.tmp"_s);
-    if ((journal.exists() && !journal.open(QIODevice::ReadWrite)) || !probe.open())
+    if (!mayBeWritten(QFile::encodeName(path))
+        || (journal.exists() && !journal.open(QIODevice::ReadWrite)) || !probe.open())
         raiseFailure(SQLITE_READONLY);
 }
 
@@ -224,6 +234,9 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
         // The engine would take an emptied file for a new one and delete the journal beside it.
         if (QFile::exists(path) && QFile(path).size() == 0)
             raiseFailure(SQLITE_NOTADB);
+        // The engine would speak of a disk error where the file and its folder may only be read.
+        if (QFile::exists(path))
+            refuseUnwritable(path);
         engine.openFile(SQLITE_OPEN_READWRITE, password);
         // The engine takes an empty file with any password, and a file that it may only read;
         // both would fail later, in the middle of a ticket.
@@ -231,7 +244,6 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
             raiseFailure(SQLITE_READONLY);
         if (!isLedger(*ledger))
             raiseFailure(SQLITE_NOTADB);
-        refuseUnwritable(path);
         refuseDamaged(*ledger, path, engine.journalWaited);
     } catch (const RunTimeError &) {
         engine.abandon();
