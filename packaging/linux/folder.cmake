@@ -14,6 +14,7 @@ endif()
 set_target_properties(mirakla-desk PROPERTIES INSTALL_RPATH "$ORIGIN/lib")
 target_link_options(mirakla-desk PRIVATE -Wl,--disable-new-dtags)
 
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON) # the folder needs the program, not the tests
 install(TARGETS mirakla-desk DESTINATION .)
 install(FILES ${CMAKE_CURRENT_LIST_DIR}/qt.conf DESTINATION .)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
@@ -32,20 +33,16 @@ list(TRANSFORM types PREPEND ${type_folder}/)
 list(TRANSFORM types APPEND .ttf)
 install(FILES ${types} DESTINATION fonts)
 
-# Where Qt keeps its plugins is known only through the plugins.
 set(plugins
-    Qt6::QXcbIntegrationPlugin             # windows
-    Qt6::QComposePlatformInputContextPlugin # keys that make one letter together
-    Qt6::QIbusPlatformInputContextPlugin   # letters from the desktop's input method
-    Qt6::QCupsPrinterSupportPlugin)        # printers
-set(plugin_files "")
-foreach(plugin IN LISTS plugins)
-    list(APPEND plugin_files $<TARGET_FILE:${plugin}>)
-endforeach()
+    platforms/libqxcb.so                                           # windows
+    platforminputcontexts/libcomposeplatforminputcontextplugin.so  # keys that make a letter together
+    platforminputcontexts/libibusplatforminputcontextplugin.so     # the desktop's input method
+    printsupport/libcupsprintersupport.so)                         # printers
+list(TRANSFORM plugins PREPEND ${QT6_INSTALL_PREFIX}/${QT6_INSTALL_PLUGINS}/)
 
 install(CODE "
     set(PROGRAM \"$<TARGET_FILE:mirakla-desk>\")
-    set(PLUGINS \"${plugin_files}\")
+    set(PLUGINS \"${plugins}\")
     set(TYPES \"${types}\")
     set(FOLDER \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}\")
     include(\"${CMAKE_CURRENT_LIST_DIR}/carry.cmake\")")

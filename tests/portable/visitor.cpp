@@ -74,6 +74,10 @@ void tellFilesInUse()
 
 void keyOneTicket(QWidget *window)
 {
+    if (!window->isAncestorOf(QApplication::focusWidget())) { // the desktop has not given it keys
+        QTimer::singleShot(20, window, [window] { keyOneTicket(window); });
+        return;
+    }
     tell(u"type: "_s + typeOfThai());
     window->findChild<QWidget *>(u"Tnumber"_s)->setFocus();
     press(Qt::Key_F1);
