@@ -4,7 +4,7 @@
 
 set(folder_name mirakla-desk-${PROJECT_VERSION}-linux-${CMAKE_SYSTEM_PROCESSOR})
 set(portable_folder ${PROJECT_SOURCE_DIR}/build/portable)
-if(CMAKE_INSTALL_PREFIX_INITIALIZED_TO_DEFAULT)
+if(CMAKE_INSTALL_PREFIX STREQUAL "/usr/local") # the tool's own default, where a folder would be spilled
     set(CMAKE_INSTALL_PREFIX ${portable_folder}/${folder_name} CACHE PATH
         "Where the portable folder is laid out" FORCE)
 endif()
