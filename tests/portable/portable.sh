@@ -31,7 +31,7 @@ printf '<fontconfig><cachedir>%s</cachedir></fontconfig>\n' "$place/cache" >"$pl
 # visit [COMMAND...]: starts the program below COMMAND, and leaves its words in $place/seen.
 visit()
 {
-    (cd / && env -i PATH="$PATH" HOME="$place" TMPDIR="$place" LC_ALL=C.UTF-8 \
+    (cd "$place" && env -i PATH="$PATH" HOME="$place" TMPDIR="$place" LC_ALL=C.UTF-8 \
         SDL_AUDIODRIVER=dummy FONTCONFIG_FILE="$place/fonts.conf" \
         QT_PLUGIN_PATH="$plugins" QT_QPA_GENERIC_PLUGINS=visitor \
         xvfb-run -a -s "-screen 0 1366x768x24" timeout 20 "$@" "$folder/mirakla-desk") \
@@ -52,6 +52,7 @@ rows=$(sqlcipher "$book" "PRAGMA key = '639417'; PRAGMA cipher_compatibility = 3
 [[ $rows == '0|3|-1|1|123|100' ]] || fail "the ticket stands in the book as: $rows"
 [[ ! -e $book-wal ]] || fail "the book was not closed"
 [[ $(saw type) == 'Noto Sans, Noto Sans Thai' ]] || fail "Thai is drawn with: $(saw type)"
+pdffonts "$place/paper.pdf" | grep -q 'NotoSansThai.*Identity-H *yes' || fail "Thai is not printed"
 
 # Whatever the folder carries has to come from there, and Qt from nowhere else.
 grep -qF "file: $folder/plugins/platforms/libqxcb.so" "$place/seen" || fail "no window system"

@@ -9,6 +9,8 @@
 #include <QGlyphRun>
 #include <QKeyEvent>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPdfWriter>
 #include <QRawFont>
 #include <QTextLayout>
 #include <QTimer>
@@ -39,10 +41,12 @@ void type(const QString &text)
         press(character.toUpper().unicode(), character);
 }
 
+const QString Thai = u"งวดนี้ น้ำ 123"_s;
+
 /// Families that draw a Thai text with its marks, or "no letters" where one is missing.
 QString typeOfThai()
 {
-    QTextLayout layout(u"งวดนี้ น้ำ 123"_s, QApplication::font());
+    QTextLayout layout(Thai, QApplication::font());
     layout.beginLayout();
     layout.createLine();
     layout.endLayout();
@@ -53,6 +57,12 @@ QString typeOfThai()
     families.removeDuplicates();
     families.sort();
     return families.join(u", "_s);
+}
+
+void printThai()
+{
+    QPdfWriter paper(u"paper.pdf"_s);
+    QPainter(&paper).drawText(1000, 1000, Thai);
 }
 
 /// Files that the process has mapped, each once.
@@ -79,6 +89,7 @@ void keyOneTicket(QWidget *window)
         return;
     }
     tell(u"type: "_s + typeOfThai());
+    printThai();
     window->findChild<QWidget *>(u"Tnumber"_s)->setFocus();
     press(Qt::Key_F1);
     type(u"123-100"_s);
