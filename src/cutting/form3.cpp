@@ -15,6 +15,7 @@
 #include "runtime/values.h"
 #include "shell/globals.h"
 
+#include <QFocusEvent>
 #include <QScopeGuard>
 #include <QShortcut>
 
@@ -47,7 +48,6 @@ Form3::Form3(const Frame &frame, BoardOpeners openers, QWidget *parent)
     m_ui->lvButtons_H6->setEnabled(bool(m_openers.showScan));
     m_ui->lvButtons_H7->hide();
     m_ui->Frame2->hide();
-    setFocusProxy(m_ui->fpSpread1);
     connectControls();
     Form_Load();
 }
@@ -55,6 +55,13 @@ Form3::Form3(const Frame &frame, BoardOpeners openers, QWidget *parent)
 Form3::~Form3()
 {
     m_strip.hide();
+}
+
+/// The page is worked from the first board on. As a focus proxy that board would have Tab jump
+/// past all that stands before it.
+void Form3::focusInEvent(QFocusEvent *event)
+{
+    m_ui->fpSpread1->setFocus(event->reason());
 }
 
 void Form3::connectControls()

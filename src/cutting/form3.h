@@ -48,6 +48,9 @@ public:
     /// board is loaded anew, @p scanAgain runs if there is one, then the filter is let go of.
     void showCutNum(QWidget *owner, const std::function<void()> &scanAgain = {});
 
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+
 private:
     void connectControls();
     void Form_Load();

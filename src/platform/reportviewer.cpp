@@ -5,6 +5,7 @@
 
 #include <QAction>
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QGuiApplication>
 #include <QLabel>
 #include <QToolBar>
@@ -31,19 +32,15 @@ QLabel *toolLabel(const QString &name, const QString &longest, QWidget *parent)
 } // namespace
 
 ReportViewer::ReportViewer(QWidget *parent)
-    : QWidget(parent), m_tools(new QToolBar(this)), m_pages(new PageView(this)),
+    : QWidget(parent), m_tools(new QToolBar(this)),
       m_place(toolLabel(u"place"_s, u" 999 / 999 "_s, this)),
       m_percent(toolLabel(u"percent"_s, u" 400% "_s, this))
 {
     m_tools->setObjectName(u"tools"_s);
-    m_pages->setObjectName(u"pages"_s);
-    m_pages->setAccessibleName(u"หน้ารายงาน"_s);
-    setFocusProxy(m_pages);
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
     layout->addWidget(m_tools);
-    layout->addWidget(m_pages, 1);
 
     addTool(u"คัดลอกหน้านี้"_s, u"copy"_s, &ReportViewer::copyPage);
     m_tools->addSeparator();
@@ -59,6 +56,10 @@ ReportViewer::ReportViewer(QWidget *parent)
     m_tools->addWidget(m_place);
     addTool(u"ถัดไป ▶"_s, u"next"_s, &ReportViewer::nextPage);
     addTool(u"หน้าสุดท้าย"_s, u"last"_s, &ReportViewer::lastPage);
+    m_pages = new PageView(this); // behind the tools, so that Tab comes to it after them
+    m_pages->setObjectName(u"pages"_s);
+    m_pages->setAccessibleName(u"หน้ารายงาน"_s);
+    layout->addWidget(m_pages, 1);
     connect(m_pages, &PageView::pageChanged, this, &ReportViewer::showPlace);
     connect(m_pages, &PageView::zoomChanged, this, &ReportViewer::showPlace);
 }
@@ -67,7 +68,16 @@ void ReportViewer::addTool(const QString &text, const QString &name, void (Repor
 {
     QAction *tool = m_tools->addAction(text);
     tool->setObjectName(name);
+    QWidget *button = m_tools->widgetForAction(tool);
+    button->setObjectName(name);
+    button->setFocusPolicy(Qt::TabFocus);
     connect(tool, &QAction::triggered, this, run);
+}
+
+/// A focus proxy would have Tab jump past the tools.
+void ReportViewer::focusInEvent(QFocusEvent *event)
+{
+    m_pages->setFocus(event->reason());
 }
 
 void ReportViewer::setReport(const ReportPages &report)

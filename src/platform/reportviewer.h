@@ -25,6 +25,9 @@ public:
     /// prints.
     QAction *tool(int index) const;
 
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+
 private:
     void addTool(const QString &text, const QString &name, void (ReportViewer::*run)());
     void copyPage();
@@ -39,7 +42,7 @@ private:
     void showPlace();
 
     QToolBar *m_tools;
-    PageView *m_pages;
+    PageView *m_pages = nullptr;
     QLabel *m_place; ///< "3 / 42"
     QLabel *m_percent;
 };
