@@ -30,8 +30,8 @@ void Form5::Form_Load()
     m_ui->fpSpread1->setColumnDigits(LogDateColumn, 16);
     m_ui->fpSpread1->setColumnDigits(LogTopColumn, 12);
     m_ui->fpSpread1->setColumnDigits(LogBottomTwoColumn, 12);
-    m_ui->fpSpread1->setColumnDigits(LogPayoutColumn, 20);
-    m_ui->fpSpread1->setColumnDigits(LogProfitColumn, 20);
+    m_ui->fpSpread1->setColumnDigits(LogPayoutColumn, 15);
+    m_ui->fpSpread1->setColumnDigits(LogProfitColumn, 15);
     m_ui->fpSpread1->setColumnDigits(m_draws.columns(), 0);
 }
 

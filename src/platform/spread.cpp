@@ -7,12 +7,36 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+/// Narrows what is wider than its cell.
+class CellDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const QStyle *style = option->widget->style();
+        const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget);
+        option->font = SpreadHeader::narrowed(option->font, option->text,
+                                              option->rect.width() - 2 * (margin + 1));
+        option->fontMetrics = QFontMetrics(option->font);
+    }
+};
+
+} // namespace
+
 Spread::Spread(QWidget *parent) : QTableView(parent)
 {
+    setItemDelegate(new CellDelegate(this));
     setHorizontalHeader(new SpreadHeader(this));
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);

@@ -32,6 +32,15 @@ int SpreadHeader::rowHeight(const QFont &font)
     return std::max({LeastRowHeight, metrics.height() + 2, thai + 2});
 }
 
+QFont SpreadHeader::narrowed(QFont type, const QString &text, int room)
+{
+    constexpr int Narrowest = 60; // percent
+    const int width = QFontMetrics(type).horizontalAdvance(text);
+    if (room > 0 && width > room)
+        type.setStretch(std::max(Narrowest, (100 * room - width) / width));
+    return type;
+}
+
 QSize SpreadHeader::sizeHint() const
 {
     const int rows = spread() ? std::max(spread()->headerRows(), 1) : 1;
@@ -90,8 +99,8 @@ void SpreadHeader::paintCell(QPainter &painter, int row, int column) const
 
     QFont type = font();
     type.setBold(cell.bold);
-    painter.setFont(type);
+    const QRect room = place.adjusted(CellMargin, 0, -CellMargin, 0);
+    painter.setFont(narrowed(type, cell.text, room.width()));
     painter.setPen(palette().color(QPalette::ButtonText));
-    painter.drawText(place.adjusted(CellMargin, 0, -CellMargin, 0),
-                     int(cell.alignment) | Qt::TextSingleLine, cell.text);
+    painter.drawText(room, int(cell.alignment) | Qt::TextSingleLine, cell.text);
 }
