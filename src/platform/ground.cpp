@@ -2,6 +2,7 @@
 #include "platform/ground.h"
 
 #include <QFrame>
+#include <QLabel>
 
 void paintGround(QWidget *widget, QRgb ground)
 {
@@ -10,6 +11,9 @@ void paintGround(QWidget *widget, QRgb ground)
     colors.setColor(box ? QPalette::Window : QPalette::Base, QColor(ground));
     colors.setColor(box ? QPalette::WindowText : QPalette::Text, Qt::black);
     widget->setPalette(colors);
-    if (box)
-        widget->setAutoFillBackground(true);
+    if (!box)
+        return;
+    widget->setAutoFillBackground(true);
+    for (auto *label : widget->findChildren<QLabel *>())
+        label->setPalette(colors); // with a style sheet in force they inherit no colours
 }
