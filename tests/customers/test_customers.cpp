@@ -2,20 +2,11 @@
 // The page of customers under the keyer's hands.
 #include "customers/form2.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
-#include "support/hands.h"
-#include "support/noprogress.h"
+#include "support/formtest.h"
 #include "support/outcome.h"
-#include "support/testledger.h"
 
 #include <QClipboard>
 #include <QGroupBox>
-#include <QLineEdit>
-#include <QTest>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -29,14 +20,11 @@ const QString Saved = u"บันทึก รายการ เข้าสู
 
 } // namespace
 
-class CustomersTest : public QObject
+class CustomersTest : public FormTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void customerIsAddedByKeys();
     void addRefuses_data();
     void addRefuses();
@@ -54,13 +42,7 @@ private slots:
     void deleteKeyEditsInAField();
 
 private:
-    template<typename Control>
-    Control *control(const char *name) const
-    {
-        return m_page->findChild<Control *>(QLatin1String(name));
-    }
-    QString text(const char *field) const { return control<QLineEdit>(field)->text(); }
-    void click(const char *button) const { Hands::click(control<PushButton>(button)); }
+    void prepare() override;
     void fill(const QString &name, const QString &telephone, const QString &percent)
     {
         control<QLineEdit>("Tname")->setText(name);
@@ -73,43 +55,19 @@ private:
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                           list->visualRect(list->model()->index(row - 1, 2)).center());
     }
-    QStringList names() const
-    {
-        QStringList names;
-        const auto *list = control<Spread>("fpSpread1");
-        for (int row = 1; row <= list->rows(); ++row)
-            names += list->text(row, NameColumn);
-        return names;
-    }
+    QStringList names() const { return column(NameColumn); }
     QStringList stored() const
     {
         return m_ledger->run(u"SELECT MPK, Mname, Mber, Mpercen FROM tblMember WHERE MPK > 0"_s);
     }
-
-    std::optional<TestLedger> m_ledger;
-    NoProgress m_progress;
-    std::optional<Hands> m_hands;
-    std::optional<Form2> m_page;
 };
 
-void CustomersTest::init()
+void CustomersTest::prepare()
 {
-    m_ledger.emplace();
     m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
     m_ledger->addMember(2, u"แก้ว"_s, u"5"_s);
     m_ledger->addMember(3, u"Lek"_s, u"0"_s);
-    m_hands.emplace();
-    m_page.emplace(m_progress, nullptr);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_page));
-}
-
-void CustomersTest::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_page.reset();
-    m_hands.reset();
-    m_ledger.reset();
+    show(std::make_unique<Form2>(m_progress, nullptr));
 }
 
 void CustomersTest::customerIsAddedByKeys()
@@ -337,8 +295,6 @@ void CustomersTest::deleteKeyEditsInAField()
 
 int main(int argc, char **argv)
 {
-    const Application application(argc, argv);
-    CustomersTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<CustomersTest>(argc, argv);
 }
 #include "test_customers.moc"

@@ -1,35 +1,21 @@
 // SPDX-License-Identifier: MIT
-// The board, the cut-out and the cut numbers in the real program, under real keys and clicks.
-#include "cutting/cutnum.h"
-#include "cutting/form3.h"
-#include "cutting/selection.h"
+// The board in the real program, under real keys and clicks.
+#include "cutting/boardtest.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
 #include "platform/combo.h"
-#include "platform/programfolder.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
 #include "platform/tabstrip.h"
 #include "platform/workprogress.h"
-#include "program.h"
 #include "shell/globals.h"
-#include "support/hands.h"
-#include "support/testledger.h"
 
 #include <QLabel>
-#include <QLineEdit>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
-class Form3Test : public QObject
+class Form3Test : public BoardTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void bookIsShownOnTheTopTab();
     void emptySideKeepsItsOldSum();
     void filterShowsOneCustomer();
@@ -44,37 +30,18 @@ private slots:
     void closingTheSettingsReloads();
     void leavingThePageHidesTheStrip();
     void openersEnableTheirButtons();
-
-    void amountIsChecked_data();
-    void amountIsChecked();
-    void activeRowIsCut();
-    void slipOfTheMouseNamesTheActiveRow();
     void enterOpensAfterAReload();
     void boardDecidesWhetherADrawCanBeClosed_data();
     void boardDecidesWhetherADrawCanBeClosed();
-    void lineIsRemoved();
-    void dialogClosesOnce_data();
-    void dialogClosesOnce();
 
 private:
-    template<typename Control>
-    Control *control(const char *name) const
-    {
-        return page().findChild<Control *>(QLatin1String(name));
-    }
     template<typename Control>
     Control *banner(const char *name) const
     {
         return m_window->findChild<QWidget *>(u"Toolbar1"_s)
             ->findChild<Control *>(QLatin1String(name));
     }
-    Form3 &page() const { return *static_cast<Form3 *>(m_window->page()); }
-    Spread *grid(int number) const
-    {
-        return control<Spread>(qPrintable(u"fpSpread%1"_s.arg(number)));
-    }
-    QString total(int number) const { return grid(number)->text(-999, 2); }
-    QString text(const char *field) const { return control<QLineEdit>(field)->text(); }
+    Form3 &page() const { return *static_cast<Form3 *>(form()); }
     QStringList strip() const
     {
         QStringList texts{banner<QWidget>("Frame6")->isVisible() ? u"shown"_s : u"hidden"_s};
@@ -104,19 +71,6 @@ private:
         Hands::type(name);
         Hands::press(Qt::Key_Return);
     }
-    /// Opens the cut-out of a board's first row with Enter; @p work is done in it.
-    void cut(int board, const std::function<void(QWidget *)> &work)
-    {
-        m_hands->inNextDialog([&](QWidget *dialog) {
-            if (!Hands::focusComesTo(dialog))
-                qFatal("the cut-out did not come to the front");
-            work(dialog);
-            dialog->close();
-        });
-        grid(board)->setFocus();
-        grid(board)->setActiveRow(1);
-        Hands::press(Qt::Key_Return);
-    }
     void confirm(QWidget *dialog, const QString &amount)
     {
         dialog->findChild<Spread *>()->setFocus();
@@ -128,37 +82,7 @@ private:
         m_hands->answerNextWithOk();
         Hands::press(Qt::Key_Return);
     }
-
-    std::optional<TestLedger> m_ledger;
-    std::optional<Hands> m_hands;
-    std::unique_ptr<MDIForm1> m_window;
 };
-
-void Form3Test::init()
-{
-    m_ledger.emplace();
-    m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
-    m_ledger->addMember(2, u"สมหญิง"_s, u"5"_s);
-    m_ledger->addMember(3, u"นารี"_s, u"5"_s);
-    m_ledger->run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy, nuser)"
-                  " VALUES (1, 3, -1, 1, '123', 1000, 'sv'), (2, 3, -1, 1, '123', 500, 'sv'),"
-                  " (2, 3, -1, 1, '456', 200, 'sv'), (1, 3, 0, 1, '123', 300, 'sv'),"
-                  " (2, 1, 0, 3, '7', 40, 'sv')"_s);
-    CloseLedger();
-    m_hands.emplace();
-    MemberFilterOn = false;
-    m_window = startProgram();
-    QVERIFY(m_window && QTest::qWaitForWindowActive(m_window.get()));
-    Hands::click(m_window->findChild<PushButton *>(u"lvButtons_H2"_s));
-}
-
-void Form3Test::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_window.reset();
-    m_hands.reset();
-    m_ledger.reset();
-}
 
 void Form3Test::bookIsShownOnTheTopTab()
 {
@@ -365,94 +289,6 @@ void Form3Test::openersEnableTheirButtons()
                                                "โปรดลองใหม่อีกครั้ง . .  ."_s));
 }
 
-void Form3Test::amountIsChecked_data()
-{
-    QTest::addColumn<bool>("chosen");
-    QTest::addColumn<QString>("amount");
-    QTest::addColumn<QString>("box");
-    QTest::addColumn<QString>("left"); // in the field
-    const QString zero = u"ไม่สามารถคัดเลขได้ ( จำนวนเงินที่คุณระบุ = 0 ) โปรดลองใหม่อีกครั้ง . .. ."_s;
-    QTest::newRow("no customer chosen")
-        << false << u"5"_s << u"กรุณาเลือก ( ลูกค้าที่ต้องการคัดเลข ก่อน ) โปรดลองใหม่อีกครั้ง . . ."_s
-        << u"5"_s;
-    QTest::newRow("no amount") << true << u"  "_s
-                               << u"กรุณาระบุ ( จำนวนเงิน ) ที่ต้องการคัดออก  ก่อนเริ่มบันทึก"_s << u"  "_s;
-    QTest::newRow("zero") << true << u"0"_s << zero << u"0"_s;
-    QTest::newRow("two zeros pass") << true << u"00"_s << u"คัดออกเป็นเงิน =  บาท"_s << u"00"_s;
-    QTest::newRow("more than the line")
-        << true << u"1001"_s
-        << u"ไม่สามารถคัดเลขได้ ( จำนวนเงินที่คัดออกมีมากเกินไป ) โปรดลองใหม่อีกครั้ง . .. ."_s << u"1000"_s;
-    QTest::newRow("part") << true << u"999"_s << u"คัดออกเป็นเงิน = 999 บาท"_s << u"999"_s;
-}
-
-void Form3Test::amountIsChecked()
-{
-    QFETCH(bool, chosen);
-    QFETCH(QString, amount);
-    QString left;
-    cut(1, [&](QWidget *dialog) {
-        auto *lines = dialog->findChild<Spread *>();
-        if (chosen)
-            QTest::mouseClick(lines->viewport(), Qt::LeftButton, {}, {40, 10});
-        auto *field = dialog->findChild<QLineEdit *>(u"text1"_s);
-        field->setText(amount);
-        Hands::click(dialog->findChild<PushButton *>(u"lvButtons_H3"_s)); // Enter answers Cancel
-        left = field->text();
-    });
-    QFETCH(QString, box);
-    QCOMPARE(m_hands->takeBoxes(), QStringList(box));
-    QTEST(left, "left");
-    QCOMPARE(m_ledger->run(u"SELECT sum(numBuy) FROM tblNumber"_s), QStringList(u"2040"_s));
-}
-
-void Form3Test::activeRowIsCut()
-{
-    QString named;
-    int rows = -1;
-    cut(1, [&](QWidget *dialog) {
-        auto *lines = dialog->findChild<Spread *>();
-        Hands::press(Qt::Key_Space);
-        Hands::press(Qt::Key_Down); // to the line of the other, without choosing him
-        named = dialog->findChild<QLineEdit *>(u"Tname"_s)->text();
-        auto *amount = dialog->findChild<QLineEdit *>(u"text1"_s);
-        amount->setFocus();
-        Hands::type(u"500"_s);
-        for (int cuts = 0; cuts < 2; ++cuts) { // the whole line of 500, then 500 of the other
-            m_hands->answerNextWithOk();
-            Hands::press(Qt::Key_Return);
-        }
-        m_hands->answerNextWithOk();
-        Hands::press(Qt::Key_Return); // the rest; no line is left
-        Hands::press(Qt::Key_Return);
-        rows = lines->rows();
-    });
-    QCOMPARE(named, u" สมชาย"_s);
-    QCOMPARE(rows, 0);
-    QCOMPARE(m_hands->takeBoxes(), QStringList(3, u"คัดออกเป็นเงิน = 500 บาท"_s));
-    QCOMPARE(m_ledger->run(u"SELECT NPK, NameFK, numBuy FROM tblNumberCut"_s),
-             QStringList({u"1 2 500"_s, u"2 1 500"_s, u"3 1 500"_s}));
-    QCOMPARE(grid(1)->text(1, 1), u"456"_s);
-}
-
-void Form3Test::slipOfTheMouseNamesTheActiveRow()
-{
-    cut(1, [&](QWidget *dialog) {
-        auto *lines = dialog->findChild<Spread *>();
-        const auto *name = dialog->findChild<QLineEdit *>(u"Tname"_s);
-        const auto place = [&](int row, int column) {
-            return lines->visualRect(lines->model()->index(row - 1, column)).center();
-        };
-        QTest::mousePress(lines->viewport(), Qt::LeftButton, {}, place(2, 4));
-        QTest::mouseRelease(lines->viewport(), Qt::LeftButton, {}, place(2, 5));
-        QCOMPARE(name->text(), u" สมหญิง"_s);
-        QTest::mouseClick(lines->viewport(), Qt::RightButton, {}, place(1, 4));
-        lines->setFocus();
-        Hands::type(u"1"_s); // meant for the amount
-        QCOMPARE(lines->activeRow(), 2);
-        QCOMPARE(name->text(), u" สมหญิง"_s);
-    });
-}
-
 void Form3Test::enterOpensAfterAReload()
 {
     filter(u"สมห"_s);
@@ -506,53 +342,8 @@ void Form3Test::boardDecidesWhetherADrawCanBeClosed()
                                : u"ไม่สามารถลบข้อมูลได้ ( ไม่มีข้อมูลเลข ) อยู่ในฐานข้อมูล . . . . ."_s));
 }
 
-void Form3Test::lineIsRemoved()
-{
-    cut(1, [&](QWidget *dialog) {
-        auto *button = dialog->findChild<PushButton *>(u"lvButtons_H1"_s);
-        Hands::click(button); // Enter answers Cancel
-        for (int line = 0; line < 2; ++line) {
-            m_hands->answerNextWithOk();
-            Hands::click(button);
-        }
-        Hands::click(button); // no row, no question
-    });
-    const QString first = u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[ สมชาย ][ 123 ][ 1,000 บาท ]"_s;
-    const QString second = u"คุณแน่ใจว่าต้องการลบข้อมูล \n\n[ สมหญิง ][ 123 ][ 500 บาท ]"_s;
-    QCOMPARE(m_hands->takeBoxes(), QStringList({first, first, second}));
-    QCOMPARE(total(1), u"200"_s);
-    QCOMPARE(m_ledger->run(u"SELECT * FROM tblNumberCut"_s), QStringList());
-}
-
-void Form3Test::dialogClosesOnce_data()
-{
-    QTest::addColumn<bool>("byKey");
-    QTest::newRow("Esc") << true;
-    QTest::newRow("the window's cross") << false;
-}
-
-void Form3Test::dialogClosesOnce()
-{
-    QFETCH(bool, byKey);
-    int unloads = 0;
-    CutNum dialog([&] { ++unloads; }, m_window.get());
-    dialog.open();
-    QVERIFY(Hands::focusComesTo(&dialog));
-    if (byKey)
-        Hands::press(Qt::Key_Escape);
-    else
-        dialog.close();
-    QVERIFY(!dialog.isVisible());
-    dialog.close();
-    QCOMPARE(unloads, 1);
-}
-
 int main(int argc, char **argv)
 {
-    static const QTemporaryDir ownPlace; // a running program is no second copy of this one
-    qputenv("TMPDIR", ownPlace.path().toUtf8());
-    const Application application(argc, argv);
-    Form3Test test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<Form3Test>(argc, argv);
 }
 #include "test_form3.moc"

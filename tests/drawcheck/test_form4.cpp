@@ -2,21 +2,12 @@
 // The page of the draw check under the agent's hands: seventeen digits, two books, two amounts.
 #include "drawcheck/form4.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
 #include "shell/globals.h"
-#include "support/hands.h"
-#include "support/noprogress.h"
+#include "support/formtest.h"
 #include "support/outcome.h"
-#include "support/testledger.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QRadioButton>
-#include <QTest>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -29,14 +20,11 @@ const QString Result = u"12345678901234567"_s;
 
 } // namespace
 
-class Form4Test : public QObject
+class Form4Test : public FormTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void digitsAreKeyedInOneRun();
     void missingDigitIsShown_data();
     void missingDigitIsShown();
@@ -47,12 +35,7 @@ private slots:
     void printsOnlyWhatIsThere();
 
 private:
-    template<typename Control>
-    Control *control(const char *name) const
-    {
-        return m_page->findChild<Control *>(QLatin1String(name));
-    }
-    void click(const char *button) { Hands::click(control<PushButton>(button)); }
+    void prepare() override;
     QString amounts() const
     {
         return control<QLabel>("Label19")->text() + u" / "_s + control<QLabel>("Label21")->text();
@@ -60,35 +43,18 @@ private:
     int rows() const { return control<Spread>("fpSpread1")->rows(); }
     void makePage(Form4::Printer printer = {})
     {
-        m_page.emplace(m_progress, std::move(printer), nullptr);
-        m_page->show();
-        m_page->setFocus();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_page));
+        show(std::make_unique<Form4>(m_progress, std::move(printer), nullptr));
+        form()->setFocus();
     }
-
-    std::optional<TestLedger> m_ledger;
-    NoProgress m_progress;
-    std::optional<Hands> m_hands;
-    std::optional<Form4> m_page;
 };
 
-void Form4Test::init()
+void Form4Test::prepare()
 {
-    m_ledger.emplace();
     m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
     m_ledger->run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy)"
                   " VALUES (1, 3, -1, 1, '123', 60), (1, 3, -1, 1, '999', 99940)"_s);
     LoadMoney();
-    m_hands.emplace();
     makePage();
-}
-
-void Form4Test::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_page.reset();
-    m_hands.reset();
-    m_ledger.reset();
 }
 
 void Form4Test::digitsAreKeyedInOneRun()
@@ -150,7 +116,7 @@ void Form4Test::clearKeepsWhatWasFound()
     click("Command18");
     click("lvButtons_H1");
     QCOMPARE(Hands::focus()->objectName(), u"text4"_s);
-    for (const auto *box : m_page->findChildren<QLineEdit *>())
+    for (const auto *box : form()->findChildren<QLineEdit *>())
         QCOMPARE(box->text(), QString());
     QCOMPARE(amounts(), u"30,000 / 70,000"_s);
     QCOMPARE(rows(), 1);
@@ -199,8 +165,6 @@ void Form4Test::printsOnlyWhatIsThere()
 
 int main(int argc, char **argv)
 {
-    const Application application(argc, argv);
-    Form4Test test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<Form4Test>(argc, argv);
 }
 #include "test_form4.moc"

@@ -2,24 +2,16 @@
 // The page of bet entry under the keyer's hands: real keys, clicks and boxes.
 #include "entry/form1.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
 #include "platform/combo.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
 #include "platform/tabstrip.h"
 #include "platform/workprogress.h"
-#include "support/hands.h"
+#include "support/formtest.h"
 #include "support/outcome.h"
-#include "support/testledger.h"
 
 #include <QCheckBox>
 #include <QInputMethodEvent>
 #include <QLabel>
-#include <QLineEdit>
-#include <QTest>
 #include <QWheelEvent>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -29,14 +21,11 @@ const QString Prompt = u"คลิกเพื่อใส่เลขใหม�
 
 } // namespace
 
-class Form1Test : public QObject
+class Form1Test : public FormTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void lineIsKeyedWithEnterAlone();
     void refusedLineStaysForCorrection();
     void lineWithoutAKindSendsToTheKinds();
@@ -53,19 +42,13 @@ private slots:
     void failedSaveEndsWithTheReport();
 
 private:
-    template<typename Control>
-    Control *control(const char *name) const
-    {
-        return m_page->findChild<Control *>(QLatin1String(name));
-    }
-    QString text(const char *field) const { return control<QLineEdit>(field)->text(); }
+    void prepare() override;
     QStringList tabs() const
     {
         const auto *strip = control<TabStrip>("SSTab1");
         return {strip->tabText(0), strip->tabText(1)};
     }
     void choose(const char *combo, int index) { control<Combo>(combo)->setListIndex(index); }
-    void click(const char *button) { Hands::click(control<PushButton>(button)); }
     void key(const QString &line)
     {
         Hands::click(control<QLineEdit>("Tnumber"));
@@ -73,31 +56,14 @@ private:
         Hands::press(Qt::Key_Return);
     }
 
-    std::optional<TestLedger> m_ledger;
-    std::optional<WorkProgress> m_progress;
-    std::optional<Hands> m_hands;
-    std::optional<Form1> m_page;
+    WorkProgress m_bar;
 };
 
-void Form1Test::init()
+void Form1Test::prepare()
 {
-    m_ledger.emplace();
     m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
     m_ledger->addMember(2, u"สมหญิง"_s, u"0"_s);
-    m_progress.emplace();
-    m_hands.emplace();
-    m_page.emplace(*m_progress, nullptr);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_page));
-}
-
-void Form1Test::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_page.reset();
-    m_hands.reset();
-    m_progress.reset();
-    m_ledger.reset();
+    show(std::make_unique<Form1>(m_bar, nullptr));
 }
 
 void Form1Test::lineIsKeyedWithEnterAlone()
@@ -216,9 +182,7 @@ void Form1Test::nameIsCompletedAndTakenBack()
 void Form1Test::spelledOutNameIsChosen()
 {
     m_ledger->addMember(3, u"สม"_s, u"5"_s);
-    m_page.emplace(*m_progress, nullptr);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_page));
+    show(std::make_unique<Form1>(m_bar, nullptr));
     choose("Combo2", 1);
     key(u"12-1000"_s);
     Hands::press(Qt::Key_Tab);
@@ -318,7 +282,7 @@ void Form1Test::saveAsksAndResets()
              QStringList({u"ยังไม่เลือกลูกค้า"_s, u"0"_s, QString(), QString()}));
     QCOMPARE(tabs(), QStringList({u"   ล่าง ( ยอดรวม 0 )"_s, u"   บน ( ยอดรวม 0 )"_s}));
     QCOMPARE(control<QLabel>("Label3")->text(), u"วิ่งบน"_s);
-    QVERIFY(m_progress->isHidden());
+    QVERIFY(m_bar.isHidden());
 }
 
 void Form1Test::failedSaveEndsWithTheReport()
@@ -338,8 +302,6 @@ void Form1Test::failedSaveEndsWithTheReport()
 int main(int argc, char **argv)
 {
     qputenv("SDL_AUDIODRIVER", "none at all"); // keying goes on unhindered
-    const Application application(argc, argv);
-    Form1Test test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<Form1Test>(argc, argv);
 }
 #include "test_form1.moc"

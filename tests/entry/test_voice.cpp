@@ -2,25 +2,17 @@
 // Kind keys and the voice: what the keys choose, and what is heard, taken from the sound device.
 #include "entry/form1.h"
 #include "entry/voice.h"
-#include "platform/application.h"
 #include "platform/combo.h"
 #include "platform/programfolder.h"
-#include "platform/spread.h"
-#include "platform/workprogress.h"
-#include "support/hands.h"
-#include "support/testledger.h"
+#include "support/formtest.h"
 
 #include <QCheckBox>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 
 #include <SDL_mixer.h>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -50,14 +42,11 @@ QByteArray wordSamples(const QString &name)
 
 } // namespace
 
-class VoiceTest : public QObject
+class VoiceTest : public FormTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void kindKeysChooseTheKind_data();
     void kindKeysChooseTheKind();
     void kindKeyThrowsHalfALineAway();
@@ -72,11 +61,7 @@ private slots:
     void brokenRecordingStaysSilent();
 
 private:
-    template<typename Control>
-    Control *control(const char *name) const
-    {
-        return m_page->findChild<Control *>(QLatin1String(name));
-    }
+    void prepare() override;
     void turnVoiceOn() const
     {
         Hands::click(control<QCheckBox>("C01"));
@@ -94,31 +79,13 @@ private:
         return found;
     }
 
-    std::optional<TestLedger> m_ledger;
-    std::optional<WorkProgress> m_progress;
-    std::optional<Hands> m_hands;
-    std::optional<Form1> m_page;
     qsizetype m_heard = 0;
 };
 
-void VoiceTest::init()
+void VoiceTest::prepare()
 {
-    m_ledger.emplace();
     copyProgramData(QCoreApplication::applicationDirPath(), programFolder());
-    m_progress.emplace();
-    m_hands.emplace();
-    m_page.emplace(*m_progress, nullptr);
-    m_page->show();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_page));
-}
-
-void VoiceTest::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_page.reset();
-    m_hands.reset();
-    m_progress.reset();
-    m_ledger.reset();
+    show(std::make_unique<Form1>(m_progress, nullptr));
 }
 
 void VoiceTest::kindKeysChooseTheKind_data()
@@ -233,7 +200,7 @@ void VoiceTest::voiceEndsAtOnce()
     const qsizetype begin = recorded().size();
     Hands::press(Qt::Key_9);
     if (byLeavingThePage)
-        m_page.reset();
+        m_form.reset();
     else
         Hands::click(control<QCheckBox>("C01"));
     const QByteArray word = wordSamples(u"9"_s);
@@ -266,7 +233,7 @@ void VoiceTest::pictureGoesWithTheMainWindow()
     };
     Hands::click(control<QPushButton>("Label12"));
     QCOMPARE(pictures(), 1);
-    m_page.reset(); // here the page is its own main window
+    m_form.reset(); // here the page is its own main window
     QCOMPARE(pictures(), 0);
 }
 
@@ -290,8 +257,6 @@ int main(int argc, char **argv)
     qputenv("SDL_AUDIODRIVER", "disk"); // what would be heard is written to a file
     qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(soundFolder.filePath(u"heard"_s)));
     qputenv("SDL_DISKAUDIODELAY", "2"); // milliseconds a buffer: five times as fast as heard
-    const Application application(argc, argv);
-    VoiceTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<VoiceTest>(argc, argv);
 }
 #include "test_voice.moc"

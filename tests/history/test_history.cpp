@@ -3,68 +3,35 @@
 #include "history/drawlog.h"
 #include "history/form5.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
-#include "support/hands.h"
-#include "support/noprogress.h"
-#include "support/testledger.h"
-
-#include <QTest>
-
-#include <optional>
+#include "support/formtest.h"
 
 using namespace Qt::StringLiterals;
 
-class HistoryTest : public QObject
+class HistoryTest : public FormTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
     void newestDrawComesFirst();
     void cellsReadAsStored_data();
     void cellsReadAsStored();
     void oneDrawIsDeleted();
 
 private:
+    void prepare() override;
     void openPage()
     {
-        m_page.emplace(m_progress, nullptr);
-        m_grid = m_page->findChild<Spread *>(u"fpSpread1"_s);
-        m_page->show();
-        QVERIFY(QTest::qWaitForWindowActive(&*m_page));
+        show(std::make_unique<Form5>(m_progress, nullptr));
+        m_grid = control<Spread>("fpSpread1");
     }
-    QStringList column(int column) const
-    {
-        QStringList texts;
-        for (int row = 1; row <= m_grid->rows(); ++row)
-            texts += m_grid->text(row, column);
-        return texts;
-    }
-    void clickDelete() { Hands::click(m_page->findChild<PushButton *>(u"lvButtons_H1"_s)); }
+    void clickDelete() const { click("lvButtons_H1"); }
 
-    std::optional<TestLedger> m_ledger;
-    NoProgress m_progress;
-    std::optional<Hands> m_hands;
-    std::optional<Form5> m_page;
     Spread *m_grid = nullptr;
 };
 
-void HistoryTest::init()
+void HistoryTest::prepare()
 {
     qputenv("LC_ALL", "th_TH.UTF-8");
-    m_ledger.emplace();
-    m_hands.emplace();
-}
-
-void HistoryTest::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_page.reset();
-    m_hands.reset();
-    m_ledger.reset();
 }
 
 void HistoryTest::newestDrawComesFirst()
@@ -127,8 +94,6 @@ void HistoryTest::oneDrawIsDeleted()
 
 int main(int argc, char **argv)
 {
-    const Application application(argc, argv);
-    HistoryTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<HistoryTest>(argc, argv);
 }
 #include "test_history.moc"

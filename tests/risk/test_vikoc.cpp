@@ -2,34 +2,22 @@
 // The dialogs of the risk scan under the agent's hands, opened from the board of the real program.
 #include "cutting/selection.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
 #include "platform/combo.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
-#include "program.h"
 #include "risk/scan.h"
 #include "shell/globals.h"
-#include "support/hands.h"
-#include "support/testledger.h"
+#include "support/formtest.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QTest>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
-class ViKoCTest : public QObject
+class ViKoCTest : public FormTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void coverageCountsWhatTheBoardShows();
     void nothingRiskyIsSaidInABox();
     void rowIsInspectedByKeys();
@@ -37,6 +25,7 @@ private slots:
     void cutRunsTheScanAgain();
 
 private:
+    void prepare() override;
     void addLines(const QString &values) const
     {
         m_ledger->run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy, "
@@ -51,7 +40,7 @@ private:
             work(scan);
             scan->close();
         });
-        Hands::click(m_window->page()->findChild<PushButton *>(u"lvButtons_H6"_s));
+        click("lvButtons_H6");
         QCOMPARE(CutOrigin, 1);
     }
     static QStringList shown(QWidget *scan)
@@ -82,10 +71,6 @@ private:
     {
         Hands::click(scan->findChild<PushButton *>(QLatin1String(button)));
     }
-
-    std::optional<TestLedger> m_ledger;
-    std::optional<Hands> m_hands;
-    std::unique_ptr<MDIForm1> m_window;
 };
 
 const QString NothingFound = u"ไม่พบ ( เลขที่มีความเสี่ยง !! ) ยินดีด้วย . . ."_s;
@@ -95,25 +80,12 @@ constexpr const char16_t *Lines = u"(1, 1, -1, 3, '1', 500), (1, 1, -1, 3, '2', 
                                   u"(1, 3, -1, 1, '110', 10), (2, 3, -1, 1, '210', 20),"
                                   u"(1, 1, 0, 3, '7', 30), (1, 2, 0, 1, '71', 40)";
 
-void ViKoCTest::init()
+void ViKoCTest::prepare()
 {
-    m_ledger.emplace();
     m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
     m_ledger->addMember(2, u"สมหญิง"_s, u"10"_s);
     addLines(QString::fromUtf16(Lines));
-    CloseLedger();
-    m_hands.emplace();
-    m_window = startProgram();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-    m_window->openPage(2);
-}
-
-void ViKoCTest::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_window.reset();
-    m_hands.reset();
-    m_ledger.reset();
+    startProgramAt(2);
 }
 
 /// With two spellings of a family more is bought than there is: the bar cannot show that.
@@ -196,7 +168,7 @@ void ViKoCTest::rowIsInspectedByMouse()
 /// and is followed by the scan of the same side.
 void ViKoCTest::cutRunsTheScanAgain()
 {
-    Hands::click(m_window->page()->findChild<Combo *>(u"Combo1"_s));
+    Hands::click(control<Combo>("Combo1"));
     Hands::type(u"สมหญิง"_s);
     Hands::press(Qt::Key_Return);
     inScan([this](QWidget *scan) {
@@ -221,9 +193,7 @@ void ViKoCTest::cutRunsTheScanAgain()
 
 int main(int argc, char **argv)
 {
-    const Application application(argc, argv);
-    ViKoCTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<ViKoCTest>(argc, argv);
 }
 
 #include "test_vikoc.moc"

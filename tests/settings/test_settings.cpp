@@ -1,19 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The dialog of settings: rates and hot numbers under the keyer's hands.
-#include "platform/application.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
 #include "settings/hotnumbers.h"
 #include "settings/setting.h"
 #include "shell/globals.h"
-#include "support/hands.h"
+#include "support/formtest.h"
 #include "support/outcome.h"
-#include "support/testledger.h"
-
-#include <QLineEdit>
-#include <QTest>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -23,14 +14,11 @@ const QString Question = u"ยืนยันการลบข้อมูล, 
 
 } // namespace
 
-class SettingsTest : public QObject
+class SettingsTest : public FormTest
 {
     Q_OBJECT
 
 private slots:
-    void init();
-    void cleanup();
-
     void todFormListsEachOrderOnce_data();
     void todFormListsEachOrderOnce();
     void ratesAreWalkedAndStored();
@@ -42,17 +30,7 @@ private slots:
     void endingsAskTheirBoardAndTheirUser();
 
 private:
-    template<typename Control>
-    Control *control(const char *name) const
-    {
-        return m_dialog->findChild<Control *>(QLatin1String(name));
-    }
-    void click(const char *button) { Hands::click(control<PushButton>(button)); }
-    void clickOk(const char *button)
-    {
-        m_hands->answerNextWithOk();
-        click(button);
-    }
+    void prepare() override;
     QStringList listed() const
     {
         QStringList rows;
@@ -61,28 +39,12 @@ private:
             rows += list->text(row, HotNumberColumn) + u": "_s + list->text(row, HotTodColumn);
         return rows;
     }
-
-    std::optional<TestLedger> m_ledger;
-    std::optional<Hands> m_hands;
-    std::optional<Setting> m_dialog;
 };
 
-void SettingsTest::init()
+void SettingsTest::prepare()
 {
-    m_ledger.emplace();
-    m_hands.emplace();
     LoadMoney();
-    m_dialog.emplace(nullptr);
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_dialog));
-}
-
-void SettingsTest::cleanup()
-{
-    QCOMPARE(m_hands->takeBoxes(), QStringList());
-    m_dialog.reset();
-    m_hands.reset();
-    m_ledger.reset();
+    show(std::make_unique<Setting>(nullptr));
 }
 
 void SettingsTest::todFormListsEachOrderOnce_data()
@@ -209,9 +171,7 @@ void SettingsTest::keyBeyond16BitsOverflows()
 void SettingsTest::endingsAskTheirBoardAndTheirUser()
 {
     QVERIFY(!control<PushButton>("lvButtons_H0")->isEnabled()); // no board to ask
-    m_dialog.emplace(nullptr, [] { return false; });
-    m_dialog->show();
-    QVERIFY(QTest::qWaitForWindowActive(&*m_dialog));
+    show(std::make_unique<Setting>(nullptr, [] { return false; }));
     click("lvButtons_H0");
     click("lvButtons_H1"); // Enter answers Cancel
     QCOMPARE(m_hands->takeBoxes(),
@@ -221,8 +181,6 @@ void SettingsTest::endingsAskTheirBoardAndTheirUser()
 
 int main(int argc, char **argv)
 {
-    const Application application(argc, argv);
-    SettingsTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<SettingsTest>(argc, argv);
 }
 #include "test_settings.moc"
