@@ -27,6 +27,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int LeastRows = 4;       // of a grid, or scrolling is all that one does
+constexpr int SmallDesktop = 600;  // pixels high: a page has to be scrolled there
 constexpr double LeastPoints = 10; // of type
 constexpr double LeastContrast = 4.5;
 constexpr double LeastDisabled = 3;
@@ -213,6 +214,9 @@ QStringList cutOffIn(QWidget *form)
     for (const QScrollArea *area : form->findChildren<QScrollArea *>()) {
         if (area->horizontalScrollBar()->maximum() > 0)
             faults += area->objectName() + u" has to be scrolled sideways"_s;
+        if (area->verticalScrollBar()->maximum() > 0 && desktop.height() > SmallDesktop)
+            faults += u"%1 has to be scrolled by %2"_s.arg(area->objectName())
+                          .arg(area->verticalScrollBar()->maximum());
     }
     for (const Spread *grid : form->findChildren<Spread *>()) {
         const int rows = grid->viewport()->height() / grid->verticalHeader()->defaultSectionSize();

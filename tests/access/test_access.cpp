@@ -2,20 +2,12 @@
 // Every form as those need it who use no mouse, a screen reader, large type or a dark desktop.
 #include "access/look.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
 #include "platform/combo.h"
 #include "platform/programfolder.h"
-#include "platform/spread.h"
-#include "program.h"
-#include "support/hands.h"
-#include "support/testledger.h"
+#include "support/formtest.h"
 
 #include <QAccessible>
-#include <QLineEdit>
 #include <QRadioButton>
-#include <QTest>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -58,22 +50,18 @@ void fillBook(const TestLedger &ledger)
     ledger.addMember(1, u"สมชาย สายบุญมาก"_s, u"10"_s);
     ledger.addMember(2, u"ร้านลุงหมู ปากซอยสี่"_s, u"5"_s);
     ledger.run(u"UPDATE tblMember SET Mber = '0812345678'"_s);
-    for (const QString &table : {u"tblNumber"_s, u"tblNumberCut"_s}) {
-        for (const char16_t *line :
-             {u"3, -1, 1, '123'", u"3, -1, 2, '123'", u"2, -1, 1, '23'", u"2, -1, 2, '23'",
-              u"1, -1, 3, '1'", u"3, 0, 1, '123'", u"2, 0, 1, '23'", u"1, 0, 3, '2'",
-              u"3, -1, 1, '231'", u"2, 0, 1, '32'"})
-            for (const int buyer : {1, 2})
-                ledger.run(u"INSERT INTO %1 (NameFK, num23, updown, numType, numValue, numBuy, "
-                           "nuser) VALUES (%2, %3, 250000, 'sv')"_s.arg(table)
-                               .arg(buyer)
-                               .arg(QString::fromUtf16(line)));
-    }
+    for (const QString &table : {u"tblNumber"_s, u"tblNumberCut"_s})
+        ledger.run(
+            u"INSERT INTO %1 (NameFK, num23, updown, numType, numValue, numBuy, nuser)"
+            " SELECT MPK, line.*, 250000, 'sv' FROM tblMember,"
+            " (VALUES (3, -1, 1, '123'), (3, -1, 2, '123'), (2, -1, 1, '23'),"
+            " (2, -1, 2, '23'), (1, -1, 3, '1'), (3, 0, 1, '123'), (2, 0, 1, '23'),"
+            " (1, 0, 3, '2'), (3, -1, 1, '231'), (2, 0, 1, '32')) AS line WHERE MPK > 0"_s.arg(
+                table));
     ledger.run(u"INSERT INTO tblNumLog (num3up, num3down1, num3down2, num3down3, num3down4, "
                "num2down, numdate, moneyup, moneydown) VALUES ('123', '123', '456', '789', '012', "
                "'23', '2026-11-16', -125999999, 125999999)"_s);
-    for (const QString &number : {u"231"_s, u"45"_s})
-        ledger.run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s, {number});
+    ledger.run(u"INSERT INTO tblNumberFix (Fnumber) VALUES ('231'), ('45')"_s);
 }
 
 QPalette darkDesktop()
@@ -81,14 +69,7 @@ QPalette darkDesktop()
     QPalette colors(QColor(0x3A, 0x3A, 0x3A), QColor(0x2D, 0x2D, 0x2D));
     colors.setColor(QPalette::Base, QColor(0x25, 0x25, 0x25));
     colors.setColor(QPalette::AlternateBase, QColor(0x30, 0x30, 0x30));
-    colors.setColor(QPalette::Highlight, QColor(0x30, 0x8C, 0xC6));
-    colors.setColor(QPalette::HighlightedText, Qt::black);
     return colors;
-}
-
-bool isShown(const QWidget *control, const QWidget *form)
-{
-    return control->isVisible() && control->isEnabled() && control->window() == form;
 }
 
 /// What can be worked on a form. An edit field within a control is part of it.
@@ -97,7 +78,8 @@ QWidgetList controlsOf(const QWidget *form)
     QWidgetList controls = form->findChildren<QWidget *>();
     controls.removeIf([form](const QWidget *each) {
         const bool worked = each->focusPolicy() != Qt::NoFocus || each->inherits("QAbstractButton");
-        return !worked || each->focusProxy() || !isShown(each, form);
+        return !worked || each->focusProxy() || !each->isVisible() || !each->isEnabled()
+               || each->window() != form;
     });
     return controls;
 }
@@ -113,15 +95,15 @@ QWidgetList tabRound(Qt::KeyboardModifiers modifiers)
     return round;
 }
 
-/// Of several radio buttons Tab passes the chosen one; the arrow keys go on from there.
+/// Of several radio buttons Tab passes one; the arrow keys go on from there.
 bool isPassed(const QWidget *control, const QWidgetList &round)
 {
-    return round.contains(control)
-           || (qobject_cast<const QRadioButton *>(control)
-               && std::any_of(round.begin(), round.end(), [&](const QWidget *other) {
-                      return qobject_cast<const QRadioButton *>(other)
-                             && other->parent() == control->parent();
-                  }));
+    const auto *radio = qobject_cast<const QRadioButton *>(control);
+    return std::any_of(round.begin(), round.end(), [&](const QWidget *passed) {
+        return passed == control
+               || (radio && qobject_cast<const QRadioButton *>(passed)
+                   && passed->parent() == control->parent());
+    });
 }
 
 /// To the left in the same line, or above in the same column.
@@ -154,12 +136,10 @@ private slots:
     void everythingCanBeRead();
 
 private:
-    using Work = std::function<QStringList(QWidget *form)>;
-
     static void addForms();
-    void compareFaults(const Work &look);
     void start(const QPalette &colors);
     void walk(QWidget *form, QStringList steps, const std::function<void(QWidget *form)> &work);
+    void compareFaults(const std::function<QStringList(QWidget *form)> &look);
 
     std::optional<TestLedger> m_ledger;
     std::optional<Hands> m_hands;
@@ -240,7 +220,9 @@ void AccessTest::walk(QWidget *form, QStringList steps,
     walk(form, steps, work);
 }
 
-void AccessTest::compareFaults(const Work &look)
+/// Fails if a look at the form finds fault. Saves a picture where the environment's DESK_PICTURES
+/// names a folder.
+void AccessTest::compareFaults(const std::function<QStringList(QWidget *form)> &look)
 {
     QFETCH(Way, way);
     QStringList faults{u"not opened"_s};
@@ -332,10 +314,6 @@ void AccessTest::everythingCanBeRead()
 
 int main(int argc, char **argv)
 {
-    static const QTemporaryDir ownPlace; // a running program is no second copy of this one
-    qputenv("TMPDIR", ownPlace.path().toUtf8());
-    const Application application(argc, argv);
-    AccessTest test;
-    return QTest::qExec(&test, argc, argv);
+    return runFormTest<AccessTest>(argc, argv);
 }
 #include "test_access.moc"
