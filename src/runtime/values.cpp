@@ -142,9 +142,8 @@ double CDbl(QStringView text)
     const QByteArray plain = plainNumber(trimBlanks(text));
     if (plain.isEmpty())
         raiseTypeMismatch();
-    bool fits = false;
-    const double value = plain.toDouble(&fits);
-    if (!fits) // the form is good, so only the size can be wrong
+    const double value = QString::fromLatin1(plain).toDouble(); // too small a one is 0
+    if (std::isinf(value))
         raiseOverflow();
     return value;
 }

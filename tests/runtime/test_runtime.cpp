@@ -77,6 +77,7 @@ void RuntimeTest::textAsNumber_data()
         << u"2147483647.5"_s << u"2147483647.5, error 6, error 6"_s;
     QTest::newRow("nineteen digits") << u"9999999999999999999"_s << u"1e+19, error 6, error 6"_s;
     QTest::newRow("beyond a double") << u"1e400"_s << u"error 6, error 6, error 6"_s;
+    QTest::newRow("too small for a double") << u"1e-400"_s << u"0, 0, 0"_s;
 }
 
 void RuntimeTest::textAsNumber()
