@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The builders: keyed lines in, rows of the ticket and refusals out.
 #include "entry/builders.h"
-#include "entry/keyedline.h"
 #include "support/boxscript.h"
+#include "support/keying.h"
 #include "support/outcome.h"
 
 #include <QTest>
@@ -11,27 +11,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Keys lines such as "บน 123-50" one after the other, as the entry field does.
+/// Keys lines such as "บน 123-50" one after the other.
 void keyLines(Ticket &ticket, const QStringList &lines)
 {
-    for (const QString &line : lines) {
-        const BetKind kind = kindOfCaption(line.section(u' ', 0, -2));
-        if (splitLine(ticket, line.section(u' ', -1), kind) == LineForm::Good)
-            runBuilder(ticket, kind);
-    }
-}
-
-/// All rows, such as "1: 123=50", grids counted from 1, each from its row 1 down.
-QStringList rowsOf(const Ticket &ticket)
-{
-    QStringList rows;
-    for (int at = 0; at < ClassCount; ++at) {
-        const SpreadModel &grid = ticket.grids[at];
-        for (int row = 1; row <= grid.rows(); ++row)
-            rows += u"%1: %2=%3"_s.arg(QString::number(at + 1), grid.text(row, NumberColumn),
-                                       grid.text(row, AmountColumn));
-    }
-    return rows;
+    for (const QString &line : lines)
+        keyLine(ticket, line.section(u' ', 0, -2), line.section(u' ', -1));
 }
 
 } // namespace
