@@ -11,6 +11,7 @@
 #   screen  to show windows where there is no display
 #   test    to run the tests and the format check
 #   lint    to run the static checks by hand
+#   fuzz    to build the fuzzers by hand
 #   voice   to make the recordings anew
 packages='
 build   build-essential   the C++ compiler, the linker and the system headers
@@ -31,6 +32,8 @@ test    libfreexl-dev     reads sheets independently of the program
 test    poppler-utils     reads PDF files independently of the program
 test    clang-format      checks the layout of the source
 lint    clang-tidy        checks the source for common mistakes
+fuzz    clang             the C++ compiler with a fuzzer
+fuzz    libclang-rt-14-dev the fuzzer's and the sanitizers' libraries
 voice   espeak-ng         speaks the words of the recordings
 voice   sox               trims and levels the recordings
 voice   lame              packs the recordings
