@@ -231,8 +231,9 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
     std::unique_ptr<Connection> ledger(new Connection(std::make_unique<Engine>(path)));
     Engine &engine = *ledger->m_engine;
     try {
-        // The engine would take an emptied file for a new one and delete the journal beside it.
-        if (QFile::exists(path) && QFile(path).size() == 0)
+        // The engine would take an emptied file for a new one and delete the journal beside it. One
+        // byte is empty to it as well.
+        if (QFile::exists(path) && QFile(path).size() <= 1)
             raiseFailure(SQLITE_NOTADB);
         // The engine would speak of a disk error where the file and its folder may only be read.
         if (QFile::exists(path))
