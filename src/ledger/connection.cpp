@@ -214,9 +214,17 @@ void refuseDamaged(Connection &ledger, const QString &path, bool journalWaited)
 {
     constexpr qint64 CheckedBytes = 4'000'000;
     const auto answer = [&](const QString &pragma) { return ledger.run(pragma).rows[0][0]; };
-    const qint64 size = QFile(path).size();
-    const bool torn = !journalWaited && size % answer(u"PRAGMA page_size"_s).toLongLong() != 0;
-    if (torn || (size <= CheckedBytes && answer(u"PRAGMA quick_check(1)"_s) != u"ok"_s))
+    const qint64 pageSize = answer(u"PRAGMA page_size"_s).toLongLong();
+    const auto isTorn = [&] { return QFile(path).size() % pageSize != 0; };
+    if (!journalWaited && isTorn())
+        raiseFailure(SQLITE_CORRUPT);
+    if (QFile(path).size() <= CheckedBytes && answer(u"PRAGMA quick_check(1)"_s) != u"ok"_s)
+        raiseFailure(SQLITE_CORRUPT);
+    // A journal mends a torn page once it is moved into the file. One that holds nothing leaves it
+    // torn, and the next start would refuse what this one took.
+    if (isTorn())
+        ledger.run(u"PRAGMA wal_checkpoint"_s);
+    if (isTorn())
         raiseFailure(SQLITE_CORRUPT);
 }
 

@@ -115,8 +115,8 @@ void Bench::open(const Files &files) const
             "a Ledger that was closed opens again");
 }
 
-/// Changes one of the files as the first byte of @p edit tells, at the place in the next two; the
-/// fourth says how. @p more are the bytes behind, of which those used are taken.
+/// Changes one of the files as the first byte of @p edit tells, at the place in the next two, ffff
+/// being its end; the fourth says how. @p more are the bytes behind, of which those used are taken.
 void damage(QByteArray &bytes, const QByteArray &edit, QByteArray &more)
 {
     constexpr qsizetype Page = 1024;
@@ -133,7 +133,7 @@ void damage(QByteArray &bytes, const QByteArray &edit, QByteArray &more)
     case 2: { // foreign bytes
         const QByteArray foreign = more.left(how % 64);
         more.remove(0, foreign.size());
-        const qsizetype at = place % (bytes.size() + 1);
+        const qsizetype at = place == 0xffff ? bytes.size() : place % (bytes.size() + 1);
         bytes.replace(at, foreign.size(), foreign);
         break;
     }
