@@ -8,6 +8,7 @@
 #include "drawcheck/form4.h"
 #include "entry/form1.h"
 #include "history/form5.h"
+#include "platform/dialogplace.h"
 #include "reports/viewers.h"
 #include "risk/vikoc.h"
 #include "settings/setting.h"
@@ -31,8 +32,8 @@ void showScan(Form3 &board)
     const auto showCutNum = [&](QWidget *owner, const std::function<void()> &scanAgain) {
         board.showCutNum(owner, scanAgain);
     };
-    ViKoC(board.board(), showCutNum, board.window()).exec();
-    board.window()->activateWindow(); // a desktop without a window manager leaves it without keys
+    ViKoC dialog(board.board(), showCutNum, board.window());
+    runDialog(dialog);
 }
 
 BoardOpeners boardOpeners(const CustomerStrip &strip)
@@ -67,7 +68,8 @@ void showSettings(const Frame &frame, QWidget *window)
         return std::any_of(grids.begin(), grids.end(),
                            [](const SpreadModel &grid) { return grid.rows() > 0; });
     };
-    Setting(window, boardShowsRows).exec();
+    Setting dialog(window, boardShowsRows);
+    runDialog(dialog);
     reloadCurrentBoard(*window);
 }
 

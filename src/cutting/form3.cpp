@@ -9,6 +9,7 @@
 #include "entry/sidetabs.h"
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
+#include "platform/dialogplace.h"
 #include "platform/msgbox.h"
 #include "platform/searchicon.h"
 #include "runtime/runtimeerror.h"
@@ -318,8 +319,7 @@ void Form3::fpSpread_DblClick(int at)
 void Form3::showCutNum(QWidget *owner, const std::function<void()> &scanAgain)
 {
     CutNum dialog([&] { closeCut(scanAgain); }, owner);
-    dialog.exec();
-    owner->activateWindow(); // a desktop without a window manager leaves it without keys
+    runDialog(dialog);
 }
 
 /// What the closing of the cut-out brings about. Under the filter the whole book comes back, and
@@ -338,8 +338,8 @@ void Form3::closeCut(const std::function<void()> &scanAgain)
 /// " &แสดงเลขที่คัดออก": what has been laid off.
 void Form3::lvButtons_H4_Click()
 {
-    Numcut(m_openers.printCuts, window()).exec();
-    window()->activateWindow();
+    Numcut dialog(m_openers.printCuts, window());
+    runDialog(dialog);
 }
 
 /// " &ปริ้นข้อมูล": the boards as they are shown.

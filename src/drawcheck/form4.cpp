@@ -145,5 +145,4 @@ void Form4::lvButtons_H5_Click()
         return;
     }
     m_printer(m_check, this);
-    activateWindow(); // a desktop without a window manager leaves it without keys
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/dialogplace.h"
 
+#include <QDialog>
 #include <QScreen>
 #include <QWidget>
 
@@ -11,4 +12,12 @@ void placeDialog(QWidget &dialog)
     dialog.resize(dialog.size().boundedTo(desktop.size() - WindowFrame));
     const QSize spare = desktop.size() - WindowFrame - dialog.size();
     dialog.move(desktop.x() + spare.width() / 2, desktop.y() + spare.height() / 3);
+}
+
+int runDialog(QDialog &dialog)
+{
+    const int result = dialog.exec();
+    if (QWidget *opener = dialog.parentWidget())
+        opener->activateWindow();
+    return result;
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/printpages.h"
 
+#include "platform/dialogplace.h"
 #include "platform/msgbox.h"
 #include "platform/pagepainter.h"
 
@@ -46,7 +47,7 @@ void printWithDialog(const ReportPages &report, QWidget *parent)
     QPrintDialog dialog(&printer, parent);
     dialog.setOption(QPrintDialog::PrintPageRange);
     dialog.setMinMax(1, int(report.pages.size()));
-    if (dialog.exec() == QDialog::Accepted && !printPages(report, printer))
+    if (runDialog(dialog) == QDialog::Accepted && !printPages(report, printer))
         refuse(u"พิมพ์ไม่สำเร็จ โปรดตรวจสอบเครื่องพิมพ์ . . ."_s);
 }
 

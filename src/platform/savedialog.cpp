@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "platform/savedialog.h"
 
+#include "platform/dialogplace.h"
+
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
@@ -18,7 +20,7 @@ QString showSaveDialog(const SaveRequest &request)
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
     dialog.setNameFilter(u'*' + request.extension);
     dialog.selectFile(request.preset);
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+    if (runDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};
     QString picked = dialog.selectedFiles().constFirst();
     folder = QFileInfo(picked).path();

@@ -111,8 +111,8 @@ void ViKoC::fpSpread1_ButtonClicked(int column, int row)
 void ViKoC::inspectRow(int row)
 {
     ScanRow = row;
-    Number(m_scan.grid, this).exec();
-    activateWindow(); // a desktop without a window manager leaves it without keys
+    Number number(m_scan.grid, this);
+    runDialog(number);
 }
 
 /// "คัดออก" in a row: hands its number to the cut-out, which re-runs the scan as it closes.

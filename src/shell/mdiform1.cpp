@@ -102,7 +102,6 @@ void MDIForm1::connectNavigation()
     m_ui->lvButtons_H5->setEnabled(bool(m_pages.showSettings));
     connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, [this] {
         m_pages.showSettings({*m_ui->pb1, *m_strip}, this);
-        activateWindow(); // a desktop without a window manager leaves it without keys
         if (m_page)
             m_page->setFocus(); // keying goes on at once
     });

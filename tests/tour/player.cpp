@@ -192,7 +192,10 @@ void Player::takePicture(const QString &scene, QWidget *widget)
         return;
     m_scenes.insert(scene);
     QApplication::processEvents();
-    (widget ? widget : &m_window)
-        ->grab()
-        .save(m_pictures + u'/' + m_name + u'-' + scene + u".png"_s);
+    (widget ? widget : &m_window)->grab().save(pictureName(scene));
+}
+
+QString Player::pictureName(const QString &scene) const
+{
+    return m_pictures + u'/' + m_name + u'-' + scene + u".png"_s;
 }

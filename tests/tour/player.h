@@ -9,6 +9,7 @@
 #include "shell/mdiform1.h"
 
 #include <QSet>
+#include <QTemporaryDir>
 
 class PushButton;
 
@@ -67,7 +68,6 @@ private:
     void showCutNumbers();
     static QString money(const QString &statement);
     void runCheck(const QString &scene);
-    void printWinners();
     void checkCutBook(const Draw &draw);
     QString amounts() const;
     QStringList cells(int columns) const;
@@ -76,10 +76,17 @@ private:
     void analyse(QWidget *scan, bool top, const Draw &draw);
     void inspectRow(QWidget *scan, int row, const QString &side);
 
+    /// Opens a report by its button, which has to show @p viewer, and saves it as both files.
+    void printReport(PushButton *button, const QString &viewer, const QString &scene);
+    void drawFirstPage(QWidget *viewer, const QString &scene);
+    void exportReport(QWidget *viewer, const QString &button, const QString &file,
+                      const QByteArray &mark);
+
     QStringList shownRows() const;
     void checkBook(const QString &expected);
     void compare(const QString &what, const QString &expected, const QString &found);
     void takePicture(const QString &scene, QWidget *widget = nullptr);
+    QString pictureName(const QString &scene) const;
 
     /// A control of the open page.
     template<typename Control>
@@ -98,6 +105,7 @@ private:
     Hands m_hands;
     QStringList m_differences;
     QSet<QString> m_scenes;
+    QTemporaryDir m_exports; ///< for the files of a tour without pictures
     QString m_kind;
     int m_ticket = 0;
     int m_linesKeyed = 0;

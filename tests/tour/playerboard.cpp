@@ -96,6 +96,7 @@ void Player::filterCustomer(const DrawTicket &ticket)
                   + u" AND num23 = 3 AND updown = -1 AND numType = 1"_s),
             formatBaht(CDbl(control<Spread>("fpSpread1")->text(TotalRow, AmountColumn))));
     takePicture(u"board-customer"_s);
+    printReport(control<PushButton>("lvButtons_H5"), u"Fprint2"_s, u"statement"_s);
     Hands::press(Qt::Key_F5);
     compare(u"strip after the filter"_s, QString(), strip("Tname"));
 }
@@ -184,6 +185,7 @@ void Player::showCutNumbers()
         compare(u"cut numbers"_s, money(u"SELECT sum(numBuy) FROM tblNumberCut"_s),
                 top->text(TotalRow, AmountColumn));
         takePicture(u"cutnumbers"_s, dialog);
+        printReport(dialog->findChild<PushButton *>(u"lvButtons_H5"_s), u"Fprint3"_s, u"cuts"_s);
         Hands::click(dialog->findChild<PushButton *>(u"lvButtons_H0"_s));
     });
     Hands::click(control<PushButton>("lvButtons_H4"));
