@@ -28,6 +28,7 @@ build   fonts-noto-core   draws Thai and Latin text
 screen  xvfb              a virtual screen
 screen  xauth             admits programs to the virtual screen
 test    sqlcipher         reads the book independently of the program
+test    libssl-dev        decrypts the book independently of the program
 test    libfreexl-dev     reads sheets independently of the program
 test    poppler-utils     reads PDF files independently of the program
 test    clang-format      checks the layout of the source

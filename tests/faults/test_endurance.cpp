@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+// A season of tickets keyed in one run of the entry page: what is used up by one ticket has to be
+// given back by the next. The long run is DESK_TICKETS=20000 test_endurance.
+#include "entry/form1.h"
+#include "ledger/ledger.h"
+#include "platform/application.h"
+#include "platform/combo.h"
+#include "platform/pushbutton.h"
+#include "platform/workprogress.h"
+#include "support/hands.h"
+#include "support/testledger.h"
+
+#include <QElapsedTimer>
+#include <QLineEdit>
+#include <QRandomGenerator>
+#include <QTest>
+
+#include <algorithm>
+#include <array>
+#include <ctime>
+#include <vector>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#elif defined(Q_OS_LINUX)
+#include <malloc.h>
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int Season = 20'000; ///< tickets for which memory has to last
+constexpr int Customers = 100;
+
+/// Bytes that the program has asked for and not given back; -1 where nobody counts them.
+qint64 memoryInUse()
+{
+#ifdef __SANITIZE_ADDRESS__
+    return qint64(__sanitizer_get_current_allocated_bytes());
+#elif defined(Q_OS_LINUX)
+    const auto heap = mallinfo2();
+    return qint64(heap.uordblks + heap.hblkhd);
+#else
+    return -1;
+#endif
+}
+
+/// Takes the time of each save, from its first row to the end, for each row of it.
+class Stopwatch : public WorkProgress
+{
+public:
+    void start(int maximum) override
+    {
+        if (m_rows == 0) {
+            m_begin = std::clock();
+            m_wall.start();
+        }
+        WorkProgress::start(maximum);
+    }
+    void step() override
+    {
+        ++m_rows;
+        WorkProgress::step();
+    }
+    void finish() override
+    {
+        WorkProgress::finish();
+        work.push_back(1e6 * double(std::clock() - m_begin) / CLOCKS_PER_SEC / m_rows);
+        wall.push_back(double(m_wall.nsecsElapsed()) / 1e3 / m_rows);
+        m_rows = 0;
+    }
+
+    std::vector<double> work; ///< of the processor, which no other program disturbs; microseconds
+    std::vector<double> wall; ///< with the waiting for the disk
+
+private:
+    std::clock_t m_begin = 0;
+    QElapsedTimer m_wall;
+    int m_rows = 0;
+};
+
+double median(std::vector<double> times)
+{
+    std::nth_element(times.begin(), times.begin() + qsizetype(times.size() / 2), times.end());
+    return times[times.size() / 2];
+}
+
+/// The entry page, and the hands that key tickets on it.
+class Desk
+{
+public:
+    Desk() : m_page(stopwatch, nullptr)
+    {
+        m_page.show();
+        if (!QTest::qWaitForWindowActive(&m_page))
+            qFatal("the page does not come up");
+    }
+
+    void keyTicket()
+    {
+        Hands::click(m_page.findChild<QLineEdit *>(u"Tnumber"_s));
+        for (int lines = m_dice.bounded(1, 6); lines > 0; --lines)
+            keyLine();
+        Hands::press(Qt::Key_Tab);
+        Hands::type(u"c%1"_s.arg(m_dice.bounded(Customers), 2, 10, QChar(u'0')));
+        Hands::press(Qt::Key_Return);
+        Hands::click(m_page.findChild<PushButton *>(u"lvButtons_H0"_s));
+        const qsizetype boxes = m_hands.takeBoxes().size();
+        if (boxes != 1) // the question alone
+            qFatal("a ticket was not filed");
+        ++filed;
+    }
+
+    Stopwatch stopwatch;
+    int filed = 0;
+
+private:
+    void keyLine()
+    {
+        struct Kind
+        {
+            Qt::Key key;
+            int digits;
+        };
+        constexpr std::array Kinds{Kind{Qt::Key_F1, 3}, Kind{Qt::Key_F1, 2},  Kind{Qt::Key_F5, 3},
+                                   Kind{Qt::Key_F5, 2}, Kind{Qt::Key_F2, 1},  Kind{Qt::Key_F6, 1},
+                                   Kind{Qt::Key_F9, 3}, Kind{Qt::Key_F10, 2}, Kind{Qt::Key_End, 3}};
+        const Kind &kind = Kinds[m_dice.bounded(quint32(Kinds.size()))];
+        Hands::press(kind.key);
+        QString line;
+        while (line.size() < kind.digits)
+            line += QString::number(m_dice.bounded(10));
+        Hands::type(line + u'-' + QString::number(m_dice.bounded(1, 1'000)));
+        Hands::press(Qt::Key_Return);
+    }
+
+    QRandomGenerator m_dice{1};
+    Hands m_hands;
+    Form1 m_page;
+};
+
+} // namespace
+
+class EnduranceTest : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void memoryAndSaveTimeStayFlat();
+};
+
+void EnduranceTest::memoryAndSaveTimeStayFlat()
+{
+    bool given = false;
+    const int asked = qEnvironmentVariableIntValue("DESK_TICKETS", &given);
+    const int tickets = given ? asked : 400;
+    const int half = tickets / 2;
+    const int settling = std::clamp(half / 4, 40, 500); // what is kept on purpose fills up
+    const TestLedger ledger;
+    for (int customer = 0; customer < Customers; ++customer)
+        ledger.addMember(customer + 1, u"c%1"_s.arg(customer, 2, 10, QChar(u'0')), u"10"_s);
+    // The engine's store of pages grows with the book up to its bound. With a low bound it is soon
+    // full and hides no leak.
+    ledger.run(u"PRAGMA cache_size = -1000"_s);
+    Desk desk;
+    for (int ticket = 0; ticket < half; ++ticket)
+        desk.keyTicket();
+    const auto before = std::exchange(desk.stopwatch.work, {});
+    const auto wallBefore = std::exchange(desk.stopwatch.wall, {});
+
+    // A long book must not slow the save down; the sample would not get there by itself.
+    ledger.run(u"INSERT INTO tblNumber WITH RECURSIVE line(at) AS"
+               " (SELECT 1 UNION ALL SELECT at + 1 FROM line WHERE at < 50000)"
+               " SELECT (SELECT max(NPK) FROM tblNumber) + at, 1 + at % 100, 3, -1, 1 + at % 2,"
+               " substr('00' || abs(random()) % 1000, -3), 1 + at % 999, 'sv' FROM line"_s);
+    for (int ticket = 0; ticket < settling; ++ticket)
+        desk.keyTicket();
+    desk.stopwatch.work.clear();
+    desk.stopwatch.wall.clear();
+    desk.stopwatch.work.reserve(size_t(half));
+    desk.stopwatch.wall.reserve(size_t(half));
+    const qint64 memory = memoryInUse();
+    for (int ticket = 0; ticket < half; ++ticket)
+        desk.keyTicket();
+    const double grown = double(memoryInUse() - memory) * Season / half;
+    qInfo("%d tickets, %s lines; of %.1f MB in use %.2f MB more after %d tickets", desk.filed,
+          qPrintable(ledger.run(u"SELECT count(*) FROM tblNumber"_s)[0]), double(memory) / 1e6,
+          grown / 1e6, Season);
+    qInfo("a row of a save: %.0f us of work, in the long book %.0f; %.0f us in all, then %.0f",
+          median(before), median(desk.stopwatch.work), median(wallBefore),
+          median(desk.stopwatch.wall));
+    QVERIFY(grown <= 0.05 * double(memory));
+    QVERIFY(median(desk.stopwatch.work) <= 1.5 * median(before));
+}
+
+int main(int argc, char **argv)
+{
+    qputenv("SDL_AUDIODRIVER", "none at all");
+    qputenv("QTEST_FUNCTION_TIMEOUT", "2000000000");
+    const Application application(argc, argv);
+    EnduranceTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "test_endurance.moc"

@@ -1,0 +1,235 @@
+// SPDX-License-Identifier: MIT
+// Files: Ledgers that are damaged or no Ledgers at all, and what can be read out of a good one
+// without its password, or with it once a draw is closed.
+#include "faults/daybook.h"
+#include "faults/faults.h"
+#include "faults/faultydisk.h"
+#include "faults/rawpages.h"
+#include "ledger/ledger.h"
+#include "settings/closing.h"
+#include "support/boxscript.h"
+#include "support/outcome.h"
+#include "support/testledger.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int PageSize = 1024;
+
+QByteArray noise(qsizetype size, QRandomGenerator &dice)
+{
+    QByteArray bytes(size, '\0');
+    std::generate(bytes.begin(), bytes.end(), [&] { return char(dice.generate()); });
+    return bytes;
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size())
+        qFatal("a damaged file cannot be written");
+}
+
+/// Makes the damage of a kind in its @p at th form to the bytes of a Ledger.
+using Damage = std::function<QByteArray(QByteArray bytes, int at, QRandomGenerator &dice)>;
+
+QByteArray turnBit(QByteArray bytes, int at, QRandomGenerator &dice)
+{
+    const qsizetype pages = bytes.size() / PageSize;
+    // Anywhere but in the filling behind a page's signature, which means nothing.
+    const qsizetype place = at % pages * PageSize + dice.bounded(PageSize - 12);
+    bytes[place] = char(bytes[place] ^ (1 << dice.bounded(8)));
+    return bytes;
+}
+
+QByteArray cutOff(QByteArray bytes, int, QRandomGenerator &dice)
+{
+    bytes.chop(dice.bounded(1, int(bytes.size())));
+    return bytes;
+}
+
+QByteArray dropPages(QByteArray bytes, int, QRandomGenerator &dice)
+{
+    bytes.chop(PageSize * dice.bounded(1, int(bytes.size()) / PageSize));
+    return bytes;
+}
+
+QByteArray swapPages(QByteArray bytes, int at, QRandomGenerator &dice)
+{
+    const int pages = int(bytes.size()) / PageSize;
+    const int one = 1 + at % (pages - 1);
+    const int other = (one + dice.bounded(1, pages - 1)) % pages;
+    const QByteArray kept = bytes.mid(one * PageSize, PageSize);
+    bytes.replace(one * PageSize, PageSize, bytes.mid(other * PageSize, PageSize));
+    return bytes.replace(other * PageSize, PageSize, kept);
+}
+
+QByteArray emptyPage(QByteArray bytes, int at, QRandomGenerator &)
+{
+    return bytes.replace(at % (bytes.size() / PageSize) * PageSize, PageSize,
+                         QByteArray(PageSize, '\0'));
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Damage)
+
+void FaultsTest::damagedLedgerIsRefused_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<Damage>("damage");
+    const auto row = [](const char *name, int count, const Damage &damage) {
+        QTest::newRow(name) << count << damage;
+    };
+    row("a bit turned in each page", 90, turnBit);
+    row("cut off anywhere", 30, cutOff);
+    row("cut off between pages", 15, dropPages);
+    row("two pages swapped", 20, swapPages);
+    row("a page of zeros", 20, emptyPage);
+    row("no bytes", 1, [](auto, int, auto &) { return QByteArray(); });
+    row("noise", 10, [](auto, int at, auto &dice) { return noise(1 << (2 * at), dice); });
+    row("another salt", 5, [](const QByteArray &bytes, int, QRandomGenerator &dice) {
+        return noise(16, dice) + bytes.mid(16);
+    });
+    row("no salt", 1, [](const QByteArray &bytes, int, auto &) { return bytes.mid(16); });
+    const auto other = [](const QString &password, const QString &sql) {
+        return [password, sql](const QByteArray &, int, auto &) {
+            const QTemporaryDir folder;
+            const QString path = folder.filePath(u"other"_s);
+            runStockTool(path, password, sql);
+            QFile file(path);
+            return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+        };
+    };
+    const QString table = u"CREATE TABLE tblNumber (NPK);"_s;
+    row("a plain database", 1, other({}, table));
+    row("another password", 1, other(u"639418"_s, table));
+    row("another database of that password", 1, other(u"639417"_s, table));
+}
+
+void FaultsTest::damagedLedgerIsRefused()
+{
+    QFETCH(int, count);
+    QFETCH(Damage, damage);
+    const ProgramFolder folder;
+    folder.open();
+    Day(m_seed, std::vector(60, Step::File)).perform([] {});
+    QCOMPARE(LedgerConnection->run(u"PRAGMA freelist_count"_s).rows[0][0].toInt(), 0);
+    CloseLedger();
+    const QByteArray good = folder.bytes()[u"ztkdata.ZDB"_s];
+    QVERIFY(good.size() > 20 * PageSize && good.size() < 90 * PageSize);
+    QRandomGenerator dice(m_seed);
+    for (int at = 0; at < count; ++at) {
+        const QByteArray bad = damage(good, at, dice);
+        QVERIFY(bad != good);
+        write(folder.ledger(), bad);
+        const auto before = folder.bytes();
+        const BoxScript script;
+        QCOMPARE(endStatus([] { ConnectLedger(); }), 1);
+        QCOMPARE(script.texts().size(), 1);
+        static const QRegularExpression told(
+            u"^เชื่อมต่อฐานข้อมูลไม่ได้ : (file is encrypted or is not a database|"
+            "file is not a database|database disk image is malformed)$"_s);
+        QVERIFY2(told.match(script.texts()[0]).hasMatch(), qPrintable(script.texts()[0]));
+        QVERIFY(folder.bytes() == before);
+    }
+    write(folder.ledger(), good); // the test would see nothing if the good one were refused too
+    ConnectLedger();
+}
+
+void FaultsTest::whatIsNoFileIsRefused()
+{
+    const ProgramFolder folder;
+    QFile::remove(folder.ledger());
+    for (const QStringList &left : {QStringList(), QStringList(u"ztkdata.ZDB"_s)}) {
+        const BoxScript script;
+        QCOMPARE(endStatus([] { ConnectLedger(); }), 1);
+        QCOMPARE(script.texts(),
+                 QStringList(u"เชื่อมต่อฐานข้อมูลไม่ได้ : unable to open database file"_s));
+        QCOMPARE(QDir(folder.data()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), left);
+        QDir().mkdir(folder.ledger());
+    }
+}
+
+/// The engine cannot tell a damaged journal from one that a power cut tore: what stands behind the
+/// damage is lost, but never half of a step.
+void FaultsTest::damagedJournalLeavesWholeSteps()
+{
+    const ProgramFolder folder;
+    folder.open();
+    const Day day(m_seed, {Step::File, Step::Cut, Step::Check, Step::File, Step::Cut, Step::File});
+    qsizetype acknowledged = 0;
+    Day(day).perform([&] { ++acknowledged; });
+    const auto good = folder.bytes();
+    CloseLedger();
+    QRandomGenerator dice(m_seed);
+    const QTemporaryDir place;
+    const QString ledger = place.filePath(u"ledger"_s);
+    write(ledger, good[u"ztkdata.ZDB"_s]);
+    QSet<qsizetype> lengths;
+    for (int damage = 0; damage < 100; ++damage) {
+        QByteArray journal = good[u"ztkdata.ZDB-wal"_s];
+        const auto at = dice.bounded(journal.size());
+        if (damage == 0)
+            journal.clear(); // or gone, which is the same to the engine
+        else if (damage % 2 == 0)
+            journal.truncate(at);
+        else
+            journal[at] = char(journal[at] ^ (1 << dice.bounded(8)));
+        write(ledger + u"-wal"_s, journal);
+        const QStringList found = DayBook::rowsLeftIn(ledger);
+        bool whole = false;
+        for (qsizetype steps = 0; steps <= acknowledged && !whole; ++steps)
+            whole = DayBook().goOn(day, steps, found);
+        QVERIFY2(whole, qPrintable(found.join(u'\n')));
+        lengths += found.size();
+    }
+    QVERIFY(lengths.size() > 3); // the journal did count
+}
+
+void FaultsTest::nothingLeaks()
+{
+    const ProgramFolder folder;
+    folder.open();
+    const FaultyDisk disk(folder.data());
+    const QByteArray customer = "ลูกค้า-"; // all names of the dice begin with it
+    const QByteArray telephone = "0891234567";
+    const QByteArray keyer = "kept by sv"; // closes every line
+    CurrentUser = QString::fromLatin1(keyer);
+    const auto inBook = [&] {
+        return readRawPages(folder.ledger(), folder.ledger()).plain
+               + readRawPages(folder.journal(), folder.ledger()).plain;
+    };
+    const auto onDisk = [&] { return folder.bytes().values().join(); };
+    std::vector<Step::Kind> kinds(300, Step::File);
+    for (size_t at = 5; at < kinds.size(); at += 3)
+        kinds[at] = Step::Cut;
+    kinds.push_back(Step::Check);
+    Day day(m_seed, kinds);
+    day.perform([] {});
+    LedgerConnection->run(u"UPDATE tblMember SET Mber = ?"_s, {QString::fromLatin1(telephone)});
+    for (const QByteArray &known : {customer, telephone, keyer}) {
+        QVERIFY(inBook().contains(known));
+        QVERIFY(!onDisk().contains(known));
+        QVERIFY(!onDisk().contains(QByteArray(
+            reinterpret_cast<const char *>(QString::fromUtf8(known).utf16()), known.size())));
+    }
+
+    const BoxScript yes({BoxAnswer::Ok, BoxAnswer::Ok, BoxAnswer::Ok});
+    QCOMPARE(endStatus([] { closeDraw([] { return true; }); }), 0);
+    QVERIFY(inBook().contains(customer));
+    QVERIFY(!inBook().contains(keyer));
+    folder.open();
+    QCOMPARE(endStatus([] { wipeLedger(); }), 0);
+    QVERIFY(!inBook().contains(customer));
+    QVERIFY(!inBook().contains(telephone));
+    for (const QString &path : disk.opened()) // not even for an instant was there another file
+        QCOMPARE(path, folder.journal());
+    QCOMPARE(folder.bytes().keys(), QStringList(u"ztkdata.ZDB"_s));
+}
