@@ -63,9 +63,11 @@ void checkDraw(const QString &result)
 /// Closing ends the program, so the next day begins with the Ledger being opened.
 void closeAndStartAnew()
 {
-    const BoxScript yes({BoxAnswer::Ok});
-    if (endStatus([] { closeDraw([] { return true; }); }) != 0)
-        qFatal("the program did not end with the draw");
+    {
+        const BoxScript yes({BoxAnswer::Ok});
+        if (endStatus([] { closeDraw([] { return true; }); }) != 0)
+            qFatal("the program did not end with the draw");
+    }
     ConnectLedger();
 }
 

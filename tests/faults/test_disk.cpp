@@ -95,6 +95,10 @@ void FaultsTest::failingCallLeavesWholeStatements_data()
     QTest::addColumn<QStringList>("words");
     const QString broken = u"disk I/O error"_s;
     const QString shut = u"unable to open database file"_s;
+    // The engine takes what it cannot read at the start for a damaged or a foreign file.
+    const QStringList unread{broken, u"database disk image is malformed"_s,
+                             u"file is encrypted or is not a database"_s,
+                             u"file is not a database"_s};
     const auto row = [](const char *name, Fault fault, Call call, const QStringList &words) {
         QTest::newRow(name) << fault << call << words;
     };
@@ -106,8 +110,8 @@ void FaultsTest::failingCallLeavesWholeStatements_data()
     row("all truncations", Fault::Always, Call::Truncate, {broken});
     row("an opening", Fault::Once, Call::Open, {shut});
     row("all openings", Fault::Always, Call::Open, {shut});
-    row("a read", Fault::Once, Call::Read, {broken});
-    row("all reads", Fault::Always, Call::Read, {broken});
+    row("a read", Fault::Once, Call::Read, unread);
+    row("all reads", Fault::Always, Call::Read, unread);
     row("a removal", Fault::Once, Call::Delete, {broken});
     row("full disk", Fault::Full, Call::Write, {u"database or disk is full"_s});
 }
@@ -140,10 +144,9 @@ void FaultsTest::failingCallLeavesWholeStatements()
             continue;
         ++reports;
         QVERIFY2(struck && outcome.boxes.size() == 1, what.constData());
-        QVERIFY2(outcome.boxes[0].startsWith(outcome.acknowledged == 0 ? Refused : Report)
-                     || outcome.boxes[0].startsWith(Report),
-                 what.constData());
-        QVERIFY2(words.contains(outcome.boxes[0].section(u": "_s, -1)), what.constData());
+        const QString &box = outcome.boxes[0];
+        QVERIFY2(box.startsWith(Refused) || box.startsWith(Report), what.constData());
+        QVERIFY2(words.contains(box.section(u": "_s, -1)), what.constData());
     }
     qInfo("%d calls struck, %d reports", nth - 1, reports);
 }
