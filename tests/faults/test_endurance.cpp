@@ -50,6 +50,8 @@ qint64 memoryInUse()
 class Stopwatch : public WorkProgress
 {
 public:
+    using WorkProgress::WorkProgress;
+
     void start(int maximum) override
     {
         if (m_rows == 0) {
@@ -90,10 +92,11 @@ double median(std::vector<double> times)
 class Desk
 {
 public:
-    Desk() : m_page(stopwatch, nullptr)
+    Desk()
     {
-        m_page.show();
-        if (!QTest::qWaitForWindowActive(&m_page))
+        m_page.resize(1200, 700);
+        m_window.show();
+        if (!QTest::qWaitForWindowActive(&m_window))
             qFatal("the page does not come up");
     }
 
@@ -106,13 +109,18 @@ public:
         Hands::type(u"c%1"_s.arg(m_dice.bounded(Customers), 2, 10, QChar(u'0')));
         Hands::press(Qt::Key_Return);
         Hands::click(m_page.findChild<PushButton *>(u"lvButtons_H0"_s));
-        const qsizetype boxes = m_hands.takeBoxes().size();
-        if (boxes != 1) // the question alone
-            qFatal("a ticket was not filed");
+        const QStringList boxes = m_hands.takeBoxes();
+        if (boxes.size() != 1) // the question alone
+            qFatal("a ticket was not filed: %s", qPrintable(boxes.join(u'\n')));
         ++filed;
     }
 
-    Stopwatch stopwatch;
+private:
+    QWidget
+        m_window; ///< the bar is part of it, as in the program: one of its own would take the keys
+
+public:
+    Stopwatch stopwatch{&m_window};
     int filed = 0;
 
 private:
@@ -129,15 +137,15 @@ private:
         const Kind &kind = Kinds[m_dice.bounded(quint32(Kinds.size()))];
         Hands::press(kind.key);
         QString line;
-        while (line.size() < kind.digits)
-            line += QString::number(m_dice.bounded(10));
+        while (line.size() < kind.digits) // no digit twice in a row, as some kinds want it
+            line += QString::number((line.right(1).toInt() + m_dice.bounded(1, 10)) % 10);
         Hands::type(line + u'-' + QString::number(m_dice.bounded(1, 1'000)));
         Hands::press(Qt::Key_Return);
     }
 
     QRandomGenerator m_dice{1};
     Hands m_hands;
-    Form1 m_page;
+    Form1 m_page{stopwatch, &m_window};
 };
 
 } // namespace
