@@ -3,6 +3,7 @@
 #include "ledger/connection.h"
 
 #include "ledger/collation.h"
+#include "ledger/salt.h"
 #include "ledger/schema.h"
 #include "runtime/runtimeerror.h"
 
@@ -123,6 +124,8 @@ struct Connection::Engine
     void openFile(int flags, const QByteArray &password)
     {
         journalWaited = QFile::exists(path + u"-wal"_s);
+        if (journalWaited)
+            salt = std::make_unique<MendedSalt>(path);
         // One thread works on it, so no call needs to lock.
         check(sqlite3_open_v2(path.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX,
                               nullptr));
@@ -155,9 +158,10 @@ struct Connection::Engine
         if (!journalWaited)
             return;
         finalizeAll();
+        salt->putBack();
         // Never destroyed, so that what is left open stays known to the end of the process.
-        static auto &abandoned = *new QList<sqlite3 *>;
-        abandoned.append(std::exchange(handle, nullptr));
+        static auto &abandoned = *new QList<std::pair<sqlite3 *, MendedSalt *>>;
+        abandoned.append({std::exchange(handle, nullptr), salt.release()});
     }
 
     sqlite3_stmt *prepare(const QString &sql)
@@ -189,8 +193,9 @@ struct Connection::Engine
     }
 
     QString path;
-    QByteArray folder;          ///< the one that the file lies in
-    bool journalWaited = false; ///< the last owner was killed and left a journal
+    QByteArray folder;                ///< the one that the file lies in
+    bool journalWaited = false;       ///< the last owner was killed and left a journal
+    std::unique_ptr<MendedSalt> salt; ///< of a file whose journal waited
     sqlite3 *handle = nullptr;
     QHash<QString, sqlite3_stmt *> prepared;
 };

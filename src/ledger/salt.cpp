@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ledger/salt.h"
 
-#include <QFile>
 #include <QtEndian>
 
 namespace {
@@ -72,33 +71,30 @@ QByteArray saltInJournal(const QByteArray &journal)
     return {};
 }
 
-void writeSalt(QFile &file, const QByteArray &salt)
-{
-    if (file.seek(0))
-        file.write(salt);
-}
-
 } // namespace
 
-MendedSalt::MendedSalt(const QString &path) : m_path(path)
+MendedSalt::MendedSalt(const QString &path) : m_file(path)
 {
     QFile journal(path + QStringLiteral("-wal"));
-    QFile file(path);
-    if (!journal.open(QIODevice::ReadOnly) || !file.open(QIODevice::ReadWrite))
+    const QByteArray salt =
+        journal.open(QIODevice::ReadOnly) ? saltInJournal(journal.readAll()) : QByteArray();
+    if (salt.isEmpty() || !m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
         return;
-    const QByteArray salt = saltInJournal(journal.readAll());
-    const QByteArray found = file.read(SaltSize);
-    if (salt.isEmpty() || found.size() != SaltSize || found == salt)
+    const QByteArray found = m_file.read(SaltSize);
+    if (found.size() != SaltSize || found == salt)
         return;
     m_before = found;
-    writeSalt(file, salt);
+    write(salt);
 }
 
-MendedSalt::~MendedSalt()
+void MendedSalt::putBack()
 {
-    if (m_before.isEmpty())
-        return;
-    QFile file(m_path);
-    if (file.open(QIODevice::ReadWrite))
-        writeSalt(file, m_before);
+    if (!m_before.isEmpty())
+        write(m_before);
+}
+
+void MendedSalt::write(const QByteArray &salt)
+{
+    if (m_file.seek(0))
+        m_file.write(salt); // if it fails the engine refuses the file as it would have done
 }
