@@ -87,8 +87,8 @@ Step::Step(Kind what, QRandomGenerator &dice, bool small)
         discount = QLocale(QLocale::English).toString(dice.bounded(1, 9'999));
 }
 
-Day::Day(quint32 seed, std::vector<Step::Kind> kinds)
-    : m_dice(seed), m_kinds(std::move(kinds)), m_given(!m_kinds.empty())
+Day::Day(quint32 seed, std::vector<Step::Kind> kinds, bool small)
+    : m_dice(seed), m_kinds(std::move(kinds)), m_given(!m_kinds.empty()), m_small(small)
 {}
 
 Step::Kind Day::kind(qsizetype lines)
@@ -109,7 +109,7 @@ Step::Kind Day::kind(qsizetype lines)
 
 Step Day::next(qsizetype lines)
 {
-    return {kind(lines), m_dice, m_given};
+    return {kind(lines), m_dice, m_small};
 }
 
 QStringList DayBook::rows() const
@@ -140,7 +140,7 @@ QStringList DayBook::rows() const
     return rows;
 }
 
-QStringList DayBook::rowsLeftIn(const QString &ledger)
+QStringList DayBook::rowsLeftIn(const QString &ledger, const QByteArray &key)
 {
     const QTemporaryDir folder;
     const QString copy = folder.filePath(u"copy"_s);
@@ -148,7 +148,7 @@ QStringList DayBook::rowsLeftIn(const QString &ledger)
     QFile::copy(ledger + u"-wal"_s, copy + u"-wal"_s);
     QStringList rows;
     try {
-        const auto opened = Connection::open(copy, readyKey(copy));
+        const auto opened = Connection::open(copy, key);
         const auto damage = opened->run(u"PRAGMA integrity_check"_s).rows[0][0].toString();
         rows = damage == u"ok" ? rowsOf(*opened) : QStringList(damage);
     } catch (const RunTimeError &error) {

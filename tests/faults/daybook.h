@@ -46,8 +46,9 @@ struct Step
 class Day
 {
 public:
-    /// With @p kinds the day has these steps and then ends; else it goes on for ever.
-    explicit Day(quint32 seed, std::vector<Step::Kind> kinds = {});
+    /// With @p kinds the day has these steps and then ends; else it goes on for ever. Small days
+    /// have small tickets.
+    explicit Day(quint32 seed, std::vector<Step::Kind> kinds = {}, bool small = false);
 
     bool isOver() const { return m_given && m_kinds.empty(); }
     Step next(qsizetype lines);
@@ -61,6 +62,7 @@ private:
     QRandomGenerator m_dice;
     std::vector<Step::Kind> m_kinds;
     bool m_given;
+    bool m_small;
 };
 
 /// What a book holds.
@@ -73,7 +75,7 @@ public:
     /// The same of a Ledger that its owner left as it stood, by whatever death, read from a copy,
     /// so that the next owner meets the journal that was left to it. Instead of rows it gives what
     /// is wrong if the file does not open, or is not sound in each of its pages.
-    static QStringList rowsLeftIn(const QString &ledger);
+    static QStringList rowsLeftIn(const QString &ledger, const QByteArray &key);
 
     /// Has the book go on to what was found of it: the state behind the day's step or row that was
     /// acknowledged last, or one on the way to the next. False if it is none of these.

@@ -21,7 +21,10 @@ struct ProgramFolder
     QString ledger() const { return data() + QStringLiteral("/ztkdata.ZDB"); }
     QString journal() const { return ledger() + QStringLiteral("-wal"); }
 
-    /// Opens the Ledger for this process, with the key that readyKey() gives.
+    /// The key of all of them, ready to use.
+    static QByteArray key();
+
+    /// Opens the Ledger for this process, with that key.
     void open() const;
 
     /// Bytes of all that lies beside the program, by name.

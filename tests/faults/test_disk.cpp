@@ -61,7 +61,7 @@ void FaultsTest::powerCutLosesNoAcknowledgedStep()
     QRandomGenerator dice(m_seed);
     std::vector<Step::Kind> kinds;
     for (int days = 0; days < 2; ++days) {
-        kinds.insert(kinds.end(), 15, Step::File); // enough for the file to grow
+        kinds.insert(kinds.end(), 6, Step::File); // enough for the file to grow
         kinds.insert(kinds.end(), ShortDay.begin(), ShortDay.end());
     }
     const Day day(m_seed, kinds);
@@ -73,7 +73,8 @@ void FaultsTest::powerCutLosesNoAcknowledgedStep()
             const QTemporaryDir left;
             disk.cutPower(dice, left.path());
             DayBook book;
-            const auto found = DayBook::rowsLeftIn(left.filePath(u"ztkdata.ZDB"_s));
+            const auto found =
+                DayBook::rowsLeftIn(left.filePath(u"ztkdata.ZDB"_s), ProgramFolder::key());
             if (!book.goOn(day, outcome.acknowledged, found))
                 wrong = QStringList(QString::number(outcome.acknowledged)) + found;
         }
@@ -120,7 +121,7 @@ void FaultsTest::failingCallLeavesWholeStatements()
     QFETCH(Fault, fault);
     QFETCH(Call, call);
     QFETCH(QStringList, words);
-    const Day day(m_seed, ShortDay);
+    const Day day(m_seed, ShortDay, true);
     int reports = 0;
     int nth = 0;
     for (bool struck = true; struck;) {
@@ -133,7 +134,7 @@ void FaultsTest::failingCallLeavesWholeStatements()
             struck = disk.struck();
         }
         QVERIFY(outcome.status >= 0);
-        const QStringList found = DayBook::rowsLeftIn(folder.ledger());
+        const QStringList found = DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key());
         const QByteArray what = "call " + QByteArray::number(nth) + ", acknowledged "
                                 + QByteArray::number(outcome.acknowledged) + ": "
                                 + (outcome.boxes + found).join(u'\n').toUtf8();
@@ -156,7 +157,7 @@ void FaultsTest::folderTurnedReadOnlyEndsInTheReport()
     QSKIP("rights of a folder are not told there");
 #endif
     const ProgramFolder folder;
-    const Day day(m_seed, ShortDay);
+    const Day day(m_seed, ShortDay, true);
     Outcome outcome;
     withPlainRights([&] {
         outcome.keep(folder, day, [&] {
@@ -167,7 +168,8 @@ void FaultsTest::folderTurnedReadOnlyEndsInTheReport()
     QCOMPARE(outcome.boxes, QStringList(Report + u"attempt to write a readonly database"_s));
     QCOMPARE(outcome.status, 1);
     DayBook book;
-    QVERIFY(book.goOn(day, outcome.acknowledged, DayBook::rowsLeftIn(folder.ledger())));
+    QVERIFY(book.goOn(day, outcome.acknowledged,
+                      DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key())));
 
     const auto left = folder.bytes(); // with the journal, which could not be removed
     QCOMPARE(left.size(), 2);

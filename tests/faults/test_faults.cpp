@@ -48,9 +48,14 @@ ProgramFolder::~ProgramFolder()
     QFile::setPermissions(data(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
+QByteArray ProgramFolder::key()
+{
+    return readyKey(pristineLedger());
+}
+
 void ProgramFolder::open() const
 {
-    LedgerConnection = Connection::open(ledger(), readyKey(pristineLedger()));
+    LedgerConnection = Connection::open(ledger(), key());
     CurrentUser = u"sv"_s;
     atProgramEnd(CloseLedger);
 }
@@ -104,7 +109,7 @@ void FaultsTest::killLosesNoAcknowledgedStep()
         victim.kill();
         QCOMPARE(victim.boxes(), QString());
         const qsizetype acknowledged = victim.acknowledged();
-        const QStringList found = DayBook::rowsLeftIn(folder->ledger());
+        const QStringList found = DayBook::rowsLeftIn(folder->ledger(), ProgramFolder::key());
         QVERIFY2(book.goOn(Day(seed), acknowledged, found),
                  qPrintable(u"kill %1, day %2, %3 acknowledged, then found:\n%4"_s.arg(kill)
                                 .arg(seed)

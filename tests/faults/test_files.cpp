@@ -119,7 +119,7 @@ void FaultsTest::damagedLedgerIsRefused()
     QFETCH(Damage, damage);
     const ProgramFolder folder;
     folder.open();
-    Day(m_seed, std::vector(60, Step::File)).perform([] {});
+    Day(m_seed, std::vector(60, Step::File), true).perform([] {});
     QCOMPARE(LedgerConnection->run(u"PRAGMA freelist_count"_s).rows[0][0].toInt(), 0);
     CloseLedger();
     const QByteArray good = folder.bytes()[u"ztkdata.ZDB"_s];
@@ -163,7 +163,8 @@ void FaultsTest::damagedJournalLeavesWholeSteps()
 {
     const ProgramFolder folder;
     folder.open();
-    const Day day(m_seed, {Step::File, Step::Cut, Step::Check, Step::File, Step::Cut, Step::File});
+    const Day day(m_seed, {Step::File, Step::Cut, Step::Check, Step::File, Step::Cut, Step::File},
+                  true);
     qsizetype acknowledged = 0;
     Day(day).perform([&] { ++acknowledged; });
     const auto good = folder.bytes();
@@ -183,7 +184,7 @@ void FaultsTest::damagedJournalLeavesWholeSteps()
         else
             journal[at] = char(journal[at] ^ (1 << dice.bounded(8)));
         write(ledger + u"-wal"_s, journal);
-        const QStringList found = DayBook::rowsLeftIn(ledger);
+        const QStringList found = DayBook::rowsLeftIn(ledger, ProgramFolder::key());
         bool whole = false;
         for (qsizetype steps = 0; steps <= acknowledged && !whole; ++steps)
             whole = DayBook().goOn(day, steps, found);
@@ -211,7 +212,7 @@ void FaultsTest::nothingLeaks()
     for (size_t at = 5; at < kinds.size(); at += 3)
         kinds[at] = Step::Cut;
     kinds.push_back(Step::Check);
-    Day day(m_seed, kinds);
+    Day day(m_seed, kinds, true);
     day.perform([] {});
     LedgerConnection->run(u"UPDATE tblMember SET Mber = ? WHERE MPK > 0"_s,
                           {QString::fromLatin1(telephone)});
