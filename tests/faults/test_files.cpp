@@ -157,6 +157,26 @@ void FaultsTest::whatIsNoFileIsRefused()
     }
 }
 
+/// Its first page brings a salt that opens nothing here.
+void FaultsTest::journalOfAnotherLedgerIsRefused()
+{
+    QByteArray journal;
+    {
+        const TestLedger other;
+        other.run(u"PRAGMA application_id = 1"_s); // stands in the first page
+        QFile file(other.path() + u"-wal"_s);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        journal = file.readAll();
+    }
+    const ProgramFolder folder;
+    write(folder.journal(), journal);
+    const auto before = folder.bytes();
+    const BoxScript script;
+    QCOMPARE(endStatus([] { ConnectLedger(); }), 1);
+    QCOMPARE(script.texts().size(), 1);
+    QVERIFY(folder.bytes() == before);
+}
+
 /// The engine cannot tell a damaged journal from one that a power cut tore: what stands behind the
 /// damage is lost, but never half of a step.
 void FaultsTest::damagedJournalLeavesWholeSteps()
