@@ -34,7 +34,7 @@ test    poppler-utils     reads PDF files independently of the program
 test    clang-format      checks the layout of the source
 lint    clang-tidy        checks the source for common mistakes
 fuzz    clang             the C++ compiler with a fuzzer
-fuzz    libclang-rt-14-dev the fuzzer's and the sanitizers' libraries
+fuzz    libclang-rt-14-dev libraries of the fuzzer and the sanitizers
 voice   espeak-ng         speaks the words of the recordings
 voice   sox               trims and levels the recordings
 voice   lame              packs the recordings
