@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The law of the money: whole draws by chance, from keyed lines to the settlement, against a book
-// kept with a pencil. Not one baht may be off. MIRAKLA_LAW_LINES sets how many lines are filed.
+// kept with a pencil. Not one baht may be off. DESK_LAW_LINES sets how many lines are filed.
 #include "cutting/board.h"
 #include "cutting/cutout.h"
 #include "cutting/selection.h"
@@ -89,7 +89,7 @@ void LawTest::initTestCase()
 void LawTest::notOneBahtIsOff_data()
 {
     QTest::addColumn<int>("seed");
-    const int lines = qEnvironmentVariableIntValue("MIRAKLA_LAW_LINES");
+    const int lines = qEnvironmentVariableIntValue("DESK_LAW_LINES");
     for (int seed = 1; seed <= std::max(2, lines / LinesInARow); ++seed)
         QTest::addRow("seed %d", seed) << seed;
 }
