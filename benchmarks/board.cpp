@@ -181,9 +181,9 @@ Measured measureFilter(benchmark::State &state, int lines)
     return ratio(ours, bareMicroseconds(desk, true), "us");
 }
 
-Measured measureCut(benchmark::State &state, int board)
+Measured measureCut(benchmark::State &state, int board, int lines)
 {
-    BoardDesk desk(1'000'000);
+    BoardDesk desk(lines);
     const BoxShower before = setBoxShower([](const Box &) { return BoxAnswer::Ok; });
     int row = 0;
     const Samples ours = taken(state, [&] { return desk.cut(board, ++row % 10 + 1); });

@@ -54,8 +54,8 @@ Measured measureReload(benchmark::State &state, int lines);
 /// The filter of one customer, as a multiple of its statements.
 Measured measureFilter(benchmark::State &state, int lines);
 
-/// Milliseconds of a cut at 1,000,000 lines and of the reload of its board, 0 to 7.
-Measured measureCut(benchmark::State &state, int board);
+/// Milliseconds of a cut in a book of @p lines lines and of the reload of its board, 0 to 7.
+Measured measureCut(benchmark::State &state, int board, int lines);
 
 /// A top scan of a full book of 1,000,000 lines to the repainted grid, as a multiple of what it may
 /// take: two bare grouped statements over the same lines and 0.1 s.
@@ -64,8 +64,8 @@ Measured measureScan(benchmark::State &state);
 /// A save of 1,000 rows as a multiple of the same rows inserted through the bare C interface.
 Measured measureSave(benchmark::State &state);
 
-/// A save into a Ledger of 1,000,000 lines as a multiple of one into a Ledger of 1,000.
-Measured measureSaveGrowth(benchmark::State &state);
+/// A save into a Ledger of @p lines lines as a multiple of one into a Ledger of 1,000.
+Measured measureSaveGrowth(benchmark::State &state, int lines);
 
 /// The start of the program to its first painted window, on a desktop of Qt's name @p platform,
 /// as a multiple of that of a bare window and the opening of the Ledger.
@@ -83,10 +83,10 @@ Measured measureSheet(benchmark::State &state);
 /// Kilobytes of the statement of a full book as a PDF file.
 Measured measureDocument(benchmark::State &state);
 
-/// A draw check at 1,000,000 lines, from the sum of the book to the row that keeps the result, as a
+/// A draw check in a book of @p lines lines, from the sum of the book to the row that keeps the result, as a
 /// multiple of the two statements that it reads with, the sum and the search, run through the bare
 /// C interface.
-Measured measureWinnerSearch(benchmark::State &state);
+Measured measureWinnerSearch(benchmark::State &state, int lines);
 
 /// Milliseconds from the press of the button to 5,000 winning rows on the screen.
 Measured measureWinnersShown(benchmark::State &state);

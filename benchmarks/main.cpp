@@ -11,6 +11,7 @@
 
 #include <array>
 #include <cstdio>
+#include <limits>
 #include <map>
 #include <optional>
 
@@ -27,6 +28,9 @@ struct Figure
 
 using State = benchmark::State;
 
+/// The bound of a figure that promises nothing and is told to show how another grows.
+constexpr double Told = std::numeric_limits<double>::infinity();
+
 constexpr std::array Figures{
     Figure{"Enter to repainted grid of 500 rows, new row, 99th of 100", 16, "ms", 1000,
            [](State &state) { return measureEnter(state, 500); }},
@@ -42,7 +46,10 @@ constexpr std::array Figures{
     Figure{"Statement of a full book, size as PDF", 1000, "kB", 5, measureDocument},
     Figure{"Statement of 1,000 rows as .xls", 100, "ms", 21, measureSheet},
     Figure{"Save of 1,000 rows : bare durable statements", 2, "times", 21, measureSave},
-    Figure{"Save at 1,000,000 lines : at 1,000 lines", 1.2, "times", 21, measureSaveGrowth},
+    Figure{"Save at 100,000 lines : at 1,000 lines", 1.2, "times", 21,
+           [](State &state) { return measureSaveGrowth(state, 100'000); }},
+    Figure{"Save at 1,000,000 lines : at 1,000 lines", 1.2, "times", 21,
+           [](State &state) { return measureSaveGrowth(state, 1'000'000); }},
     Figure{"Reload of all boards : bare statements, 1,000 lines", 1.5, "times", 51,
            [](State &state) { return measureReload(state, 1'000); }},
     Figure{"Reload of all boards : bare statements, 100,000 lines", 1.5, "times", 21,
@@ -55,14 +62,22 @@ constexpr std::array Figures{
            [](State &state) { return measureFilter(state, 100'000); }},
     Figure{"Filter of one customer : bare statements, 1,000,000 lines", 1.5, "times", 11,
            [](State &state) { return measureFilter(state, 1'000'000); }},
+    Figure{"Cut and reload of 3 digits straight, 1,000 lines", 50, "ms", 21,
+           [](State &state) { return measureCut(state, 0, 1'000); }},
+    Figure{"Cut and reload of 3 digits straight, 100,000 lines", 50, "ms", 21,
+           [](State &state) { return measureCut(state, 0, 100'000); }},
     Figure{"Cut and reload of 3 digits straight, 1,000,000 lines", 50, "ms", 21,
-           [](State &state) { return measureCut(state, 0); }},
-    Figure{"Cut and reload of a run behind which 12,500 lines stand", 50, "ms", 21,
-           [](State &state) { return measureCut(state, 4); }},
+           [](State &state) { return measureCut(state, 0, 1'000'000); }},
+    Figure{"Cut and reload of a run on top, 1,000,000 lines", 50, "ms", 21,
+           [](State &state) { return measureCut(state, 4, 1'000'000); }},
     Figure{"Top scan of a full book : 2 bare grouped statements, 0.1 s", 1, "times", 11,
            measureScan},
-    Figure{"Draw check at 1,000,000 lines : its bare statements", 1.2, "times", 15,
-           measureWinnerSearch},
+    Figure{"Draw check : its bare statements, 1,000 lines", Told, "times", 15,
+           [](State &state) { return measureWinnerSearch(state, 1'000); }},
+    Figure{"Draw check : its bare statements, 100,000 lines", Told, "times", 15,
+           [](State &state) { return measureWinnerSearch(state, 100'000); }},
+    Figure{"Draw check : its bare statements, 1,000,000 lines", 1.2, "times", 15,
+           [](State &state) { return measureWinnerSearch(state, 1'000'000); }},
     Figure{"5,000 winning rows shown", 500, "ms", 15, measureWinnersShown},
     Figure{"Start to first paint : bare window and Ledger, offscreen", 1.5, "times", 31,
            [](State &state) { return measureStart(state, "offscreen"); }},
@@ -92,7 +107,11 @@ public:
             const bool met = measured <= figure.bound;
             allMet = allMet.value_or(true) && met;
             std::printf("%-58s %-4g %-5s %10.2f  %-7s  %s\n", figure.name, figure.bound,
-                        figure.unit, measured, met ? "met" : "MISSED", run.report_label.c_str());
+                        figure.unit, measured,
+                        figure.bound == Told ? "told"
+                        : met                ? "met"
+                                             : "MISSED",
+                        run.report_label.c_str());
             std::fflush(stdout);
         }
     }

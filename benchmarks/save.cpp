@@ -100,10 +100,10 @@ Measured measureSave(benchmark::State &state)
     return ratio(ours, bare, "us a row");
 }
 
-Measured measureSaveGrowth(benchmark::State &state)
+Measured measureSaveGrowth(benchmark::State &state, int lines)
 {
     const ThousandRows ticket;
-    FilledLedger big(1'000'000);
+    FilledLedger big(lines);
     FilledLedger small(1'000);
     Samples inBig;
     Samples inSmall;

@@ -24,7 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int CustomerCount = 300;
-constexpr int LineCount = 1'000'000;
 constexpr int HotCount = 50;
 constexpr int WinnerCount = 5000;
 const QString Result = u"12345678901234567"_s;
@@ -38,12 +37,12 @@ ResultDigits resultDigits()
 }
 
 /// Any number of any class for any customer: some 5,000 winning rows in a million lines.
-std::vector<BetLine> mixedLines()
+std::vector<BetLine> mixedLines(int count)
 {
     std::mt19937 dice(20261122);
     std::vector<BetLine> lines;
-    lines.reserve(LineCount);
-    for (size_t at = 0; at < LineCount; ++at) {
+    lines.reserve(size_t(count));
+    for (size_t at = 0; at < size_t(count); ++at) {
         const BetClass &betClass = BetClasses[at % ClassCount];
         lines.push_back({&betClass, 1 + int(dice() % CustomerCount),
                          QByteArray::number(1000 + uint(dice() % 1000)).right(betClass.num23)});
@@ -59,18 +58,18 @@ void addCustomers(const TestLedger &ledger, int count)
                {count});
 }
 
-/// A closed Ledger of a million lines and fifty hot numbers.
+/// A closed Ledger of @p lines lines and fifty hot numbers.
 class BigBook : public TestLedger
 {
 public:
-    BigBook()
+    explicit BigBook(int lines)
     {
         addCustomers(*this, CustomerCount);
         for (int hot = 0; hot < HotCount; ++hot)
             run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s,
                 {QString::number(100 + hot * 17)});
         CloseLedger();
-        insertBare(path().toUtf8(), mixedLines(), Durable::AllAtOnce);
+        insertBare(path().toUtf8(), mixedLines(lines), Durable::AllAtOnce);
     }
 };
 
@@ -93,9 +92,9 @@ double checkDraw(int &winners)
 
 } // namespace
 
-Measured measureWinnerSearch(benchmark::State &state)
+Measured measureWinnerSearch(benchmark::State &state, int lines)
 {
-    const BigBook book;
+    const BigBook book(lines);
     const BoundStatement search = winnerSearch(Book::Ours, resultDigits());
     const BareStatements statements{{"SELECT sum(numBuy) FROM tblNumber", {}},
                                     {search.sql.toUtf8(), search.values}};
@@ -104,11 +103,11 @@ Measured measureWinnerSearch(benchmark::State &state)
     Samples bare;
     int winners = 0;
     for ([[maybe_unused]] auto round : state) {
-        ours.push_back(checkDraw(winners) * 1000);
-        bare.push_back(selectBare(path, {}, statements, 1).front() * 1000);
-        state.SetIterationTime(ours.back() / 1000);
+        ours.push_back(checkDraw(winners) * 1e6);
+        bare.push_back(selectBare(path, {}, statements, 1).front() * 1e6);
+        state.SetIterationTime(ours.back() / 1e6);
     }
-    Measured measured = ratio(ours, bare, "ms");
+    Measured measured = ratio(ours, bare, "us");
     measured.detail += QString::asprintf(", %d rows", winners);
     return measured;
 }
