@@ -215,7 +215,8 @@ void refuseUnwritable(const QString &path)
 
 /// Looks for damage as deep as the start may take: a broken last page always, every page of a book
 /// of common size. Pages of a longer book are checked as they are read.
-void refuseDamaged(Connection &ledger, const QString &path, bool journalWaited)
+/// A book whose salt was mended is always checked whole: its journal may be that of another.
+void refuseDamaged(Connection &ledger, const QString &path, bool journalWaited, bool saltMended)
 {
     constexpr qint64 CheckedBytes = 4'000'000;
     const auto answer = [&](const QString &pragma) { return ledger.run(pragma).rows[0][0]; };
@@ -223,7 +224,8 @@ void refuseDamaged(Connection &ledger, const QString &path, bool journalWaited)
     const auto isTorn = [&] { return QFile(path).size() % pageSize != 0; };
     if (!journalWaited && isTorn())
         raiseFailure(SQLITE_CORRUPT);
-    if (QFile(path).size() <= CheckedBytes && answer(u"PRAGMA quick_check(1)"_s) != u"ok"_s)
+    const bool checked = saltMended || QFile(path).size() <= CheckedBytes;
+    if (checked && answer(u"PRAGMA quick_check(1)"_s) != u"ok"_s)
         raiseFailure(SQLITE_CORRUPT);
     // A journal mends a torn page once it is moved into the file. One that holds nothing leaves it
     // torn, and the next start would refuse what this one took.
@@ -258,7 +260,7 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
             raiseFailure(SQLITE_READONLY);
         if (!isLedger(*ledger))
             raiseFailure(SQLITE_NOTADB);
-        refuseDamaged(*ledger, path, engine.journalWaited);
+        refuseDamaged(*ledger, path, engine.journalWaited, engine.salt && engine.salt->isMended());
     } catch (const RunTimeError &) {
         engine.abandon();
         throw;

@@ -14,6 +14,8 @@ public:
     /// engine's lock goes when anybody of this process closes the file.
     explicit MendedSalt(const QString &path);
 
+    bool isMended() const { return !m_before.isEmpty(); }
+
     /// Gives a file that is refused the bytes back that it had.
     void putBack();
 

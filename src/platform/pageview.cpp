@@ -81,6 +81,12 @@ void PageView::goToPage(int page)
     emit pageChanged();
 }
 
+void PageView::previousPage()
+{
+    const int above = (verticalScrollBar()->value() - 1) / pageStep() + 1;
+    goToPage(std::min(page() - 1, above));
+}
+
 void PageView::setZoom(int percent)
 {
     const int step = m_laidOutStep > 0 ? m_laidOutStep : pageStep();
@@ -165,7 +171,7 @@ void PageView::keyPressEvent(QKeyEvent *event)
 {
     switch (event->key()) {
     case Qt::Key_PageUp:
-        goToPage(page() - 1);
+        previousPage();
         break;
     case Qt::Key_PageDown:
         goToPage(page() + 1);

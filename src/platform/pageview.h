@@ -31,6 +31,10 @@ public:
     /// Brings a page to the top; the nearest one if there is none of that number.
     Q_INVOKABLE void goToPage(int page);
 
+    /// Goes back to the page before, also from the end of the report, where several pages may be in
+    /// sight and the one before the last is there already.
+    void previousPage();
+
     int zoom() const { return m_zoom; } ///< percent, or FitWidth
 
     /// Percent at which pages are shown now, also while they fit the width.

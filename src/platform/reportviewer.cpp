@@ -123,7 +123,7 @@ void ReportViewer::firstPage()
 
 void ReportViewer::previousPage()
 {
-    m_pages->goToPage(m_pages->page() - 1);
+    m_pages->previousPage();
 }
 
 void ReportViewer::nextPage()

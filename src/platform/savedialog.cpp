@@ -18,7 +18,8 @@ QString showSaveDialog(const SaveRequest &request)
     dialog.setObjectName(u"cd1"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    dialog.setNameFilter(u'*' + request.extension);
+    // Without the dot: from "*.xls" the dialog of Windows would take an ending and add it.
+    dialog.setNameFilter(u'*' + request.extension.mid(1));
     dialog.selectFile(request.preset);
     if (runDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return {};

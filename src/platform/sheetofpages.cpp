@@ -46,7 +46,9 @@ private:
             if (item.section == section && item.kind == ReportControl::Text)
                 items += &item;
         }
-        std::ranges::stable_sort(items, {}, [](const PageItem *item) { return item->box.top(); });
+        std::ranges::stable_sort(items, {}, [this](const PageItem *item) {
+            return std::pair(item->box.top(), columnOf(*item)); // readers take rows left to right
+        });
         const PageItem *before = nullptr;
         for (const PageItem *item : std::as_const(items)) {
             m_row += before && before->box.top() != item->box.top() ? 1 : 0;

@@ -158,6 +158,8 @@ void ViewersTest::smallestZoomIsTheLastStep()
     QCOMPARE(view->zoom(), PageView::Smallest); // and not the width of the view
     view->goToPage(view->pageCount());          // with several pages in sight
     QCOMPARE(view->page(), view->pageCount());
+    QTest::keyClick(view, Qt::Key_PageUp);
+    QVERIFY(view->page() < view->pageCount());
 }
 
 void ViewersTest::pageInSightIsDrawn()
