@@ -91,13 +91,25 @@ bool mayBeWritten(const QByteArray &path)
 #endif
 }
 
+/// The journal lies beside the file that a link leads to.
+QString realPath(const QString &path)
+{
+    const QString real = QFileInfo(path).canonicalFilePath();
+    return real.isEmpty() ? path : real;
+}
+
+bool journalWaitsBeside(const QString &path)
+{
+    return QFile::exists(path + u"-wal"_s);
+}
+
 } // namespace
 
 /// The engine's handle and the statements that it has prepared once.
 struct Connection::Engine
 {
     explicit Engine(const QString &filePath)
-        : path(filePath), folder(QFile::encodeName(QFileInfo(filePath).path()))
+        : path(realPath(filePath)), folder(QFile::encodeName(QFileInfo(path).path()))
     {}
     Q_DISABLE_COPY_MOVE(Engine)
 
@@ -123,7 +135,7 @@ struct Connection::Engine
 
     void openFile(int flags, const QByteArray &password)
     {
-        journalWaited = QFile::exists(path + u"-wal"_s);
+        journalWaited = journalWaitsBeside(path);
         if (journalWaited)
             salt = std::make_unique<MendedSalt>(path);
         // One thread works on it, so no call needs to lock.
@@ -158,7 +170,8 @@ struct Connection::Engine
         if (!journalWaited)
             return;
         finalizeAll();
-        salt->putBack();
+        if ((sqlite3_errcode(handle) & 0xff) != SQLITE_BUSY) // else it is at work for its owner
+            salt->putBack();
         // Never destroyed, so that what is left open stays known to the end of the process.
         static auto &abandoned = *new QList<std::pair<sqlite3 *, MendedSalt *>>;
         abandoned.append({std::exchange(handle, nullptr), salt.release()});
@@ -243,16 +256,17 @@ Connection::~Connection() = default;
 
 std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArray &password)
 {
+    if (!QFile::exists(path))
+        raiseFailure(SQLITE_CANTOPEN);
     std::unique_ptr<Connection> ledger(new Connection(std::make_unique<Engine>(path)));
     Engine &engine = *ledger->m_engine;
     try {
         // The engine would take an emptied file for a new one and delete the journal beside it. One
         // byte is empty to it as well.
-        if (QFile::exists(path) && QFile(path).size() <= 1)
+        if (QFile(path).size() <= 1)
             raiseFailure(SQLITE_NOTADB);
         // The engine would speak of a disk error where the file and its folder may only be read.
-        if (QFile::exists(path))
-            refuseUnwritable(path);
+        refuseUnwritable(engine.path);
         engine.openFile(SQLITE_OPEN_READWRITE, password);
         // The engine takes an empty file with any password, and a file that it may only read;
         // both would fail later, in the middle of a ticket.
@@ -260,7 +274,8 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
             raiseFailure(SQLITE_READONLY);
         if (!isLedger(*ledger))
             raiseFailure(SQLITE_NOTADB);
-        refuseDamaged(*ledger, path, engine.journalWaited, engine.salt && engine.salt->isMended());
+        refuseDamaged(*ledger, engine.path, engine.journalWaited,
+                      engine.salt && engine.salt->isMended());
     } catch (const RunTimeError &) {
         engine.abandon();
         throw;
@@ -272,6 +287,8 @@ std::unique_ptr<Connection> Connection::create(const QString &path, const QByteA
 {
     if (QFile::exists(path))
         raiseFailure(u"file exists: "_s + path);
+    if (journalWaitsBeside(path)) // the engine would delete it, and a book may need it
+        raiseFailure(u"journal of a missing file exists: "_s + path);
     std::unique_ptr<Connection> fresh(new Connection(std::make_unique<Engine>(path)));
     fresh->m_engine->openFile(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, password);
     return fresh;

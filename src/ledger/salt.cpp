@@ -76,9 +76,11 @@ QByteArray saltInJournal(const QByteArray &journal)
 MendedSalt::MendedSalt(const QString &path) : m_file(path)
 {
     QFile journal(path + QStringLiteral("-wal"));
+    constexpr auto Existing =
+        QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered;
     const QByteArray salt =
         journal.open(QIODevice::ReadOnly) ? saltInJournal(journal.readAll()) : QByteArray();
-    if (salt.isEmpty() || !m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+    if (salt.isEmpty() || !m_file.open(Existing))
         return;
     const QByteArray found = m_file.read(SaltSize);
     if (found.size() != SaltSize || found == salt)
