@@ -23,7 +23,8 @@
 #include <vector>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// The compiler's package leaves out the header that declares it.
+extern "C" size_t __sanitizer_get_current_allocated_bytes();
 #elif defined(Q_OS_LINUX)
 #include <malloc.h>
 #endif
