@@ -8,19 +8,21 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr std::array Columns{
+    GridColumn{PlaceColumn, u"ลำดับ"},
+    GridColumn{NameColumn, u" ชื่อลูกค้า", Qt::AlignLeft},
+    GridColumn{TelephoneColumn, u"เบอร์ติดต่อ"},
+    GridColumn{PercentColumn, u"ส่วนลด (%)"},
+};
+
+} // namespace
+
 void setupCustomerList(SpreadModel &list)
 {
-    constexpr auto Middle = Qt::AlignCenter;
-    constexpr auto Left = Qt::AlignLeft | Qt::AlignVCenter;
-    list.setup(4, 1);
-    list.setHeader(FirstHeaderRow, PlaceColumn, {u"ลำดับ"_s, Middle, true});
-    list.setHeader(FirstHeaderRow, NameColumn, {u" ชื่อลูกค้า"_s, Left, true});
-    list.setHeader(FirstHeaderRow, TelephoneColumn, {u"เบอร์ติดต่อ"_s, Middle, true});
-    list.setHeader(FirstHeaderRow, PercentColumn, {u"ส่วนลด (%)"_s, Middle, true});
-    list.setAlignment(PlaceColumn, Qt::AlignHCenter);
-    list.setAlignment(NameColumn, Qt::AlignLeft);
-    list.setAlignment(TelephoneColumn, Qt::AlignHCenter);
-    list.setAlignment(PercentColumn, Qt::AlignHCenter);
+    list.setup(PercentColumn, 1);
+    list.setTitles(FirstHeaderRow, Columns, true);
 }
 
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress)

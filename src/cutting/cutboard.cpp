@@ -18,6 +18,12 @@ constexpr int TotalColumn = 2; // spans that of the numbers and that of the mone
 
 constexpr std::array<const char16_t *, 2> Captions{u"(  บน  )", u"(  ล่าง  )"};
 
+constexpr std::array Columns{
+    GridColumn{CutTypeColumn, u"ประเภท"},
+    GridColumn{CutNumberColumn, u"เลข"},
+    GridColumn{CutAmountColumn, u"บาท", Qt::AlignRight},
+};
+
 } // namespace
 
 CutBoard::CutBoard()
@@ -33,7 +39,6 @@ bool CutBoard::isEmpty() const
 
 void CutBoard::SetupSpread()
 {
-    constexpr auto Right = Qt::AlignRight | Qt::AlignVCenter;
     for (size_t list = 0; list < grids.size(); ++list) {
         SpreadModel &grid = grids[list];
         const SpreadModel::Rebuild rebuild(grid);
@@ -41,13 +46,9 @@ void CutBoard::SetupSpread()
         grid.setHeader(CaptionRow, CutTypeColumn,
                        {QString::fromUtf16(Captions[list]), Qt::AlignCenter, true, 3});
         grid.setHeader(TotalRow, CutTypeColumn, {u"รวมเงิน"_s});
-        grid.setHeader(TotalRow, TotalColumn, {u"0"_s, Right, false, 2});
-        grid.setHeader(TitleRow, CutTypeColumn, {u"ประเภท"_s});
-        grid.setHeader(TitleRow, CutNumberColumn, {u"เลข"_s});
-        grid.setHeader(TitleRow, CutAmountColumn, {u"บาท"_s, Right});
-        grid.setAlignment(CutTypeColumn, Qt::AlignHCenter);
-        grid.setAlignment(CutNumberColumn, Qt::AlignHCenter);
-        grid.setAlignment(CutAmountColumn, Qt::AlignRight);
+        grid.setHeader(TotalRow, TotalColumn,
+                       {u"0"_s, Qt::AlignRight | Qt::AlignVCenter, false, 2});
+        grid.setTitles(TitleRow, Columns);
     }
 }
 

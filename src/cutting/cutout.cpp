@@ -13,16 +13,12 @@ namespace {
 constexpr int TotalRow = FirstHeaderRow;
 constexpr int TitleRow = FirstHeaderRow + 1;
 
-struct Title
-{
-    int column;
-    const char16_t *text;
-};
-
-constexpr std::array Titles{
-    Title{CutColumn::Place, u"ลำดับ"},   Title{CutColumn::Customer, u" ชื่อลูกค้า"},
-    Title{CutColumn::Label, u"ประเภท"}, Title{CutColumn::Number, u"เลข"},
-    Title{CutColumn::Amount, u"ยอดซื้อ"},
+constexpr std::array Columns{
+    GridColumn{CutColumn::Place, u"ลำดับ"},
+    GridColumn{CutColumn::Customer, u" ชื่อลูกค้า", Qt::AlignLeft, Qt::AlignHCenter},
+    GridColumn{CutColumn::Label, u"ประเภท"},
+    GridColumn{CutColumn::Number, u"เลข"},
+    GridColumn{CutColumn::Amount, u"ยอดซื้อ", Qt::AlignRight, Qt::AlignHCenter},
 };
 
 /// Places of what the list of lines reads.
@@ -57,11 +53,7 @@ void CutOut::SetupSpread()
     grid.setup(CutColumn::User, 2);
     grid.setHeader(TotalRow, CutColumn::Number, {u"ยอดรวม"_s, Qt::AlignCenter, true});
     grid.setHeader(TotalRow, CutColumn::Amount, {{}, Qt::AlignRight | Qt::AlignVCenter, true});
-    for (const Title &title : Titles)
-        grid.setHeader(TitleRow, title.column, {QString::fromUtf16(title.text)});
-    for (const int column : {CutColumn::Place, CutColumn::Label, CutColumn::Number})
-        grid.setAlignment(column, Qt::AlignHCenter);
-    grid.setAlignment(CutColumn::Amount, Qt::AlignRight);
+    grid.setTitles(TitleRow, Columns);
 }
 
 void CutOut::LoadNumrunup()

@@ -16,17 +16,14 @@ namespace {
 constexpr std::array<const qint16 *, ClassCount> ClassRates{
     &Rate3up, &Rate3tod, &Rate2up, &Rate2tod, &Raterunup, &Rate3down, &Rate2down, &Raterundown};
 
-struct WinnerColumn
-{
-    const char16_t *header = u"";
-    Qt::Alignment alignment;
-};
-
 constexpr std::array WinnerColumns{
-    WinnerColumn{u"ประเภท", Qt::AlignCenter},   WinnerColumn{u"เลข", Qt::AlignCenter},
-    WinnerColumn{u"หัก %", Qt::AlignCenter},     WinnerColumn{u"ถูก", Qt::AlignRight},
-    WinnerColumn{u"ได้เงิน", Qt::AlignRight},     WinnerColumn{u"ชื่อลูกค้า", Qt::AlignCenter},
-    WinnerColumn{u"เบอร์ติดต่อ", Qt::AlignCenter},
+    GridColumn{WinKindColumn, u"ประเภท"},
+    GridColumn{WinNumberColumn, u"เลข"},
+    GridColumn{WinPercentColumn, u"หัก %"},
+    GridColumn{WinStakeColumn, u"ถูก", Qt::AlignRight},
+    GridColumn{WinPayoutColumn, u"ได้เงิน", Qt::AlignRight},
+    GridColumn{WinNameColumn, u"ชื่อลูกค้า"},
+    GridColumn{WinTelephoneColumn, u"เบอร์ติดต่อ"},
 };
 
 /// The clause of one class: its lines that hold one of the winning numbers. A line is sought for
@@ -90,12 +87,7 @@ BoundStatement winnerSearch(Book book, const ResultDigits &digits)
 void setupWinners(SpreadModel &grid)
 {
     grid.setup(int(WinnerColumns.size()), 1);
-    for (int at = 0; at < int(WinnerColumns.size()); ++at) {
-        const WinnerColumn &column = WinnerColumns[size_t(at)];
-        grid.setHeader(FirstHeaderRow, at + 1,
-                       {QString::fromUtf16(column.header), column.alignment | Qt::AlignVCenter});
-        grid.setAlignment(at + 1, column.alignment);
-    }
+    grid.setTitles(FirstHeaderRow, WinnerColumns);
 }
 
 void writeWinner(SpreadModel &grid, int row)

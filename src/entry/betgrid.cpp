@@ -5,6 +5,15 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+constexpr std::array Columns{
+    GridColumn{NumberColumn, u"เลข"},
+    GridColumn{AmountColumn, u"บาท", Qt::AlignRight},
+};
+
+} // namespace
+
 void setupBetGrid(SpreadModel &grid, const BetClass &betClass, int columns)
 {
     const SpreadModel::Rebuild rebuild(grid);
@@ -12,10 +21,7 @@ void setupBetGrid(SpreadModel &grid, const BetClass &betClass, int columns)
     grid.setHeader(CaptionRow, NumberColumn, {betClass.captionText(), Qt::AlignCenter, true, 2});
     grid.setHeader(TotalRow, NumberColumn, {u"รวมเงิน"_s});
     grid.setHeader(TotalRow, AmountColumn, {u"0"_s, Qt::AlignRight | Qt::AlignVCenter});
-    grid.setHeader(TitleRow, NumberColumn, {u"เลข"_s});
-    grid.setHeader(TitleRow, AmountColumn, {u"บาท"_s, Qt::AlignRight | Qt::AlignVCenter});
-    grid.setAlignment(NumberColumn, Qt::AlignHCenter);
-    grid.setAlignment(AmountColumn, Qt::AlignRight);
+    grid.setTitles(TitleRow, Columns);
 }
 
 qint32 topTotal(const GridTotals &totals)

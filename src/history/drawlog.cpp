@@ -11,17 +11,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct LogColumn
-{
-    const char16_t *header = u"";
-    Qt::Alignment alignment;
-};
+constexpr int EmptyColumn = LogProfitColumn + 1; // takes the room that is left
 
 constexpr std::array LogColumns{
-    LogColumn{u"งวดที่", Qt::AlignCenter},    LogColumn{u"3 ตัวบน", Qt::AlignCenter},
-    LogColumn{u"3 ตัวล่าง", Qt::AlignCenter}, LogColumn{u"2 ตัวล่าง", Qt::AlignCenter},
-    LogColumn{u"เสียรวม", Qt::AlignRight},   LogColumn{u"กำไร", Qt::AlignRight},
-    LogColumn{u"", Qt::AlignLeft},
+    GridColumn{LogDateColumn, u"งวดที่"},
+    GridColumn{LogTopColumn, u"3 ตัวบน"},
+    GridColumn{LogBottomColumn, u"3 ตัวล่าง"},
+    GridColumn{LogBottomTwoColumn, u"2 ตัวล่าง"},
+    GridColumn{LogPayoutColumn, u"เสียรวม", Qt::AlignRight},
+    GridColumn{LogProfitColumn, u"กำไร", Qt::AlignRight},
+    GridColumn{EmptyColumn, u"", Qt::AlignLeft},
 };
 
 QString fieldText(const QString &column)
@@ -60,13 +59,8 @@ void writeDraw(SpreadModel &grid, int row)
 
 void setupDrawLog(SpreadModel &grid)
 {
-    grid.setup(int(LogColumns.size()), 1);
-    for (int at = 0; at < int(LogColumns.size()); ++at) {
-        const LogColumn &column = LogColumns[size_t(at)];
-        grid.setHeader(FirstHeaderRow, at + 1,
-                       {QString::fromUtf16(column.header), column.alignment | Qt::AlignVCenter});
-        grid.setAlignment(at + 1, column.alignment);
-    }
+    grid.setup(EmptyColumn, 1);
+    grid.setTitles(FirstHeaderRow, LogColumns);
 }
 
 void Loaddata(SpreadModel &grid, ProgressBar &progress)

@@ -155,6 +155,16 @@ void SpreadModel::setHeader(int row, int column, const HeaderCell &cell)
     headerChanged(column);
 }
 
+void SpreadModel::setTitles(int row, std::span<const GridColumn> columns, bool bold)
+{
+    for (const GridColumn &column : columns) {
+        setHeader(
+            row, column.column,
+            {QString::fromUtf16(column.title), column.titleAlignment | Qt::AlignVCenter, bold});
+        setAlignment(column.column, column.alignment);
+    }
+}
+
 void SpreadModel::sortDescending(int column,
                                  const std::function<double(const QString &text)> &valueOf)
 {

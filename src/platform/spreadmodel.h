@@ -14,6 +14,15 @@
 /// Header rows count up from here: -1000 is the first, -999 the second, -998 the third.
 inline constexpr int FirstHeaderRow = -1000;
 
+/// A column of a list: its title, and on which side cells and title stand.
+struct GridColumn
+{
+    int column;
+    const char16_t *title;
+    Qt::Alignment alignment = Qt::AlignHCenter;
+    Qt::Alignment titleAlignment = alignment;
+};
+
 /// A grid of text cells. Rows and columns count from 1; column 0 is the hidden row-header
 /// column. Above the rows stand the header rows, numbered from FirstHeaderRow on.
 class SpreadModel : public QAbstractTableModel
@@ -65,6 +74,9 @@ public:
 
     const HeaderCell &header(int row, int column) const;
     void setHeader(int row, int column, const HeaderCell &cell);
+
+    /// Writes the titles of @p columns to a header row and aligns their cells.
+    void setTitles(int row, std::span<const GridColumn> columns, bool bold = false);
 
     /// Sorts the rows by what @p valueOf makes of their text in @p column, the highest first. Rows
     /// of equal value keep their order.

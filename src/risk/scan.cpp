@@ -12,16 +12,10 @@ qint32 ScanRow = 0;
 
 namespace {
 
-struct Title
-{
-    int column;
-    const char16_t *text;
-};
-
-constexpr std::array Titles{
-    Title{ScanColumn::Type, u"ประเภท"},   Title{ScanColumn::Number, u"เลข"},
-    Title{ScanColumn::Amount, u"ยอดเงิน"}, Title{ScanColumn::Risk, u"ความเสี่ยง"},
-    Title{ScanColumn::Inspect, u" "},     Title{ScanColumn::Cut, u" "},
+constexpr std::array Columns{
+    GridColumn{ScanColumn::Type, u"ประเภท"},   GridColumn{ScanColumn::Number, u"เลข"},
+    GridColumn{ScanColumn::Amount, u"ยอดเงิน"}, GridColumn{ScanColumn::Risk, u"ความเสี่ยง"},
+    GridColumn{ScanColumn::Inspect, u" "},     GridColumn{ScanColumn::Cut, u" "},
 };
 
 QList<ScanLine> readLines(bool updown)
@@ -70,10 +64,7 @@ void RiskScan::SetupSpread()
 {
     const SpreadModel::Rebuild rebuild(grid);
     grid.setup(ScanColumn::Cut, 1);
-    for (const Title &title : Titles) {
-        grid.setHeader(FirstHeaderRow, title.column, {QString::fromUtf16(title.text)});
-        grid.setAlignment(title.column, Qt::AlignHCenter);
-    }
+    grid.setTitles(FirstHeaderRow, Columns);
 }
 
 bool RiskScan::run(bool updown, ProgressBar &progress)

@@ -9,6 +9,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+constexpr std::array Columns{
+    GridColumn{HotPlaceColumn, u"ลำดับ"},
+    GridColumn{HotNumberColumn, u" เลขตรง"},
+    GridColumn{HotTodColumn, u"เลขโต๊ด"},
+    GridColumn{HotTodColumn + 1, u" ", Qt::AlignLeft},
+};
+
 /// Orders of a number's digits as this screen lists them, given as places in the number.
 QStringList todOrders(const QString &digits)
 {
@@ -41,13 +48,8 @@ QString hotTodForm(const QString &number)
 
 void listHotNumbers(SpreadModel &list)
 {
-    list.setup(4, 1);
-    list.setHeader(FirstHeaderRow, HotPlaceColumn, {u"ลำดับ"_s, Qt::AlignCenter, true});
-    list.setHeader(FirstHeaderRow, HotNumberColumn, {u" เลขตรง"_s, Qt::AlignCenter, true});
-    list.setHeader(FirstHeaderRow, HotTodColumn, {u"เลขโต๊ด"_s, Qt::AlignCenter, true});
-    list.setHeader(FirstHeaderRow, HotTodColumn + 1, {u" "_s});
-    for (const int column : {HotPlaceColumn, HotNumberColumn, HotTodColumn})
-        list.setAlignment(column, Qt::AlignHCenter);
+    list.setup(int(Columns.size()), 1);
+    list.setTitles(FirstHeaderRow, Columns, true);
     RecordsetA.open(u" SELECT  tblNumberFix.* FROM tblNumberFix ORDER BY PK desc"_s);
     list.setRows(RecordsetA.recordCount());
     for (int row = 1; !RecordsetA.eof(); ++row, RecordsetA.moveNext()) {
