@@ -17,17 +17,18 @@ constexpr std::array Columns{
     GridColumn{PercentColumn, u"ส่วนลด (%)"},
 };
 
-} // namespace
-
-void setupCustomerList(SpreadModel &list)
+/// The key of the next customer.
+qint32 SetupNewData()
 {
-    list.setup(PercentColumn, 1);
-    list.setTitles(FirstHeaderRow, Columns, true);
+    return nextKey(u"tblMember"_s, u"MPK"_s);
 }
+
+} // namespace
 
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress)
 {
-    setupCustomerList(list);
+    list.setup(PercentColumn, 1);
+    list.setTitles(FirstHeaderRow, Columns, true);
     RecordsetA.open(
         u" SELECT tblMember.* FROM tblMember WHERE  ifnull([Mname], '')  Like ? and [MPK] > 0 "
         "ORDER BY Mname COLLATE ThaiOrder"_s,
@@ -56,11 +57,6 @@ int countCustomersNamed(const QString &name)
     const int count = RecordsetA.recordCount();
     RecordsetA.close();
     return count;
-}
-
-qint32 SetupNewData()
-{
-    return nextKey(u"tblMember"_s, u"MPK"_s);
 }
 
 void addCustomer(const Customer &customer)

@@ -23,9 +23,6 @@ struct Customer
 inline constexpr const char16_t *TelephoneField = u"Mber";
 inline constexpr const char16_t *PercentField = u"MPercen";
 
-/// Empties the list and writes its headers.
-void setupCustomerList(SpreadModel &list);
-
 /// Fills the list, in Thai order, with the customers whose name holds @p part; "" lists all. Gives
 /// their number. Uses RecordsetA.
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress);
@@ -34,9 +31,6 @@ int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress)
 /// statement as it stands: an apostrophe in it breaks the statement, which raises DatabaseFailure.
 /// Uses RecordsetA.
 int countCustomersNamed(const QString &name);
-
-/// The key of the next customer.
-qint32 SetupNewData();
 
 /// Adds a customer under the next key. Uses both slots.
 void addCustomer(const Customer &customer);

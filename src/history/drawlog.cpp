@@ -57,15 +57,10 @@ void writeDraw(SpreadModel &grid, int row)
 
 } // namespace
 
-void setupDrawLog(SpreadModel &grid)
+void Loaddata(SpreadModel &grid, ProgressBar &progress)
 {
     grid.setup(EmptyColumn, 1);
     grid.setTitles(FirstHeaderRow, LogColumns);
-}
-
-void Loaddata(SpreadModel &grid, ProgressBar &progress)
-{
-    setupDrawLog(grid);
     RecordsetA.open(u"SELECT tblNumLog.* FROM tblNumLog  ORDER BY numdate desc, PK desc"_s);
     grid.setRows(RecordsetA.recordCount());
     if (grid.rows() > 0)

@@ -13,9 +13,6 @@ inline constexpr int LogBottomTwoColumn = 4;
 inline constexpr int LogPayoutColumn = 5;
 inline constexpr int LogProfitColumn = 6;
 
-/// Empties the grid and writes its header.
-void setupDrawLog(SpreadModel &grid);
-
 /// Lists all closed draws, the newest day first, of one day the one closed last. The money shows
 /// as "#,##", so that no payout is an empty cell. Uses RecordsetA.
 void Loaddata(SpreadModel &grid, ProgressBar &progress);

@@ -18,10 +18,15 @@ constexpr std::array Columns{
     GridColumn{ScanColumn::Inspect, u" "},     GridColumn{ScanColumn::Cut, u" "},
 };
 
+/// The numbers of a side in all classes, the most money first.
 QList<ScanLine> readLines(bool updown)
 {
     QList<ScanLine> lines;
-    RecordsetA.open(scanStatement(), {updown});
+    // The last column parts lines that are equal in both, as two classes of two digits may be.
+    RecordsetA.open(u"SELECT num23, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
+                    " WHERE updown = ? GROUP BY num23, updown, numType, numValue"
+                    " ORDER BY Sum(numBuy) DESC, numValue, numType"_s,
+                    {updown});
     lines.reserve(RecordsetA.recordCount());
     for (; !RecordsetA.eof(); RecordsetA.moveNext())
         lines += ScanLine{
@@ -46,14 +51,6 @@ double countOf(const QString &risk)
 }
 
 } // namespace
-
-QString scanStatement()
-{
-    // The last column parts lines that are equal in both, as two classes of two digits may be.
-    return u"SELECT num23, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
-           " WHERE updown = ? GROUP BY num23, updown, numType, numValue"
-           " ORDER BY Sum(numBuy) DESC, numValue, numType"_s;
-}
 
 RiskScan::RiskScan()
 {

@@ -21,9 +21,6 @@ inline constexpr int Cut = 6;
 /// The row handed to the inspector.
 extern qint32 ScanRow;
 
-/// The numbers of a side in all classes, the most money first. Parameter: updown.
-QString scanStatement();
-
 class RiskScan
 {
 public:
@@ -31,15 +28,15 @@ public:
 
     SpreadModel grid;
 
-    void SetupSpread();
-
     /// Fills the grid with the risky numbers of a side: those with the most related lines first,
-    /// of equal ones that with the most money. The money of hot numbers is halved. If the
-    /// book cannot be read the grid stays empty; without the hot numbers nothing is halved. False if something is bought on that side and
-    /// nothing of it is risky. Shows the progress of the fill. Uses both recordsets.
+    /// of equal ones that with the most money. The money of hot numbers is halved. If the book
+    /// cannot be read the grid stays empty; without the hot numbers nothing is halved. False if
+    /// something is bought on that side and nothing of it is risky. Shows the progress of the
+    /// fill. Uses both recordsets.
     bool run(bool updown, ProgressBar &progress);
 
 private:
+    void SetupSpread();
     QList<ScanLine> fill(bool updown, ProgressBar &progress);
     int relate(bool updown, const QList<ScanLine> &lines);
 };

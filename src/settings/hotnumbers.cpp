@@ -30,6 +30,12 @@ QStringList todOrders(const QString &digits)
     return {u"012"_s, u"021"_s, u"102"_s, u"120"_s, u"201"_s, u"210"_s};
 }
 
+/// The key of the next hot number; raises "Overflow" beyond 16 bits. Uses RecordsetB.
+qint16 SetupNewData3()
+{
+    return CInt(double(nextKey(u"tblNumberFix"_s, u"PK"_s)));
+}
+
 } // namespace
 
 QString hotTodForm(const QString &number)
@@ -70,11 +76,6 @@ bool isHotNumber(const QString &number)
     const bool found = RecordsetA.recordCount() > 0;
     RecordsetA.close();
     return found;
-}
-
-qint16 SetupNewData3()
-{
-    return CInt(double(nextKey(u"tblNumberFix"_s, u"PK"_s)));
 }
 
 void addHotNumber(const QString &number)

@@ -19,9 +19,7 @@ void listHotNumbers(SpreadModel &list);
 /// True if the list holds exactly that text; 21 may stand beside 12. Uses RecordsetA.
 bool isHotNumber(const QString &number);
 
-/// The key of the next hot number; raises "Overflow" beyond 16 bits. Uses RecordsetB.
-qint16 SetupNewData3();
-
-void addHotNumber(const QString &number); ///< uses both slots
+/// Puts a number on the list; raises "Overflow" for a key beyond 16 bits. Uses both slots.
+void addHotNumber(const QString &number);
 void deleteHotNumber(qint32 key);
 void deleteAllHotNumbers();

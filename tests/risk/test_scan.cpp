@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The risk scan without windows: held against a reckoning of its own over random books, and on the
-// books that are easily got wrong.
+// The risk scan without windows, held against a reckoning of its own over random books.
 #include "entry/vocabulary.h"
 #include "risk/inspection.h"
 #include "risk/scan.h"
@@ -120,9 +119,6 @@ private slots:
 
     void randomBooksAgree_data();
     void randomBooksAgree();
-    void plainBooks_data();
-    void plainBooks();
-    void inspectionTakesTheRateOfTheClass_data();
     void inspectionTakesTheRateOfTheClass();
     void failingLedgerIsPassedOver(); // the last: it takes the tables away
 
@@ -206,67 +202,22 @@ void ScanTest::randomBooksAgree()
     }
 }
 
-void ScanTest::plainBooks_data()
-{
-    QTest::addColumn<QStringList>("bets"); // "num23 type number money", all on top, or "hot number"
-    QTest::addColumn<QStringList>("rows");
-    QTest::newRow("straight bets alone are never risky")
-        << QStringList{u"3 1 123 90000"_s, u"3 1 321 90000"_s} << QStringList();
-    QTest::newRow("a hot number in another order, halved once, a half up")
-        << QStringList{u"hot 12"_s, u"2 2 21 25"_s, u"3 1 211 7"_s}
-        << QStringList{u"โต๊ด 21 13 1% 1  =  211      ยอด  7\r\n"_s};
-    QTest::newRow("tod of two, straight before tod, digits apart")
-        << QStringList{u"2 2 12 50"_s, u"3 2 120 9"_s, u"3 1 321 7"_s, u"3 1 312 1000"_s}
-        << QStringList{u"โต๊ด 12 50 3% 1  =  312      ยอด  1000\r\n1  =  321      ยอด  7\r\n"
-                       "2  =  120      ยอด  9\r\n"_s};
-}
-
-void ScanTest::plainBooks()
-{
-    QFETCH(QStringList, bets);
-    QFETCH(QStringList, rows);
-    for (const QString &bet : bets) {
-        const QStringList part = bet.split(u' ');
-        if (part[0] == u"hot"_s)
-            addHot(part[1]);
-        else
-            addLine(part[0].toInt(), true, part[1].toInt(), part[2], part[3].toInt());
-    }
-    QCOMPARE(scanned(true), rows);
-    QCOMPARE(m_found, !rows.isEmpty());
-    QCOMPARE(scanned(false), QStringList());
-    QVERIFY(m_found); // nothing is bought there, which is no finding
-}
-
-void ScanTest::inspectionTakesTheRateOfTheClass_data()
-{
-    QTest::addColumn<int>("origin");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("number");
-    QTest::addColumn<QString>("amount");
-    QTest::addColumn<QString>("loss");
-    QTest::newRow("3 tod") << 2 << u"โต๊ด"_s << u"012"_s << u"1,000"_s << u"100,000"_s;
-    QTest::newRow("run top") << 2 << u"วิ่ง"_s << u"5"_s << u"1,000"_s << u"3,000"_s;
-    QTest::newRow("run bottom") << 3 << u"วิ่ง"_s << u"5"_s << u"1,000"_s << u"4,000"_s;
-    QTest::newRow("no such row") << 3 << u"ตรง"_s << u"12"_s << u"1,000"_s << u"none"_s;
-}
-
 void ScanTest::inspectionTakesTheRateOfTheClass()
 {
-    QFETCH(int, origin);
-    QFETCH(QString, type);
-    QFETCH(QString, number);
-    QFETCH(QString, amount);
     LoadMoney();
-    CutOrigin = quint8(origin);
-    m_scan.SetupSpread();
-    m_scan.grid.setRows(1);
-    m_scan.grid.setText(1, ScanColumn::Type, type);
-    m_scan.grid.setText(1, ScanColumn::Number, number);
-    m_scan.grid.setText(1, ScanColumn::Amount, amount);
-    const Inspection shown = inspect(m_scan.grid, 1);
-    QCOMPARE(shown.heading, u"ประเภท : %1  /  เลข : %2"_s.arg(type, number));
-    QTEST(shown.loss.value_or(u"none"_s), "loss");
+    RiskScan scan;
+    scan.grid.setRows(1);
+    scan.grid.setText(1, ScanColumn::Amount, u"1,000"_s);
+    const auto lossOn = [&](const QString &type, const QString &number, quint8 origin) {
+        CutOrigin = origin;
+        scan.grid.setText(1, ScanColumn::Type, type);
+        scan.grid.setText(1, ScanColumn::Number, number);
+        return inspect(scan.grid, 1).loss.value_or(u"none"_s);
+    };
+    QCOMPARE(lossOn(u"โต๊ด"_s, u"012"_s, 2), u"100,000"_s);
+    QCOMPARE(lossOn(u"วิ่ง"_s, u"5"_s, 2), u"3,000"_s);
+    QCOMPARE(lossOn(u"วิ่ง"_s, u"5"_s, 3), u"4,000"_s);
+    QCOMPARE(lossOn(u"ตรง"_s, u"12"_s, 3), u"none"_s); // the bottom scan has no such row
 }
 
 void ScanTest::failingLedgerIsPassedOver()
