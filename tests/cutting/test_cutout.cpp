@@ -42,9 +42,6 @@ class CutOutTest : public QObject
 
 private slots:
     void init();
-    void linesOfAllCustomersAreListed();
-    void cutMovesMoney_data();
-    void cutMovesMoney();
     void vanishedLine();
     void cutNumbersAreListedByKind();
 
@@ -71,44 +68,6 @@ void CutOutTest::init()
     m_ledger.emplace();
     m_ledger->addMember(1, u"สมชาย"_s, u"10"_s);
     m_ledger->addMember(2, u"สมหญิง"_s, u"0"_s);
-}
-
-void CutOutTest::linesOfAllCustomersAreListed()
-{
-    file(u"tblNumber"_s, u"1, 3, 0, 1, '012', 1500"_s);
-    file(u"tblNumber"_s, u"2, 3, 0, 1, '012', 20000"_s);
-    file(u"tblNumber"_s, u"1, 3, 0, 1, '012', 1500"_s);
-    file(u"tblNumber"_s, u"1, 3, -1, 1, '012', 5"_s);
-    file(u"tblNumber"_s, u"1, 3, 0, 1, '120', 5"_s);
-    select(3, 1, false, u"012 "_s);
-    CutOut cutOut;
-    cutOut.LoadNumrunup();
-    QCOMPARE(rowsOf(cutOut.grid), QStringList({u"2|1| สมหญิง|ตรง-ล่าง|012|20,000 |2|sv"_s,
-                                               u"1|2| สมชาย|ตรง-ล่าง|012|1,500 |1|sv"_s,
-                                               u"3|3| สมชาย|ตรง-ล่าง|012|1,500 |1|sv"_s}));
-    QCOMPARE(cutOut.grid.text(-1000, CutColumn::Amount), u"23,000 บาท"_s);
-}
-
-void CutOutTest::cutMovesMoney_data()
-{
-    QTest::addColumn<int>("amount");
-    QTest::addColumn<QStringList>("left");
-    const QString line = u"1 2 2 -1 2 12 "_s;
-    QTest::newRow("part") << 200 << QStringList(line + u"300 sv integer"_s);
-    QTest::newRow("all") << 500 << QStringList();
-    QTest::newRow("nothing") << 0 << QStringList(line + u"500 sv integer"_s);
-}
-
-void CutOutTest::cutMovesMoney()
-{
-    QFETCH(int, amount);
-    file(u"tblNumber"_s, u"2, 2, -1, 2, '12', 500"_s);
-    select(2, 2, true, u"12"_s);
-    CutOut cutOut;
-    cutOut.LoadNumrunup();
-    cutOut.cut(cutOut.lineAt(1), amount);
-    QTEST(book(u"tblNumber"_s), "left");
-    QCOMPARE(book(u"tblNumberCut"_s), QStringList(u"1 2 2 -1 2 12 %1 sv integer"_s.arg(amount)));
 }
 
 void CutOutTest::vanishedLine()

@@ -164,6 +164,7 @@ void LawTest::keyTicket()
         keyLine(ticket, caption, line);
         const bool taken = slip.key(caption, line);
         QVERIFY2(m_boxes.boxes().size() == boxes + (taken ? 0 : 1), qUtf8Printable(caption + line));
+        QCOMPARE(ticket.ShowTopTab, slip.topShown); // only a line that was taken turns the tab
         ++m_met[taken ? caption : u"refused"_s];
     }
     QCOMPARE(rowsOf(ticket), slip.rows());
@@ -225,6 +226,9 @@ void LawTest::compareTables() const
                         " ORDER BY NPK"_s;
     QCOMPARE(m_ledger->run(all.arg(u"tblNumber"_s)), toTexts(m_book.lines));
     QCOMPARE(m_ledger->run(all.arg(u"tblNumberCut"_s)), toTexts(m_book.cuts));
+    const QString stored = u"SELECT nuser, typeof(numBuy) FROM tblNumber"
+                           " UNION SELECT nuser, typeof(numBuy) FROM tblNumberCut"_s;
+    QCOMPARE(m_ledger->run(stored), QStringList(u"sv integer"_s));
 }
 
 void LawTest::compareBoards(int customer)
