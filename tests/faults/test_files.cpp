@@ -98,10 +98,12 @@ void FaultsTest::damagedLedgerIsRefused_data()
         return noise(16, dice) + bytes.mid(16);
     });
     row("no salt", 1, [](const QByteArray &bytes, int, auto &) { return bytes.mid(16); });
-    const auto other = [](const QString &password, const QString &sql) {
-        return [password, sql](const QByteArray &, int, auto &) {
+    const auto other = [](const QString &password, const QString &sql, bool ledger = false) {
+        return [password, sql, ledger](const QByteArray &bytes, int, auto &) {
             const QTemporaryDir folder;
             const QString path = folder.filePath(u"other"_s);
+            if (ledger)
+                write(path, bytes);
             runStockTool(path, password, sql);
             QFile file(path);
             return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
@@ -111,6 +113,8 @@ void FaultsTest::damagedLedgerIsRefused_data()
     row("a plain database", 1, other({}, table));
     row("another password", 1, other(u"639418"_s, table));
     row("another database of that password", 1, other(u"639417"_s, table));
+    row("a foreign mark", 1, other(u"639417"_s, u"PRAGMA application_id = 1;"_s, true));
+    row("a lost table", 1, other(u"639417"_s, u"DROP TABLE tblNumLog;"_s, true));
 }
 
 void FaultsTest::damagedLedgerIsRefused()
@@ -154,6 +158,8 @@ void FaultsTest::whatIsNoFileIsRefused()
         QCOMPARE(endStatus([] { ConnectLedger(); }), 1);
         QCOMPARE(script.texts(),
                  QStringList(u"เชื่อมต่อฐานข้อมูลไม่ได้ : unable to open database file"_s));
+        QCOMPARE(script.boxes().first().style.icon, BoxIcon::None);
+        QCOMPARE(script.boxes().first().title, u"Mirakla Desk"_s);
         QCOMPARE(QDir(folder.data()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), left);
         QCOMPARE(QFile(folder.journal()).size(), 5000);
         QDir().mkdir(folder.ledger());
