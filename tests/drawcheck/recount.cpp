@@ -37,6 +37,11 @@ const std::array<QString, 6> Names{u"กา"_s, u"เก"_s, u"ขา"_s, u"ข�
 
 constexpr qint64 Most = std::numeric_limits<qint32>::max();
 
+int percentOf(int customer)
+{
+    return 5 * (customer - 1);
+}
+
 QString sorted(QString digits)
 {
     std::sort(digits.begin(), digits.end());
@@ -136,7 +141,7 @@ RecountOutcome recount(const RecountDraw &draw)
         outcome.fails |= pay == 0 || total > Most;
         outcome.rows += QStringList{QString::fromUtf16(Kinds[size_t(win.kind)].label),
                                     u' ' + win.number,
-                                    u" 10"_s,
+                                    u' ' + QString::number(percentOf(win.customer)),
                                     money(win.stake),
                                     money(pay),
                                     u' ' + Names[size_t(win.customer - 1)],
@@ -189,8 +194,9 @@ void fileDraw(const RecountDraw &draw, const TestLedger &ledger)
     for (const auto &table : {u"tblMember"_s, u"tblNumber"_s, u"tblNumberFix"_s, u"tblRMoney"_s})
         ledger.run(u"DELETE FROM "_s + table);
     for (int customer = 1; customer <= int(Names.size()); ++customer)
-        ledger.run(u"INSERT INTO tblMember VALUES (?, ?, ?, '10')"_s,
-                   {customer, Names[size_t(customer - 1)], customer});
+        ledger.run(u"INSERT INTO tblMember VALUES (?, ?, ?, ?)"_s,
+                   {customer, Names[size_t(customer - 1)], customer,
+                    QString::number(percentOf(customer))});
     for (const RecountLine &line : draw.lines) {
         const Kind &kind = Kinds[size_t(line.kind)];
         ledger.run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy)"
