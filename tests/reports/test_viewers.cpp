@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The viewers as a person uses them: pages turned by keys and buttons, files saved through the
-// real dialog, pages sent to a printer.
+// The viewers as a person uses them: pages turned by keys and buttons, pages sent to a printer.
 #include "platform/application.h"
 #include "platform/printpages.h"
 #include "platform/reportviewer.h"
@@ -12,11 +11,8 @@
 #include "support/screens.h"
 
 #include <QAction>
-#include <QFileDialog>
 #include <QLabel>
-#include <QLineEdit>
 #include <QPrinter>
-#include <QPushButton>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -52,8 +48,6 @@ private slots:
     void resizingKeepsThePlace();
     void smallestZoomIsTheLastStep();
     void pageInSightIsDrawn();
-    void exportThroughTheRealDialog_data();
-    void exportThroughTheRealDialog();
     void printerGetsThePagesAskedFor_data();
     void printerGetsThePagesAskedFor();
 };
@@ -175,34 +169,6 @@ void ViewersTest::pageInSightIsDrawn()
         dark += qGray(second.pixel(second.width() / 4, y)) < 128 ? 1 : 0; // through the numbers
     QVERIFY2(dark > 28, "a page without its rows and their rules");
     QVERIFY(qGray(second.pixel(second.width() / 2, 60)) > 250);
-}
-
-void ViewersTest::exportThroughTheRealDialog_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("file");
-    QTest::newRow("sheet") << u"Command1"_s << u"a.xls"_s;
-    QTest::newRow("document") << u"Command2"_s << u"a.pdf"_s;
-}
-
-void ViewersTest::exportThroughTheRealDialog()
-{
-    QFETCH(QString, button);
-    QFETCH(QString, file);
-    const QTemporaryDir folder;
-    const auto window = viewerOf(3);
-    bool preset = false;
-    QTimer::singleShot(0, this, [&] {
-        auto *dialog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
-        QVERIFY(dialog);
-        auto *name = dialog->findChild<QLineEdit *>(u"fileNameEdit"_s);
-        preset = QRegularExpression(u"^\\d\\d(-\\d\\d){5}$"_s).match(name->text()).hasMatch();
-        name->setText(folder.filePath(u"a"_s));
-        QTest::keyClick(name, Qt::Key_Return);
-    });
-    QTest::mouseClick(window->findChild<QPushButton *>(button), Qt::LeftButton);
-    QVERIFY(preset);
-    QCOMPARE(QDir(folder.path()).entryList(QDir::Files), QStringList(file));
 }
 
 void ViewersTest::printerGetsThePagesAskedFor_data()
