@@ -4,6 +4,7 @@
 #include "cutting/board.h"
 #include "runtime/runtimeerror.h"
 #include "shell/globals.h"
+#include "support/gridrows.h"
 #include "support/noprogress.h"
 #include "support/outcome.h"
 #include "support/testledger.h"
@@ -37,11 +38,7 @@ private:
     }
     QString shown(int at) const
     {
-        const SpreadModel &grid = m_board->grids[size_t(at)];
-        QStringList rows;
-        for (int row = 1; row <= grid.rows(); ++row)
-            rows += grid.text(row, NumberColumn) + u' ' + grid.text(row, AmountColumn);
-        return rows.join(u", "_s);
+        return rowsOf(m_board->grids[size_t(at)], {NumberColumn, AmountColumn}).join(u", "_s);
     }
 
     std::optional<TestLedger> m_ledger;
@@ -63,10 +60,10 @@ void BoardTest::filterTakesTheWholeName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("rows");
-    QTest::newRow("a customer") << u" สมชาย "_s << u"123 100"_s;
-    QTest::newRow("two of one name, letters of any case") << u"somsri"_s << u"123 30, 456 5"_s;
+    QTest::newRow("a customer") << u" สมชาย "_s << u"123|100"_s;
+    QTest::newRow("two of one name, letters of any case") << u"somsri"_s << u"123|30, 456|5"_s;
     QTest::newRow("part of a name") << u"สมช"_s << QString();
-    QTest::newRow("a wild card in the name") << u"สม%"_s << u"123 100, 789 1"_s;
+    QTest::newRow("a wild card in the name") << u"สม%"_s << u"123|100, 789|1"_s;
     QTest::newRow("nobody") << u"' OR '1' = '1"_s << QString();
 }
 

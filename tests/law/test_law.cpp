@@ -11,6 +11,7 @@
 #include "ledger/ledger.h"
 #include "shell/globals.h"
 #include "support/boxscript.h"
+#include "support/gridrows.h"
 #include "support/keying.h"
 #include "support/noprogress.h"
 #include "support/outcome.h"
@@ -31,18 +32,6 @@ constexpr int LinesInARow = 10'000;
 /// Customers as a recount knows them: 1 to 6, the third and the fourth namesakes, so that no line
 /// is filed for the fourth.
 const QStringList Customers{u"กา"_s, u"เก"_s, u"ขา"_s, u"ขา"_s, u"แข"_s, u"มา"_s};
-
-QStringList rowsOf(const SpreadModel &grid, std::initializer_list<int> columns, int colored)
-{
-    QStringList rows;
-    for (int row = 1; row <= grid.rows(); ++row) {
-        QStringList cells;
-        for (const int column : columns)
-            cells += grid.text(row, column);
-        rows += cells.join(u'|') + (grid.color(row, colored).isValid() ? u" hot"_s : u""_s);
-    }
-    return rows;
-}
 
 } // namespace
 

@@ -4,6 +4,7 @@
 #include "risk/inspection.h"
 #include "risk/scan.h"
 #include "shell/globals.h"
+#include "support/gridrows.h"
 #include "support/noprogress.h"
 #include "support/testledger.h"
 
@@ -73,7 +74,7 @@ struct RiskyRow
     QString text;
 };
 
-/// All rows of a scan: "type number amount count related lines".
+/// All rows of a scan: "type|number|amount|count|related lines".
 QStringList reckoned(bool top, const Book &book, const std::vector<std::string> &hot)
 {
     static const QStringList Words{u""_s, u"ตรง"_s, u"โต๊ด"_s, u"วิ่ง"_s};
@@ -100,7 +101,7 @@ QStringList reckoned(bool top, const Book &book, const std::vector<std::string> 
     QStringList texts;
     for (const RiskyRow &row : rows) {
         const int shown = isHot(row.bet, hot) ? (row.money + 1) / 2 : row.money;
-        texts += u"%1 %2 %3 %4% %5"_s.arg(Words[std::get<1>(row.bet)],
+        texts += u"%1|%2|%3|%4%|%5"_s.arg(Words[std::get<1>(row.bet)],
                                           QString::fromStdString(std::get<2>(row.bet)), baht(shown),
                                           QString::number(row.count), row.text);
     }
@@ -137,15 +138,8 @@ private:
     QStringList scanned(bool top)
     {
         m_found = m_scan.run(top, m_progress);
-        QStringList rows;
-        for (int row = 1; row <= m_scan.grid.rows(); ++row) {
-            QStringList cells;
-            for (const int column : {ScanColumn::Type, ScanColumn::Number, ScanColumn::Amount,
-                                     ScanColumn::Risk, ScanColumn::Related})
-                cells += m_scan.grid.text(row, column);
-            rows += cells.join(u' ');
-        }
-        return rows;
+        return rowsOf(m_scan.grid, {ScanColumn::Type, ScanColumn::Number, ScanColumn::Amount,
+                                    ScanColumn::Risk, ScanColumn::Related});
     }
 
     std::optional<TestLedger> m_ledger;
@@ -225,7 +219,7 @@ void ScanTest::failingLedgerIsPassedOver()
     addLine(2, true, Tod, u"12"_s);
     addLine(3, true, Straight, u"120"_s);
     m_ledger->run(u"DROP TABLE tblNumberFix"_s);
-    QCOMPARE(scanned(true), QStringList{u"โต๊ด 12 100 1% 1  =  120      ยอด  100\r\n"_s});
+    QCOMPARE(scanned(true), QStringList{u"โต๊ด|12|100|1%|1  =  120      ยอด  100\r\n"_s});
     m_ledger->run(u"DROP TABLE tblNumber"_s);
     QCOMPARE(scanned(true), QStringList());
 }
