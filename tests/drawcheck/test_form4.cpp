@@ -25,7 +25,6 @@ class Form4Test : public FormTest
     Q_OBJECT
 
 private slots:
-    void digitsAreKeyedInOneRun();
     void missingDigitIsShown_data();
     void missingDigitIsShown();
     void filledBoxIsKeyedOver();
@@ -55,18 +54,6 @@ void Form4Test::prepare()
                   " VALUES (1, 3, -1, 1, '123', 60), (1, 3, -1, 1, '999', 99940)"_s);
     LoadMoney();
     makePage();
-}
-
-void Form4Test::digitsAreKeyedInOneRun()
-{
-    Hands::type(Result);
-    QCOMPARE(Hands::focus()->objectName(), u"Text21"_s);
-    Hands::press(Qt::Key_Tab);
-    Hands::press(Qt::Key_Return);
-    QCOMPARE(amounts(), u"30,000 / 70,000"_s);
-    QCOMPARE(rows(), 1);
-    QCOMPARE(m_ledger->run(u"SELECT num3up, num3down1, num3down4, num2down FROM tblTrue"_s),
-             QStringList(u"123 456 345 67"_s));
 }
 
 void Form4Test::missingDigitIsShown_data()
