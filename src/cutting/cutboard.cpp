@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "cutting/cutboard.h"
 
+#include "entry/betgrid.h"
 #include "entry/vocabulary.h"
 #include "ledger/ledger.h"
 #include "runtime/values.h"
@@ -11,9 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int CaptionRow = FirstHeaderRow;
-constexpr int TotalRow = FirstHeaderRow + 1;
-constexpr int TitleRow = FirstHeaderRow + 2;
 constexpr int TotalColumn = 2; // spans that of the numbers and that of the money
 
 constexpr std::array<const char16_t *, 2> Captions{u"(  บน  )", u"(  ล่าง  )"};
