@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The cut-out in the real program, opened from the board, under real keys and clicks.
-#include "cutting/boardtest.h"
+#include "cutting/boardformtest.h"
 #include "cutting/cutnum.h"
 
 using namespace Qt::StringLiterals;
 
-class CutNumTest : public BoardTest
+class CutNumTest : public BoardFormTest
 {
     Q_OBJECT
 

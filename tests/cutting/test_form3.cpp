@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The board in the real program, under real keys and clicks.
-#include "cutting/boardtest.h"
+#include "cutting/boardformtest.h"
 #include "ledger/ledger.h"
 #include "platform/combo.h"
 #include "platform/tabstrip.h"
@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class Form3Test : public BoardTest
+class Form3Test : public BoardFormTest
 {
     Q_OBJECT
 

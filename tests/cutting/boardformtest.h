@@ -6,7 +6,7 @@
 #include "cutting/selection.h"
 #include "support/formtest.h"
 
-class BoardTest : public FormTest
+class BoardFormTest : public FormTest
 {
 protected:
     void prepare() override
