@@ -74,8 +74,6 @@ class ReportsTest : public QObject
 
 private slots:
     void initTestCase();
-    void pagesFollowFromRows_data();
-    void pagesFollowFromRows();
     void fieldsSayWhatTheScreenSays_data();
     void fieldsSayWhatTheScreenSays();
     void nothingIsDrawnBesideThePaper();
@@ -93,29 +91,6 @@ void ReportsTest::initTestCase()
 {
     qputenv("LC_ALL", "th_TH.UTF-8");
     setClock([] { return QDateTime({2026, 11, 5}, {14, 7, 9}); });
-}
-
-void ReportsTest::pagesFollowFromRows_data()
-{
-    QTest::addColumn<Kind>("kind");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("pages");
-    QTest::newRow("winners, a full page") << Kind::Winners << 41 << 1;
-    QTest::newRow("winners, one more") << Kind::Winners << 42 << 2;
-    QTest::newRow("winners, 45 pages") << Kind::Winners << 1845 << 45;
-    QTest::newRow("statement, one line") << Kind::Statement << 1 << 1;
-    QTest::newRow("statement, a full page") << Kind::Statement << 24 << 1;
-    QTest::newRow("statement, one more") << Kind::Statement << 25 << 2;
-    QTest::newRow("statement of a full book") << Kind::Statement << 1000 << 42;
-    QTest::newRow("cut numbers, a full page") << Kind::CutNumbers << 32 << 1;
-    QTest::newRow("cut numbers, one more") << Kind::CutNumbers << 33 << 2;
-}
-
-void ReportsTest::pagesFollowFromRows()
-{
-    QFETCH(Kind, kind);
-    QFETCH(int, rows);
-    QTEST(int(pagesOf(kind, rows).pages.size()), "pages");
 }
 
 void ReportsTest::fieldsSayWhatTheScreenSays_data()
@@ -201,7 +176,7 @@ void ReportsTest::statementEndsOnTheBottomTab()
 
 void ReportsTest::gridTooLongForTheCounter()
 {
-    QCOMPARE(errorOf([] { pagesOf(Kind::Winners, 32766); }), QString());
+    QCOMPARE(pagesOf(Kind::Winners, 32766).pages.size(), 800); // of 41 rows
     QCOMPARE(errorOf([] { pagesOf(Kind::Winners, 32768); }), u"Run-time error '6': Overflow"_s);
 }
 
