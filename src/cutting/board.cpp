@@ -124,20 +124,31 @@ void Board::SetupSpread(int at)
 
 void Board::load(int at, bool filtered, ProgressBar &progress)
 {
+    Shown shown{linesOf(at, filtered),
+                m_hotNumbers.get([] { return HotNumbers(readHotNumbers()); })};
+    // Most changes of the book reach one board of eight.
+    if (shown.lines.empty() || shown != m_shown[at])
+        write(at, shown, progress);
+    if (!shown.lines.empty())
+        estimates[at] = formatBaht(CDbl(grids[at].text(1, AmountColumn)) * *Rates[at]);
+    m_shown[at] = std::move(shown);
+}
+
+void Board::write(int at, const Shown &shown, ProgressBar &progress)
+{
     SpreadModel &grid = grids[at];
     const SpreadModel::Rebuild rebuild(grid);
+    m_shown[at] = {}; // an error may leave a half of it
     BoardTotal = 0;
     SetupSpread(at);
-    const BoardLines lines = linesOf(at, filtered);
-    grid.setRows(int(lines.size()));
-    if (lines.empty()) {
+    grid.setRows(int(shown.lines.size()));
+    if (shown.lines.empty()) {
         estimates[at] = u"0"_s;
         grid.setText(TotalRow, AmountColumn, u"0"_s);
         return;
     }
     progress.start(grid.rows());
-    fillRows(at, lines, progress);
-    estimates[at] = formatBaht(CDbl(grid.text(1, AmountColumn)) * *Rates[at]);
+    fillRows(at, shown, progress);
     grid.setText(TotalRow, AmountColumn, formatBaht(BoardTotal));
 }
 
@@ -153,20 +164,19 @@ BoardLines Board::linesOf(int at, bool filtered)
 }
 
 /// Writes the rows and sums the money. Halving may send a hot number down the board.
-void Board::fillRows(int at, const BoardLines &lines, ProgressBar &progress)
+void Board::fillRows(int at, const Shown &shown, ProgressBar &progress)
 {
     const BetClass &betClass = BetClasses[at];
     SpreadModel &grid = grids[at];
-    const HotNumbers &hotNumbers = m_hotNumbers.get([] { return HotNumbers(readHotNumbers()); });
     std::array<QString, SideColumn + 1> texts;
     texts[TypeColumn] = QString::number(betClass.numType);
     texts[DigitsColumn] = QString::number(betClass.num23);
     texts[SideColumn] = betClass.updown ? u"True"_s : u"False"_s;
     bool halved = false;
     int row = 0;
-    for (const auto &[number, money] : lines) {
+    for (const auto &[number, money] : shown.lines) {
         BoardTotal = addLong({BoardTotal, CLng(money)});
-        const bool isHot = hotNumbers.reach(betClass, number);
+        const bool isHot = shown.hotNumbers.reach(betClass, number);
         texts[NumberColumn] = number;
         texts[AmountColumn] = formatBaht(isHot ? money / 2 : money);
         grid.setRow(++row, texts);

@@ -21,6 +21,8 @@ struct NumberMoney
 {
     QString number;
     double money; ///< whole baht
+
+    bool operator==(const NumberMoney &) const = default;
 };
 
 /// Numbers with their money, the most money first, equal money by number.
@@ -86,11 +88,22 @@ struct Board
     void takeTotal(int at);
 
 private:
+    /// What a board was written from last.
+    struct Shown
+    {
+        BoardLines lines;
+        HotNumbers hotNumbers;
+
+        bool operator==(const Shown &) const = default;
+    };
+
     BoardLines linesOf(int at, bool filtered);
-    void fillRows(int at, const BoardLines &lines, ProgressBar &progress);
+    void write(int at, const Shown &shown, ProgressBar &progress);
+    void fillRows(int at, const Shown &shown, ProgressBar &progress);
 
     qint32 BoardTotal = 0; ///< of the board being loaded
     QString m_customer;    ///< whose boards are kept below
     LedgerMemo<std::array<BoardLines, ClassCount>> m_customerBoards;
     LedgerMemo<HotNumbers> m_hotNumbers;
+    std::array<Shown, ClassCount> m_shown;
 };

@@ -29,7 +29,8 @@ QStringList readHotNumbers()
     return numbers;
 }
 
-HotNumbers::HotNumbers(const QStringList &numbers) : m_numbers(numbers.begin(), numbers.end())
+HotNumbers::HotNumbers(const QStringList &numbers)
+    : m_list(numbers), m_numbers(numbers.begin(), numbers.end())
 {
     for (QString number : numbers) {
         m_sorted += sortedDigits(number.left(3));

@@ -24,7 +24,10 @@ public:
     /// any order of its digits. A run bet is never hot.
     bool reach(const BetClass &betClass, const QString &number) const;
 
+    bool operator==(const HotNumbers &other) const { return m_list == other.m_list; }
+
 private:
+    QStringList m_list;
     QSet<QString> m_numbers;
     QSet<QString> m_turned; ///< with the digits in reverse
     QSet<QString> m_sorted; ///< the first three digits in rising order
