@@ -24,16 +24,16 @@ constexpr int HotCount = 50;
 
 const QString Buyer = u"ลูกค้า 7"_s;
 
-/// What one board shows, with its order, as a statement of its own.
+/// What one board shows, told with its class and in its order, as a statement of its own.
 QByteArray boardStatement(bool filtered)
 {
     // A customer's lines are found by the index on buyers; a plus keeps the one on classes away.
     const QByteArray plus = filtered ? "+" : "";
     const QByteArray customer =
         filtered ? " AND NameFK IN (SELECT MPK FROM tblMember WHERE [Mname] LIKE ?)" : "";
-    return "SELECT numValue, Sum(numBuy) AS nMoney FROM tblNumber WHERE " + plus + "num23 = ? AND "
-           + plus + "updown = ? AND " + plus + "numType = ?" + customer
-           + " GROUP BY numValue ORDER BY Sum(numBuy) DESC, numValue";
+    return "SELECT num23, updown, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber WHERE "
+           + plus + "num23 = ? AND " + plus + "updown = ? AND " + plus + "numType = ?" + customer
+           + " GROUP BY num23, updown, numType, numValue ORDER BY Sum(numBuy) DESC, numValue";
 }
 
 /// The real program on its board, with a book of many lines and 50 hot numbers.
