@@ -5,7 +5,18 @@
 
 bool becomeOnlyInstance()
 {
-    // The mutex goes with the process.
-    const HANDLE place = CreateMutexW(nullptr, TRUE, L"Global\\mirakla-desk");
-    return !place || GetLastError() != ERROR_ALREADY_EXISTS;
+    static HANDLE place = nullptr;
+    if (place)
+        return true;
+    // It stands for the whole machine and goes with the process. Where another user's copy holds
+    // it, it may not even be opened.
+    place = CreateMutexW(nullptr, FALSE, L"Global\\mirakla-desk");
+    const DWORD error = GetLastError();
+    if (!place)
+        return error != ERROR_ACCESS_DENIED;
+    if (error != ERROR_ALREADY_EXISTS)
+        return true;
+    CloseHandle(place);
+    place = nullptr;
+    return false;
 }

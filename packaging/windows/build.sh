@@ -1,0 +1,37 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+#
+# What ./run windows and ./test windows share. Sourced behind prepare.sh.
+
+windows_build=build/windows
+windows_name=mirakla-desk-$(sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)-windows
+windows_zip=build/$windows_name.zip
+
+# build_windows: builds all for Windows, first of all the libraries where they
+# are not there yet, and beside it what the tests compare with.
+build_windows()
+{
+    local prefix
+    install_missing build screen test windows
+    prefix=$(packaging/windows/dependencies.sh) || die "the libraries for Windows could not be built"
+    build release keeper other_reader make-empty-ledger
+    cmake -G Ninja -S . -B "$windows_build" -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_TOOLCHAIN_FILE="$PWD/packaging/windows/toolchain.cmake" \
+        -DDESK_SYSROOT="$prefix" -DDESK_NATIVE_BUILD="$PWD/build/release" \
+        -DCMAKE_CROSSCOMPILING_EMULATOR="$PWD/packaging/windows/wine.sh" \
+        -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(gcc -print-multiarch)/cmake" ||
+        die "the Windows build could not be configured"
+    cmake --build "$windows_build" --parallel "$(nproc)" || die "the Windows build failed"
+}
+
+# pack_windows: lays out the folder that is shipped and packs it.
+pack_windows()
+{
+    packaging/windows/folder.sh "$windows_build" "build/$windows_name" ||
+        die "the folder for Windows could not be made"
+    rm -f "$windows_zip"
+    # Names in Thai letters are written only where the language has them.
+    (cd build && LC_ALL=C.UTF-8 cmake -E tar cf "$windows_name.zip" --format=zip "$windows_name") ||
+        die "the folder could not be packed"
+    echo "The program for Windows: $windows_zip, $(($(stat -c %s "$windows_zip") / 1000000)) MB"
+}

@@ -1,0 +1,53 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Lays out the folder that is shipped: folder.sh BUILD FOLDER. It holds the
+# program, its data with an empty Ledger, the type, and every library that they
+# ask for and that Windows does not have, with the makers' licenses.
+
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+source "$root/packaging/prepare.sh"
+(($# == 2)) || die "usage: folder.sh BUILD FOLDER"
+build=$1 folder=$2
+prefix=$("$root/packaging/windows/dependencies.sh" --where)
+target=x86_64-w64-mingw32
+places=("$prefix/bin" "$(dirname "$($target-g++-posix -print-file-name=libstdc++-6.dll)")"
+    /usr/$target/lib)
+# Libraries that Windows has are those that Wine has made anew.
+windows=/usr/lib/$(gcc -print-multiarch)/wine/x86_64-windows
+
+# Copies what a program or library asks for, and what that asks for in its turn.
+add_libraries_of()
+{
+    local name place
+    for name in $($target-objdump -p "$1" | sed -nE 's/^[[:space:]]*DLL Name: (.*)/\1/p'); do
+        [[ ! -e $folder/$name && ! -e $windows/${name,,} ]] || continue
+        for place in "${places[@]}"; do
+            [[ -e $place/$name ]] && break
+        done
+        [[ -e $place/$name ]] || die "$1 asks for $name, which nobody has"
+        cp "$place/$name" "$folder/"
+        add_libraries_of "$folder/$name"
+    done
+}
+
+rm -rf "$folder"
+mkdir -p "$folder"/{data,platforms,styles,licenses}
+cp "$build/mirakla-desk.exe" "$folder/"
+cp "$prefix/plugins/platforms/qwindows.dll" "$folder/platforms/"
+cp "$prefix/plugins/styles/qwindowsvistastyle.dll" "$folder/styles/"
+cp -r "$build/fonts" "$folder/"
+# Not the data of the build, in which somebody may have tried the program.
+cp -r "$root/data/." "$folder/data/"
+"$root/packaging/windows/wine.sh" "$build/make-empty-ledger.exe" "$folder/data/ztkdata.ZDB"
+
+for file in "$folder"/{*.exe,platforms/*,styles/*}; do
+    add_libraries_of "$file"
+done
+$target-strip "$folder"/*.{exe,dll} "$folder"/{platforms,styles}/*.dll
+
+cp "$root/LICENSE" "$folder/LICENSE.txt"
+cp "$prefix/licenses/"* "$folder/licenses/"
+cp /usr/share/doc/fonts-noto-core/copyright "$folder/licenses/fonts-noto-core.txt"
+cp -r "$root/packaging/guide/." "$folder/"

@@ -1,0 +1,13 @@
+# SPDX-License-Identifier: MIT
+# What only the Windows program has: icon, version and manifest inside, and beside it the type and
+# the libraries, so that the build folder runs as the shipped one does.
+enable_language(RC)
+configure_file(${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.rc.in ${PROJECT_BINARY_DIR}/mirakla-desk.rc @ONLY)
+target_sources(mirakla-desk PRIVATE ${PROJECT_BINARY_DIR}/mirakla-desk.rc)
+set_source_files_properties(${PROJECT_BINARY_DIR}/mirakla-desk.rc
+    TARGET_DIRECTORY mirakla-desk PROPERTIES OBJECT_DEPENDS
+    "${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.ico;${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.manifest")
+
+foreach(type IN ITEMS NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold)
+    configure_file(/usr/share/fonts/truetype/noto/${type}.ttf ${PROJECT_BINARY_DIR}/fonts COPYONLY)
+endforeach()

@@ -1,0 +1,57 @@
+#!/usr/bin/env bash
+# SPDX-License-Identifier: MIT
+#
+# Runs a Windows program of the build under Wine as if it were one of this
+# machine: wine.sh PROGRAM [ARGUMENT...]. CTest starts every test through it.
+# The Windows that it makes for that lies in WINEPREFIX, or in build/windows.wine.
+
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
+prefix=$("$root/packaging/windows/dependencies.sh" --where)
+
+export WINEPREFIX=${WINEPREFIX:-$root/build/windows.wine}
+export WINEDEBUG=${WINEDEBUG:--all}
+# Neither a browser nor .NET is asked for on first use.
+export WINEDLLOVERRIDES="mscoree,mshtml="
+export LC_ALL=C.UTF-8
+# For tests that name a file to a program of this machine.
+export DESK_WINE_DRIVES=$WINEPREFIX/dosdevices
+
+# Root may pass over a file's rights, and the Windows that it runs would too.
+plainly=()
+if ((EUID == 0)); then
+    plainly=(setpriv --inh-caps=-dac_override --bounding-set=-dac_override)
+fi
+
+# Tests start at the same time; one of them makes the Windows, the others wait.
+make_windows()
+{
+    local key='HKCU\Software\Wine'
+    # Unmanaged: without a window manager each window would wait two seconds for one.
+    "${plainly[@]}" wine wineboot --init &&
+        "${plainly[@]}" wine reg add "$key" /v Version /d win10 /f &&
+        "${plainly[@]}" wine reg add "$key\X11 Driver" /v Managed /d N /f &&
+        touch "$WINEPREFIX/ready"
+}
+
+mkdir -p "$WINEPREFIX"
+(
+    flock 9
+    [[ -e $WINEPREFIX/ready ]] || make_windows >"$WINEPREFIX/made.log" 2>&1 9>&- ||
+        { echo "wine.sh: no Windows could be made; see $WINEPREFIX/made.log" >&2 && exit 1; }
+) 9>"$WINEPREFIX/lock"
+
+# Wine keeps variables that begin with QT_ to itself, unless WINE stands before them.
+for name in "${!QT_@}"; do
+    export "WINE$name=${!name}"
+done
+export WINEQT_FORCE_STDERR_LOGGING=1
+export WINEQT_QPA_FONTDIR=${WINEQT_QPA_FONTDIR-$(dirname "$1")/fonts}
+
+# A shipped folder has its libraries beside the program; for the build they are here.
+if [[ -z ${DESK_SHIPPED-} ]]; then
+    runtime=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")
+    export WINEPATH="$prefix/bin;$runtime;/usr/x86_64-w64-mingw32/lib"
+    export WINEQT_PLUGIN_PATH=$prefix/plugins${QT_PLUGIN_PATH:+;$QT_PLUGIN_PATH}
+fi
+exec "${plainly[@]}" wine "$@"
