@@ -107,6 +107,7 @@ void Form3::FReLoad()
 /// Loads board by board; the tabs are laid out once, at the end.
 void Form3::loadAll(const std::function<void(int at)> &loadOne)
 {
+    const TabStrip::OneClick once(*m_ui->SSTab1);
     m_captionsHeld = true;
     const auto show = qScopeGuard([this] {
         m_captionsHeld = false;

@@ -180,6 +180,7 @@ void Form1::Tnumber_KeyPress()
         break;
     }
     resumeNext([&] { runBuilder(m_ticket, kind); });
+    const TabStrip::OneClick once(*m_ui->SSTab1);
     resumeNext([this] { Nubyod(); });
     m_ui->Tnumber->clear();
     if (m_ui->Tname->text() == noCustomer())
@@ -311,6 +312,7 @@ void Form1::SSTab1_Click()
 void Form1::Nubyod()
 {
     const GridTotals totals = m_ticket.totalGrids();
+    const TabStrip::OneClick once(*m_ui->SSTab1);
     showTab(BottomTab, u"   ล่าง ( ยอดรวม "_s + formatBaht(bottomTotal(totals)) + u" )"_s);
     showTab(TopTab, u"   บน ( ยอดรวม "_s + formatBaht(topTotal(totals)) + u" )"_s);
     m_ui->text1->setText(formatBaht(sumTotal(totals)));
@@ -324,6 +326,7 @@ void Form1::showTab(int tab, const QString &caption)
 
 void Form1::showZeroTabs()
 {
+    const TabStrip::OneClick once(*m_ui->SSTab1);
     showTab(BottomTab, u"   ล่าง ( ยอดรวม 0 )"_s);
     showTab(TopTab, u"   บน ( ยอดรวม 0 )"_s);
 }

@@ -3,6 +3,8 @@
 
 #include <QSignalBlocker>
 
+#include <utility>
+
 TabStrip::TabStrip(QWidget *parent) : QTabBar(parent)
 {
     setExpanding(false);
@@ -17,5 +19,14 @@ void TabStrip::setTab(int tab)
         setCurrentIndex(tab);
     }
     update(); // what the blocked signals would have brought about
-    emit clicked();
+    if (m_holds > 0)
+        m_clickDue = true;
+    else
+        emit clicked();
+}
+
+TabStrip::OneClick::~OneClick()
+{
+    if (--m_tabs.m_holds == 0 && std::exchange(m_tabs.m_clickDue, false))
+        emit m_tabs.clicked();
 }

@@ -16,6 +16,23 @@ public:
     /// Shows a tab and emits clicked() inside the call.
     void setTab(int tab);
 
+    /// While it lives, settings of the tab emit nothing; its end emits one clicked() for them all.
+    /// Totals are written through both tabs, and what each tab shows would be laid out every time.
+    class OneClick
+    {
+    public:
+        explicit OneClick(TabStrip &tabs) : m_tabs(tabs) { ++m_tabs.m_holds; }
+        ~OneClick();
+        Q_DISABLE_COPY_MOVE(OneClick)
+
+    private:
+        TabStrip &m_tabs;
+    };
+
 signals:
     void clicked();
+
+private:
+    int m_holds = 0;
+    bool m_clickDue = false;
 };
