@@ -94,9 +94,10 @@ public:
     }
 
     /// Seconds from the confirmed cut of one baht from a line in @p row of a board to the board
-    /// loaded again.
-    double cut(int board, int row)
+    /// loaded again. @p allDone also has the dialog gone and the page painted.
+    double cut(int board, int row, double &allDone)
     {
+        double loaded = 0;
         auto *grid = form().findChild<Spread *>(u"fpSpread%1"_s.arg(board + 1));
         QElapsedTimer clock;
         QTimer::singleShot(0, &form(), [&] {
@@ -107,10 +108,13 @@ public:
             clock.start();
             QTest::keyClick(amount, Qt::Key_Return);
             dialog->close();
+            loaded = seconds(clock);
         });
         grid->setActiveRow(row);
         QTest::keyClick(grid, Qt::Key_Return);
-        return seconds(clock);
+        QApplication::processEvents();
+        allDone = seconds(clock);
+        return loaded;
     }
 
     /// Seconds of the bare statements on a copy of the file, round by round. Those of a filter follow
@@ -186,8 +190,11 @@ Measured measureCut(benchmark::State &state, int board, int lines)
     BoardDesk desk(lines);
     const BoxShower before = setBoxShower([](const Box &) { return BoxAnswer::Ok; });
     int row = 0;
-    const Samples ours = taken(state, [&] { return desk.cut(board, ++row % 10 + 1); });
+    Samples painted;
+    const Samples ours =
+        taken(state, [&] { return desk.cut(board, ++row % 10 + 1, painted.emplace_back()); });
     setBoxShower(before);
     return {quantile(ours, 0.5) / 1000,
-            QString::asprintf("slowest %.0f", quantile(ours, 1) / 1000)};
+            QString::asprintf("slowest %.0f, with dialog gone and page painted %.0f",
+                              quantile(ours, 1) / 1000, quantile(painted, 0.5) * 1000)};
 }

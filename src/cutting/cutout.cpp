@@ -6,6 +6,8 @@
 #include "ledger/ledger.h"
 #include "runtime/values.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,9 +26,26 @@ constexpr std::array Columns{
 /// Places of what the list of lines reads.
 enum class Read { Key, Name, Buyer, Money, User };
 
-const QVariant &field(Read place)
+const QVariant &field(const QVariantList &line, Read place)
 {
-    return RecordsetA.field(qsizetype(place));
+    return line[qsizetype(place)];
+}
+
+/// Lines of equal money stand by age. The engine takes the money's order from its index, which
+/// knows no age, and would have to sort all lines for it.
+void sortEqualMoneyByKey(QList<QVariantList> &lines)
+{
+    const auto older = [](const QVariantList &left, const QVariantList &right) {
+        return field(left, Read::Key).toLongLong() < field(right, Read::Key).toLongLong();
+    };
+    for (auto first = lines.begin(); first != lines.end();) {
+        const QVariant &money = field(*first, Read::Money);
+        const auto end = std::find_if(first, lines.end(), [&](const QVariantList &line) {
+            return field(line, Read::Money) != money;
+        });
+        std::sort(first, end, older);
+        first = end;
+    }
 }
 
 /// Takes the amount off a line that stays in the book.
@@ -60,38 +79,37 @@ void CutOut::LoadNumrunup()
 {
     const SpreadModel::Rebuild rebuild(grid);
     SetupSpread();
-    const QString number = trimBlanks(SelNumValue);
     RecordsetA.open(u"SELECT tblNumber.NPK, tblMember.Mname, tblNumber.nameFK, tblNumber.numBuy,"
                     " tblNumber.nuser"
                     " FROM tblNumber INNER JOIN tblMember ON tblNumber.nameFK = tblMember.MPK"
                     " WHERE [num23] = ? AND [numType] = ? AND [updown] = ? AND [numValue] = ?"
-                    " ORDER BY numBuy DESC, NPK"_s,
-                    {SelNum23, SelNumType, SelUpDown, number});
-    grid.setRows(RecordsetA.recordCount());
-    if (grid.rows() > 0)
-        fillRows(number);
-    RecordsetA.close();
+                    " ORDER BY numBuy DESC"_s,
+                    {SelNum23, SelNumType, SelUpDown, trimBlanks(SelNumValue)});
+    m_lines = RecordsetA.takeRows();
+    sortEqualMoneyByKey(m_lines);
+    if (m_lines.isEmpty())
+        return;
+    qint32 CutTotal = 0; // first, so that no line is told whose money is none
+    for (const QVariantList &line : std::as_const(m_lines))
+        CutTotal = addLong({CutTotal, CLng(numberOf(field(line, Read::Money)))});
+    grid.setToldRows(int(m_lines.size()), [this, label = twoPartLabel(SelNumType, SelUpDown),
+                                           number = trimBlanks(SelNumValue)](int row, auto texts) {
+        texts[CutColumn::Label] = label;
+        texts[CutColumn::Number] = number;
+        tellRow(row, texts);
+    });
+    grid.setText(TotalRow, CutColumn::Amount, formatBaht(CutTotal) + u" บาท"_s);
 }
 
-/// Writes the recordset's rows and their sum.
-void CutOut::fillRows(const QString &number)
+void CutOut::tellRow(int row, std::span<QString> texts) const
 {
-    qint32 CutTotal = 0;
-    std::array<QString, CutColumn::User + 1> texts;
-    texts[CutColumn::Label] = twoPartLabel(SelNumType, SelUpDown);
-    texts[CutColumn::Number] = number;
-    for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
-        const double money = numberOf(field(Read::Money));
-        CutTotal = addLong({CutTotal, CLng(money)});
-        texts[CutColumn::Key] = field(Read::Key).toString();
-        texts[CutColumn::Place] = QString::number(row);
-        texts[CutColumn::Customer] = u' ' + field(Read::Name).toString();
-        texts[CutColumn::Amount] = formatBaht(money) + u' ';
-        texts[CutColumn::Buyer] = field(Read::Buyer).toString();
-        texts[CutColumn::User] = field(Read::User).toString();
-        grid.setRow(row, texts);
-    }
-    grid.setText(TotalRow, CutColumn::Amount, formatBaht(CutTotal) + u" บาท"_s);
+    const QVariantList &line = m_lines[row - 1];
+    texts[CutColumn::Key] = field(line, Read::Key).toString();
+    texts[CutColumn::Place] = QString::number(row);
+    texts[CutColumn::Customer] = u' ' + field(line, Read::Name).toString();
+    texts[CutColumn::Amount] = formatBaht(numberOf(field(line, Read::Money))) + u' ';
+    texts[CutColumn::Buyer] = field(line, Read::Buyer).toString();
+    texts[CutColumn::User] = field(line, Read::User).toString();
 }
 
 CutLine CutOut::lineAt(int row) const

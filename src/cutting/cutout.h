@@ -31,7 +31,7 @@ class CutOut
 public:
     CutOut();
 
-    SpreadModel grid;
+    SpreadModel grid; ///< its rows are told when they are looked at
 
     /// Lists the lines, the biggest first, with their sum in the header. Raises "Overflow" when
     /// that leaves 32 bits. Uses RecordsetA.
@@ -49,8 +49,10 @@ public:
 
 private:
     void SetupSpread();
-    void fillRows(const QString &number);
+    void tellRow(int row, std::span<QString> texts) const;
     void SetupNewData8();
+
+    QList<QVariantList> m_lines; ///< as the list's statement reads them
 
     qint32 NextCutKey = 0;
 };

@@ -5,6 +5,7 @@
 #include "runtime/runtimeerror.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -60,6 +61,13 @@ const QVariant &Recordset::field(qsizetype place) const
 QVariant Recordset::field(const QString &column) const
 {
     return field(place(column));
+}
+
+QList<QVariantList> Recordset::takeRows()
+{
+    QList<QVariantList> rows = std::move(m_read.rows);
+    close();
+    return rows;
 }
 
 void Recordset::addNew()

@@ -36,6 +36,9 @@ public:
     qsizetype place(const QString &column) const;
     const QVariant &field(qsizetype place) const;
 
+    /// The rows read, for a list that keeps them. Lets go of everything.
+    QList<QVariantList> takeRows();
+
     /// Starts a row of the table readied with openTable().
     void addNew();
 

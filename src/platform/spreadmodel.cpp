@@ -38,6 +38,7 @@ void SpreadModel::setup(int columns, int headers)
 {
     const Rebuild rebuild(*this);
     m_rows.clear();
+    m_tellRow = {};
     m_columns = QList<Qt::Alignment>(columns + 1, Qt::AlignLeft | Qt::AlignVCenter);
     m_headers = QList<QList<HeaderCell>>(headers, QList<HeaderCell>(columns + 1));
 }
@@ -57,8 +58,36 @@ void SpreadModel::setRows(int rows)
     }
 }
 
+void SpreadModel::setToldRows(int rows, RowTeller tellRow)
+{
+    const Rebuild rebuild(*this);
+    m_rows = QList<Row>(rows);
+    m_tellRow = std::move(tellRow);
+}
+
+const SpreadModel::Row &SpreadModel::toldRow(int row) const
+{
+    Row &cells = m_rows[row - 1];
+    if (cells.isEmpty()) {
+        QList<QString> texts(m_columns.size());
+        m_tellRow(row, texts);
+        cells.reserve(texts.size());
+        for (QString &text : texts)
+            cells += {std::move(text), {}};
+    }
+    return cells;
+}
+
+/// Rows that change their place have to be told while they have it.
+void SpreadModel::tellAll()
+{
+    for (int row = 1; m_tellRow && row <= rows(); ++row)
+        toldRow(row);
+}
+
 void SpreadModel::insertRow(int row)
 {
+    tellAll();
     beginInsertRows({}, row - 1, row - 1);
     m_rows.insert(row - 1, Row(m_columns.size()));
     endInsertRows();
@@ -66,6 +95,7 @@ void SpreadModel::insertRow(int row)
 
 void SpreadModel::removeRow(int row)
 {
+    tellAll();
     beginRemoveRows({}, row - 1, row - 1);
     m_rows.removeAt(row - 1);
     endRemoveRows();
@@ -79,6 +109,7 @@ bool SpreadModel::holds(int row, int column) const
 SpreadModel::Cell &SpreadModel::cell(int row, int column)
 {
     Q_ASSERT(holds(row, column));
+    toldRow(row);
     return m_rows[row - 1][column];
 }
 
@@ -100,7 +131,7 @@ QString SpreadModel::text(int row, int column) const
 {
     if (row < 0)
         return header(row, column).text;
-    return holds(row, column) ? m_rows[row - 1][column].text : QString();
+    return holds(row, column) ? toldRow(row)[column].text : QString();
 }
 
 void SpreadModel::setText(int row, int column, const QString &text)
@@ -117,6 +148,7 @@ void SpreadModel::setText(int row, int column, const QString &text)
 void SpreadModel::setRow(int row, std::span<const QString> texts)
 {
     Q_ASSERT(holds(row, int(texts.size()) - 1));
+    toldRow(row);
     Row &cells = m_rows[row - 1];
     auto cell = cells.begin();
     for (const QString &text : texts)
@@ -127,7 +159,7 @@ void SpreadModel::setRow(int row, std::span<const QString> texts)
 
 QColor SpreadModel::color(int row, int column) const
 {
-    return holds(row, column) ? m_rows[row - 1][column].color : QColor();
+    return holds(row, column) ? toldRow(row)[column].color : QColor();
 }
 
 void SpreadModel::setColor(int row, int column, const QColor &color)
@@ -168,6 +200,7 @@ void SpreadModel::setTitles(int row, std::span<const GridColumn> columns, bool b
 void SpreadModel::sortDescending(int column,
                                  const std::function<double(const QString &text)> &valueOf)
 {
+    tellAll();
     std::vector<std::pair<double, qsizetype>> order;
     order.reserve(size_t(m_rows.size()));
     for (const Row &row : std::as_const(m_rows))
@@ -186,9 +219,11 @@ void SpreadModel::sortDescending(int column,
 
 int SpreadModel::searchColumn(int column, const QString &text) const
 {
-    const auto found = std::find_if(m_rows.begin(), m_rows.end(),
-                                    [&](const Row &row) { return row[column].text == text; });
-    return found == m_rows.end() ? -1 : int(found - m_rows.begin()) + 1;
+    for (int row = 1; row <= rows(); ++row) {
+        if (toldRow(row)[column].text == text)
+            return row;
+    }
+    return -1;
 }
 
 int SpreadModel::rowCount(const QModelIndex &parent) const
@@ -205,7 +240,7 @@ QVariant SpreadModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const Cell &shown = m_rows[index.row()][index.column()];
+    const Cell &shown = toldRow(index.row() + 1)[index.column()];
     switch (role) {
     case Qt::DisplayRole:
         return shown.text;
