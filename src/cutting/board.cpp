@@ -52,21 +52,42 @@ BoardLines readBoard(const BetClass &betClass)
     return lines;
 }
 
-std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name)
+void ReadBoard::add(const std::function<NumberMoney()> &line)
+{
+    try {
+        m_lines.push_back(line());
+    } catch (const RunTimeError &failure) {
+        m_failure = failure;
+    }
+}
+
+void ReadBoard::sort()
+{
+    sortLines(m_lines);
+}
+
+const BoardLines &ReadBoard::lines() const
+{
+    if (m_failure)
+        throw *m_failure;
+    return m_lines;
+}
+
+std::array<ReadBoard, ClassCount> readCustomerBoards(const QString &name)
 {
     RecordsetA.open(u"SELECT num23, updown, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
                     " WHERE NameFK IN (SELECT MPK FROM tblMember WHERE [Mname] LIKE ?)"
                     " GROUP BY num23, updown, numType, numValue"_s,
                     {name});
-    std::array<BoardLines, ClassCount> boards;
+    std::array<ReadBoard, ClassCount> boards;
     for (; !RecordsetA.eof(); RecordsetA.moveNext()) {
         const auto found = std::find_if(BetClasses.begin(), BetClasses.end(), isOfCurrentRow);
         if (found != BetClasses.end()) // a line that another tool has put in belongs to no board
-            boards[size_t(found - BetClasses.begin())].push_back(lineAt(3));
+            boards[size_t(found - BetClasses.begin())].add([] { return lineAt(3); });
     }
     RecordsetA.close();
-    for (BoardLines &lines : boards)
-        sortLines(lines);
+    for (ReadBoard &board : boards)
+        board.sort();
     return boards;
 }
 
@@ -124,8 +145,15 @@ void Board::SetupSpread(int at)
 
 void Board::load(int at, bool filtered, ProgressBar &progress)
 {
-    Shown shown{linesOf(at, filtered),
-                m_hotNumbers.get([] { return HotNumbers(readHotNumbers()); })};
+    Shown shown;
+    try {
+        shown = {linesOf(at, filtered),
+                 m_hotNumbers.get([] { return HotNumbers(readHotNumbers()); })};
+    } catch (const RunTimeError &) { // the board is empty, not that of another reading
+        SetupSpread(at);
+        m_shown[at] = {};
+        throw;
+    }
     // Most changes of the book reach one board of eight.
     if (shown.lines.empty() || shown != m_shown[at])
         write(at, shown, progress);
@@ -160,7 +188,7 @@ BoardLines Board::linesOf(int at, bool filtered)
     if (m_customer != name)
         m_customerBoards = {};
     m_customer = name;
-    return m_customerBoards.get([&] { return readCustomerBoards(name); })[at];
+    return m_customerBoards.get([&] { return readCustomerBoards(name); })[at].lines();
 }
 
 /// Writes the rows and sums the money. Halving may send a hot number down the board.

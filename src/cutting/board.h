@@ -7,7 +7,10 @@
 #include "entry/hotnumbers.h"
 #include "ledger/ledgermemo.h"
 #include "platform/progressbar.h"
+#include "runtime/runtimeerror.h"
 
+#include <functional>
+#include <optional>
 #include <vector>
 
 /// Columns of a board behind those that are shown, with column 0 the class of each row: its
@@ -31,9 +34,22 @@ using BoardLines = std::vector<NumberMoney>;
 /// Numbers of the whole book in one class.
 BoardLines readBoard(const BetClass &betClass);
 
+/// A board of many that were read at once; raises its own failure, and no other board's.
+class ReadBoard
+{
+public:
+    void add(const std::function<NumberMoney()> &line);
+    void sort();
+    const BoardLines &lines() const;
+
+private:
+    BoardLines m_lines;
+    std::optional<RunTimeError> m_failure;
+};
+
 /// Numbers of one customer in all classes; wild cards in the name count. All eight boards of a
 /// filter come from this one statement.
-std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
+std::array<ReadBoard, ClassCount> readCustomerBoards(const QString &name);
 
 /// The customer whom a name keyed in part finds: the one with the lowest key. Takes the name
 /// between two "%".
@@ -103,7 +119,7 @@ private:
 
     qint32 BoardTotal = 0; ///< of the board being loaded
     QString m_customer;    ///< whose boards are kept below
-    LedgerMemo<std::array<BoardLines, ClassCount>> m_customerBoards;
+    LedgerMemo<std::array<ReadBoard, ClassCount>> m_customerBoards;
     LedgerMemo<HotNumbers> m_hotNumbers;
     std::array<Shown, ClassCount> m_shown;
 };

@@ -23,6 +23,7 @@ private slots:
     void filterTakesTheWholeName();
     void buyersStandInThaiOrder();
     void sumBeyondALongAbandonsTheLoad();
+    void lineWithoutMoneyEmptiesItsBoardAlone();
 
 private:
     /// Files "number amount" lines of a class for a customer.
@@ -104,6 +105,24 @@ void BoardTest::sumBeyondALongAbandonsTheLoad()
     QCOMPARE(m_board->grids[0].text(-999, 2), u"0"_s);
     QCOMPARE(m_board->grids[0].rows(), 3);
     QCOMPARE(m_board->estimates[0], u"50,000"_s);
+}
+
+void BoardTest::lineWithoutMoneyEmptiesItsBoardAlone()
+{
+    file(0, u"123 100"_s);
+    file(4, u"5 70"_s);
+    m_board->FilterName = u"สมชาย"_s;
+    for (const bool filtered : {false, true}) {
+        m_ledger->run(u"UPDATE tblNumber SET numBuy = 100 WHERE numValue = '123'"_s);
+        m_board->load(0, filtered, m_progress);
+        QCOMPARE(shown(0), u"123|100"_s);
+        m_ledger->run(u"UPDATE tblNumber SET numBuy = NULL WHERE numValue = '123'"_s);
+        QCOMPARE(errorOf([&] { m_board->load(0, filtered, m_progress); }),
+                 u"Run-time error '94': Invalid use of Null"_s);
+        QCOMPARE(shown(0), QString());
+        m_board->load(4, filtered, m_progress);
+        QCOMPARE(shown(4), u"5|70"_s);
+    }
 }
 
 QTEST_GUILESS_MAIN(BoardTest)
