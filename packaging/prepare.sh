@@ -12,6 +12,7 @@
 #   test    to run the tests and the format check
 #   lint    to run the static checks by hand
 #   fuzz    to build the fuzzers by hand
+#   windows to build and try the program for Windows
 #   voice   to make the recordings anew
 packages='
 build   build-essential   the C++ compiler, the linker and the system headers
@@ -35,6 +36,12 @@ test    clang-format      checks the layout of the source
 lint    clang-tidy        checks the source for common mistakes
 fuzz    clang             the C++ compiler with a fuzzer
 fuzz    libclang-rt-14-dev libraries of the fuzzer and the sanitizers
+windows g++-mingw-w64-x86-64-posix  the compiler for Windows
+windows dpkg-dev          unpacks the sources of the libraries
+windows perl              configures one of them
+windows tcl               puts another together
+windows wine              runs Windows programs
+windows wine64            the part of it that does
 voice   espeak-ng         speaks the words of the recordings
 voice   sox               trims and levels the recordings
 voice   lame              packs the recordings

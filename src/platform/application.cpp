@@ -12,7 +12,6 @@
 
 using namespace Qt::StringLiterals;
 
-#ifndef Q_OS_WIN
 namespace {
 
 /// Type that lies beside the program. The portable folder carries it for machines that have no Thai
@@ -26,18 +25,15 @@ void takeCarriedType()
 }
 
 } // namespace
-#endif
 
 Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(u"mirakla-desk"_s);
-#ifndef Q_OS_WIN
     takeCarriedType();
-    // Latin digits and Thai letters of one design. Windows has its own Thai type.
+    // Latin digits and Thai letters of one design.
     QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s});
     type.setPointSize(11);
     setFont(type);
-#endif
     setBoxShower(showMessageBox);
     setSaveDialog(showSaveDialog);
 }

@@ -16,6 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+void refusePrinting()
+{
+    refuse(u"พิมพ์ไม่สำเร็จ โปรดตรวจสอบเครื่องพิมพ์ . . ."_s);
+}
+
 /// The pages asked for, counted from 0, in the order in which they leave the printer.
 QList<int> pagesAskedFor(const ReportPages &report, const QPrinter &printer)
 {
@@ -38,6 +43,13 @@ QList<int> pagesAskedFor(const ReportPages &report, const QPrinter &printer)
 void printWithDialog(const ReportPages &report, QWidget *parent)
 {
     QPrinter printer(QPrinter::HighResolution);
+#ifdef Q_OS_WIN
+    // Without any printer the desktop's dialog would stay away without a word.
+    if (printer.outputFormat() != QPrinter::NativeFormat) {
+        refusePrinting();
+        return;
+    }
+#endif
     // Each by itself: a printer that cannot print to the paper's edge would refuse a whole layout
     // without margins, the orientation with it.
     printer.setFullPage(true);
@@ -48,7 +60,7 @@ void printWithDialog(const ReportPages &report, QWidget *parent)
     dialog.setOption(QPrintDialog::PrintPageRange);
     dialog.setMinMax(1, int(report.pages.size()));
     if (runDialog(dialog) == QDialog::Accepted && !printPages(report, printer))
-        refuse(u"พิมพ์ไม่สำเร็จ โปรดตรวจสอบเครื่องพิมพ์ . . ."_s);
+        refusePrinting();
 }
 
 bool printPages(const ReportPages &report, QPrinter &printer)

@@ -3,16 +3,35 @@
 
 #include <QRegularExpression>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
+
+bool countsBuddhistEra(const QLocale &region)
+{
+#ifdef Q_OS_WIN
+    // The user of a Thai desktop may have chosen the other calendar.
+    DWORD calendar = 0;
+    if (region == QLocale::system()
+        && GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_ICALENDARTYPE | LOCALE_RETURN_NUMBER,
+                           reinterpret_cast<wchar_t *>(&calendar),
+                           sizeof(calendar) / sizeof(wchar_t))
+               > 0)
+        return calendar == CAL_THAI;
+#endif
+    return region.territory() == QLocale::Thailand;
+}
 
 QString dateText(QDate day, const QLocale &region, QLocale::FormatType type)
 {
     if (!day.isValid())
         return QString();
     QString format = region.dateFormat(type);
-    const int year = region.territory() == QLocale::Thailand ? day.year() + 543 : day.year();
+    const int year = countsBuddhistEra(region) ? day.year() + 543 : day.year();
     // The year goes in as quoted text: the toolkit knows neither the era nor, in some regions'
     // short formats, more than two digits of it.
     static const QRegularExpression yearPart(u"y+"_s);

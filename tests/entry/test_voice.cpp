@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QMutex>
 #include <QPushButton>
 
 #include <SDL_mixer.h>
@@ -23,16 +24,34 @@ QString recordingPath()
     return qEnvironmentVariable("SDL_DISKAUDIOFILE");
 }
 
+#ifdef Q_OS_WIN
+/// The sound library keeps its file to itself, so all is taken on its way there.
+QMutex heardLock;
+QByteArray heardSamples;
+
+void keepSamples(void *, Uint8 *samples, int size)
+{
+    const QMutexLocker lock(&heardLock);
+    heardSamples.append(reinterpret_cast<const char *>(samples), size);
+}
+
+QByteArray recorded()
+{
+    const QMutexLocker lock(&heardLock);
+    return heardSamples;
+}
+#else
 QByteArray recorded()
 {
     QFile file(recordingPath());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
+#endif
 
 /// Samples of a word's recording.
 QByteArray wordSamples(const QString &name)
 {
-    Mix_Chunk *chunk = Mix_LoadWAV(qPrintable(programFile(u"data/mp3/"_s + name + u".mp3"_s)));
+    Mix_Chunk *chunk = Mix_LoadWAV(qUtf8Printable(programFile(u"data/mp3/"_s + name + u".mp3"_s)));
     if (!chunk)
         qFatal("cannot read the word %s", qPrintable(name));
     const QByteArray samples(reinterpret_cast<const char *>(chunk->abuf), int(chunk->alen));
@@ -257,6 +276,9 @@ int main(int argc, char **argv)
     qputenv("SDL_AUDIODRIVER", "disk"); // what would be heard is written to a file
     qputenv("SDL_DISKAUDIOFILE", QFile::encodeName(soundFolder.filePath(u"heard"_s)));
     qputenv("SDL_DISKAUDIODELAY", "2"); // milliseconds a buffer: five times as fast as heard
+#ifdef Q_OS_WIN
+    Mix_SetPostMix(keepSamples, nullptr);
+#endif
     return runFormTest<VoiceTest>(argc, argv);
 }
 #include "test_voice.moc"

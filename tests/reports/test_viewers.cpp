@@ -197,6 +197,7 @@ void ViewersTest::printerGetsThePagesAskedFor()
 
 int main(int argc, char **argv)
 {
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // which no test could answer
     Application application(argc, argv);
     ViewersTest test;
     return QTest::qExec(&test, argc, argv);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDataStream>
 #include <QList>
 #include <QPair>
 #include <QSize>
@@ -27,3 +28,21 @@ struct ReadPdf
 };
 
 ReadPdf readPdf(const QByteArray &file);
+
+// So that what one process has read can be told to another.
+inline QDataStream &operator<<(QDataStream &stream, const ReadSheet &read)
+{
+    return stream << read.name << read.rows;
+}
+inline QDataStream &operator>>(QDataStream &stream, ReadSheet &read)
+{
+    return stream >> read.name >> read.rows;
+}
+inline QDataStream &operator<<(QDataStream &stream, const ReadPdf &read)
+{
+    return stream << read.title << read.pageSizes << read.text << read.fonts;
+}
+inline QDataStream &operator>>(QDataStream &stream, ReadPdf &read)
+{
+    return stream >> read.title >> read.pageSizes >> read.text >> read.fonts;
+}

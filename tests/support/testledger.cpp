@@ -75,5 +75,5 @@ QString runStockTool(const QString &path, const QString &password, const QString
     tool.write(commands.toUtf8() + '\n');
     tool.closeWriteChannel();
     tool.waitForFinished();
-    return QString::fromUtf8(tool.readAll()).trimmed();
+    return QString::fromUtf8(tool.readAll()).remove(u'\r').trimmed();
 }
