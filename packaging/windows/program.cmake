@@ -9,5 +9,5 @@ set_source_files_properties(${PROJECT_BINARY_DIR}/mirakla-desk.rc
     "${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.ico;${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.manifest")
 
 foreach(type IN ITEMS NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold)
-    configure_file(/usr/share/fonts/truetype/noto/${type}.ttf ${PROJECT_BINARY_DIR}/fonts COPYONLY)
+    file(COPY /usr/share/fonts/truetype/noto/${type}.ttf DESTINATION ${PROJECT_BINARY_DIR}/fonts)
 endforeach()

@@ -3,6 +3,8 @@
 
 #include <QRegularExpression>
 
+#include <optional>
+
 #ifdef Q_OS_WIN
 #include <windows.h>
 #endif
@@ -10,6 +12,8 @@
 using namespace Qt::StringLiterals;
 
 namespace {
+
+std::optional<QLocale> givenRegion;
 
 bool countsBuddhistEra(const QLocale &region)
 {
@@ -43,6 +47,8 @@ QString dateText(QDate day, const QLocale &region, QLocale::FormatType type)
 
 QLocale machineRegion()
 {
+    if (givenRegion)
+        return *givenRegion;
 #ifndef Q_OS_WIN
     // The toolkit takes the format from one variable and the territory from another.
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
@@ -52,6 +58,11 @@ QLocale machineRegion()
     }
 #endif
     return QLocale::system();
+}
+
+void setMachineRegion(const QLocale &region)
+{
+    givenRegion = region;
 }
 
 QString shortDate(QDate day, const QLocale &region)

@@ -11,6 +11,9 @@
 /// The region that the machine writes dates in.
 QLocale machineRegion();
 
+/// Has machineRegion() give @p region: for tests.
+void setMachineRegion(const QLocale &region);
+
 /// Day, month and full year in the region's short order, such as "22/11/2569".
 QString shortDate(QDate day, const QLocale &region = machineRegion());
 

@@ -3,6 +3,7 @@
 #include "history/drawlog.h"
 #include "history/form5.h"
 #include "ledger/ledger.h"
+#include "platform/region.h"
 #include "support/formtest.h"
 
 using namespace Qt::StringLiterals;
@@ -31,7 +32,7 @@ private:
 
 void HistoryTest::prepare()
 {
-    qputenv("LC_ALL", "th_TH.UTF-8");
+    setMachineRegion(QLocale(u"th_TH"_s));
 }
 
 void HistoryTest::newestDrawComesFirst()

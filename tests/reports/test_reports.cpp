@@ -3,6 +3,7 @@
 // away, and under which name a file is saved.
 #include "platform/clock.h"
 #include "platform/pdfexport.h"
+#include "platform/region.h"
 #include "platform/savefile.h"
 #include "platform/sheetofpages.h"
 #include "reports/cutnumbersreport.h"
@@ -89,7 +90,7 @@ private slots:
 
 void ReportsTest::initTestCase()
 {
-    qputenv("LC_ALL", "th_TH.UTF-8");
+    setMachineRegion(QLocale(u"th_TH"_s));
     setClock([] { return QDateTime({2026, 11, 5}, {14, 7, 9}); });
 }
 

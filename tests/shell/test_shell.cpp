@@ -6,6 +6,7 @@
 #include "platform/clock.h"
 #include "platform/programfolder.h"
 #include "platform/pushbutton.h"
+#include "platform/region.h"
 #include "program.h"
 #include "shell/globals.h"
 #include "support/hands.h"
@@ -52,6 +53,7 @@ void ShellTest::initTestCase()
     QVERIFY(QDir(m_folder.path()).mkdir(u"data"_s));
     makeEmptyLedger(m_folder.filePath(u"data/ztkdata.ZDB"_s));
     setProgramFolder(m_folder.path());
+    setMachineRegion(QLocale::c());
     setClock([] { return QDateTime({2026, 11, 22}, {9, 5}); });
     m_window = startProgram();
     QVERIFY(m_window && QTest::qWaitForWindowActive(m_window.get()));
