@@ -256,7 +256,7 @@ Connection::~Connection() = default;
 
 std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArray &password)
 {
-    if (!QFile::exists(path))
+    if (!QFileInfo(path).isFile())
         raiseFailure(SQLITE_CANTOPEN);
     std::unique_ptr<Connection> ledger(new Connection(std::make_unique<Engine>(path)));
     Engine &engine = *ledger->m_engine;

@@ -67,6 +67,15 @@ Victim::Victim(const QString &folder, quint32 seed)
                     {u"victim"_s, folder, QString::number(seed)});
 }
 
+bool Victim::waitForStep()
+{
+    while (m_process.bytesAvailable() == 0) { // some desktops also wake one for nothing
+        if (!m_process.waitForReadyRead(60'000))
+            return false;
+    }
+    return true;
+}
+
 int Victim::waitForEnd()
 {
     const bool ended =

@@ -17,7 +17,7 @@ public:
     Q_DISABLE_COPY_MOVE(Victim)
 
     void openGate() { m_process.closeWriteChannel(); }
-    bool waitForStep() { return m_process.waitForReadyRead(60'000); } ///< false if it ends before
+    bool waitForStep(); ///< false if it ends before
     bool waitForStart() { return m_process.waitForStarted(); }
     int waitForEnd(); ///< its own end; exit status
     void kill();
