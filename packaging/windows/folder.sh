@@ -14,7 +14,7 @@ prefix=$("$root/packaging/windows/dependencies.sh" --where)
 target=x86_64-w64-mingw32
 places=("$prefix/bin" "$(dirname "$($target-g++-posix -print-file-name=libstdc++-6.dll)")"
     /usr/$target/lib)
-# Libraries that Windows has are those that Wine has made anew.
+# Libraries that Windows has are those that Wine has made anew, and all of its own interface names.
 windows=/usr/lib/$(gcc -print-multiarch)/wine/x86_64-windows
 
 # Copies what a program or library asks for, and what that asks for in its turn.
@@ -22,7 +22,7 @@ add_libraries_of()
 {
     local name place
     for name in $($target-objdump -p "$1" | sed -nE 's/^[[:space:]]*DLL Name: (.*)/\1/p'); do
-        [[ ! -e $folder/$name && ! -e $windows/${name,,} ]] || continue
+        [[ ! -e $folder/$name && ! -e $windows/${name,,} && $name != api-ms-win-* ]] || continue
         for place in "${places[@]}"; do
             [[ -e $place/$name ]] && break
         done
