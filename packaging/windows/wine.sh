@@ -11,8 +11,8 @@ prefix=$("$root/packaging/windows/dependencies.sh" --where)
 
 export WINEPREFIX=${WINEPREFIX:-$root/build/windows.wine}
 export WINEDEBUG=${WINEDEBUG:--all}
-# Neither a browser nor .NET is asked for on first use.
-export WINEDLLOVERRIDES="mscoree,mshtml="
+# Neither a browser nor .NET is asked for on first use, and a program that fails ends.
+export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe="
 export LC_ALL=C.UTF-8
 # For tests that name a file to a program of this machine.
 export DESK_WINE_DRIVES=$WINEPREFIX/dosdevices

@@ -8,3 +8,6 @@
 /// cannot tell, on a full disk say, true: the lock on the Ledger keeps the book from a second copy
 /// all the same.
 bool becomeOnlyInstance();
+
+/// Gives the place up ahead of the end of the process, so that another may have it.
+void leaveOnlyInstance();

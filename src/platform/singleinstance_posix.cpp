@@ -12,20 +12,33 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+bool isOnlyInstance = false;
+int place = -1; ///< the locked file; -1 also where none can be had
+
+} // namespace
+
 bool becomeOnlyInstance()
 {
-    static bool isOnlyInstance = false;
     if (isOnlyInstance)
         return true;
     // The lock is on the open file and goes with the process, so the file itself stays and is
     // empty. Reading is enough to lock: the file may be another user's.
     const QByteArray path = QFile::encodeName(QDir::temp().filePath(u"mirakla-desk.lock"_s));
     constexpr mode_t ReadableByAll = 0444;
-    int file = open(path.constData(), O_RDONLY | O_CLOEXEC);
-    if (file < 0)
-        file = open(path.constData(), O_RDONLY | O_CLOEXEC | O_CREAT, ReadableByAll);
-    isOnlyInstance = file < 0 || flock(file, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    place = open(path.constData(), O_RDONLY | O_CLOEXEC);
+    if (place < 0)
+        place = open(path.constData(), O_RDONLY | O_CLOEXEC | O_CREAT, ReadableByAll);
+    isOnlyInstance = place < 0 || flock(place, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
     if (!isOnlyInstance)
-        close(file);
+        close(place);
     return isOnlyInstance;
+}
+
+void leaveOnlyInstance()
+{
+    if (isOnlyInstance && place >= 0)
+        close(place);
+    isOnlyInstance = false;
 }

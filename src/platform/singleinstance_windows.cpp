@@ -3,9 +3,14 @@
 
 #include <windows.h>
 
+namespace {
+
+HANDLE place = nullptr;
+
+} // namespace
+
 bool becomeOnlyInstance()
 {
-    static HANDLE place = nullptr;
     if (place)
         return true;
     // It stands for the whole machine and goes with the process. Where another user's copy holds
@@ -19,4 +24,11 @@ bool becomeOnlyInstance()
     CloseHandle(place);
     place = nullptr;
     return false;
+}
+
+void leaveOnlyInstance()
+{
+    if (place)
+        CloseHandle(place);
+    place = nullptr;
 }

@@ -23,7 +23,7 @@ Ending closeDraw(const QString &pictures, const QString &name)
                   {u"--close"_s, programFolder(), u"--pictures"_s, pictures, name});
     const bool ended = process.waitForFinished();
     return {ended && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0,
-            QString::fromUtf8(process.readAll()).split(u'\n', Qt::SkipEmptyParts)};
+            QString::fromUtf8(process.readAll()).remove(u'\r').split(u'\n', Qt::SkipEmptyParts)};
 }
 
 int closeDrawHere(const QString &folder, const QString &pictures, const QString &name)

@@ -5,6 +5,7 @@
 #include "ledger/schema.h"
 #include "platform/application.h"
 #include "platform/programfolder.h"
+#include "platform/singleinstance.h"
 #include "program.h"
 #include "support/testledger.h"
 #include "tour/ending.h"
@@ -59,6 +60,7 @@ bool playDraw(const QString &path, const QString &pictures)
     player.cutNumbers();
     window.reset();
     CloseLedger();
+    leaveOnlyInstance();
     player.compareClosing(closeDraw(pictures, name));
     window = startedProgram();
     Player onTheNextDay(*window, pictures, name, kinds);
@@ -81,6 +83,10 @@ int main(int argc, char **argv)
 {
     static const QTemporaryDir ownPlace; // so that a running program is no second copy of this one
     qputenv("TMPDIR", ownPlace.path().toUtf8());
+#ifdef Q_OS_WIN
+    // The desktop's own save dialog takes no keys from a program.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+#endif
     const Application application(argc, argv);
 
     QCommandLineParser options;
