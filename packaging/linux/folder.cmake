@@ -28,7 +28,8 @@ install(CODE "
         -P \"${PROJECT_SOURCE_DIR}/src/ledger/emptyledger.cmake\" COMMAND_ERROR_IS_FATAL ANY)")
 
 set(type_folder /usr/share/fonts/truetype/noto)
-set(types NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold)
+set(types NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold
+    NotoSansSymbols-Regular)
 list(TRANSFORM types PREPEND ${type_folder}/)
 list(TRANSFORM types APPEND .ttf)
 install(FILES ${types} DESTINATION fonts)

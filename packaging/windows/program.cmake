@@ -8,6 +8,7 @@ set_source_files_properties(${PROJECT_BINARY_DIR}/mirakla-desk.rc
     TARGET_DIRECTORY mirakla-desk PROPERTIES OBJECT_DEPENDS
     "${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.ico;${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.manifest")
 
-foreach(type IN ITEMS NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold)
+foreach(type IN ITEMS NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold
+        NotoSansSymbols-Regular)
     file(COPY /usr/share/fonts/truetype/noto/${type}.ttf DESTINATION ${PROJECT_BINARY_DIR}/fonts)
 endforeach()

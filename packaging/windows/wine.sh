@@ -39,6 +39,9 @@ mkdir -p "$WINEPREFIX"
     flock 9
     [[ -e $WINEPREFIX/ready ]] || make_windows >"$WINEPREFIX/made.log" 2>&1 9>&- ||
         { echo "wine.sh: no Windows could be made; see $WINEPREFIX/made.log" >&2 && exit 1; }
+    # The services start with the first program. With its output in hand they would keep it open
+    # behind its end, and whoever reads it would wait for them.
+    wineserver -k0 2>/dev/null || "${plainly[@]}" wine wineboot >/dev/null 2>&1 9>&- </dev/null
 ) 9>"$WINEPREFIX/lock"
 
 # Wine keeps variables that begin with QT_ to itself, unless WINE stands before them.

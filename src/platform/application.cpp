@@ -30,8 +30,8 @@ Application::Application(int &argc, char **argv) : QApplication(argc, argv)
 {
     setApplicationName(u"mirakla-desk"_s);
     takeCarriedType();
-    // Latin digits and Thai letters of one design.
-    QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s});
+    // Latin digits and Thai letters of one design; of symbols the arrows on keys.
+    QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s, u"Noto Sans Symbols"_s});
     type.setPointSize(11);
     setFont(type);
     setBoxShower(showMessageBox);

@@ -46,15 +46,15 @@ ReportViewer::ReportViewer(QWidget *parent)
     m_tools->addSeparator();
     addTool(u"พิมพ์"_s, u"print"_s, &ReportViewer::print);
     m_tools->addSeparator();
-    addTool(u"−"_s, u"zoomOut"_s, &ReportViewer::zoomOut);
+    addTool(u"–"_s, u"zoomOut"_s, &ReportViewer::zoomOut);
     m_tools->addWidget(m_percent);
     addTool(u"+"_s, u"zoomIn"_s, &ReportViewer::zoomIn);
     addTool(u"พอดีความกว้าง"_s, u"fitWidth"_s, &ReportViewer::fitWidth);
     m_tools->addSeparator();
     addTool(u"หน้าแรก"_s, u"first"_s, &ReportViewer::firstPage);
-    addTool(u"◀ ก่อนหน้า"_s, u"previous"_s, &ReportViewer::previousPage);
+    addTool(u"‹ ก่อนหน้า"_s, u"previous"_s, &ReportViewer::previousPage);
     m_tools->addWidget(m_place);
-    addTool(u"ถัดไป ▶"_s, u"next"_s, &ReportViewer::nextPage);
+    addTool(u"ถัดไป ›"_s, u"next"_s, &ReportViewer::nextPage);
     addTool(u"หน้าสุดท้าย"_s, u"last"_s, &ReportViewer::lastPage);
     m_pages = new PageView(this); // behind the tools, so that Tab comes to it after them
     m_pages->setObjectName(u"pages"_s);

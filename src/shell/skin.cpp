@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFont>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -29,9 +30,9 @@ void loadSkin(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return;
-#ifndef Q_OS_WIN
     qApp->setStyle(QStyleFactory::create(u"Fusion"_s)); // what the sheet is drawn for
-#endif
+    // A new style brings back the desktop's types for grids, boxes and menus.
+    QApplication::setFont(QApplication::font());
     sharpenTexts();
     qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
 }

@@ -12,6 +12,7 @@
 #include <QLabel>
 #include <QMutex>
 #include <QPushButton>
+#include <QScopeGuard>
 
 #include <SDL_mixer.h>
 
@@ -278,6 +279,8 @@ int main(int argc, char **argv)
     qputenv("SDL_DISKAUDIODELAY", "2"); // milliseconds a buffer: five times as fast as heard
 #ifdef Q_OS_WIN
     Mix_SetPostMix(keepSamples, nullptr);
+    const auto deafen =
+        qScopeGuard([] { Mix_SetPostMix(nullptr, nullptr); }); // ahead of the lock's end
 #endif
     return runFormTest<VoiceTest>(argc, argv);
 }

@@ -11,7 +11,7 @@ set -euo pipefail
 cmake=$1 zip=$2 wine=$3 build=$4 test_library=$5 pictures=$6
 place=$(mktemp -d)
 export WINEPREFIX=$place/windows DESK_SHIPPED=yes
-trap 'wine wineboot --kill >/dev/null 2>&1 || true; rm -rf "$place"' EXIT
+trap 'wineserver -k || true; wineserver -w || true; rm -rf "$place"' EXIT
 
 fail()
 {
@@ -42,5 +42,5 @@ pdffonts paper.pdf | grep -q 'Thai.*yes' || fail "Thai is not printed"
 
 cp "$build/tour.exe" "$test_library" "$folder/"
 rm -rf "$pictures"
-"$wine" "$folder/tour.exe" --pictures "$pictures"
+"$wine" "$folder/tour.exe" --pictures "Z:$pictures"
 [[ -n $(ls "$pictures") ]] || fail "the tour left no pictures"
