@@ -98,9 +98,9 @@ QString realPath(const QString &path)
     return real.isEmpty() ? path : real;
 }
 
-bool journalWaitsBeside(const QString &path)
+QString journalOf(const QString &path)
 {
-    return QFile::exists(path + u"-wal"_s);
+    return path + u"-wal"_s;
 }
 
 } // namespace
@@ -135,13 +135,14 @@ struct Connection::Engine
 
     void openFile(int flags, const QByteArray &password)
     {
-        journalWaited = journalWaitsBeside(path);
-        if (journalWaited)
-            salt = std::make_unique<MendedSalt>(path);
+        journalWaited = QFile::exists(journalOf(path));
         // One thread works on it, so no call needs to lock.
         check(sqlite3_open_v2(path.toUtf8().constData(), &handle, flags | SQLITE_OPEN_NOMUTEX,
                               nullptr));
-        check(sqlite3_key(handle, password.constData(), int(password.size())));
+        const QByteArray salt = saltFromJournal(journalOf(path));
+        saltMended = !salt.isEmpty() && salt != firstBytes(salt.size());
+        const QByteArray key = saltMended ? keyWithSalt(password, salt) : password;
+        check(sqlite3_key(handle, key.constData(), int(key.size())));
         check(sqlite3_create_collation(handle, AnyCaseCollation, SQLITE_UTF8, nullptr,
                                        compareUtf8<compareAnyCase>));
         check(sqlite3_create_collation(handle, ThaiCollation, SQLITE_UTF8, nullptr,
@@ -157,6 +158,18 @@ struct Connection::Engine
         execute("PRAGMA cache_size = -32000");
     }
 
+    /// What the file begins with, without its decryption; empty if it cannot be read. Read through
+    /// the engine, whose lock would go if the file were opened and closed once more here.
+    QByteArray firstBytes(qsizetype count) const
+    {
+        sqlite3_file *file = nullptr;
+        QByteArray bytes(count, '\0');
+        if (sqlite3_file_control(handle, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK
+            || file->pMethods->xRead(file, bytes.data(), int(count), 0) != SQLITE_OK)
+            return {};
+        return bytes;
+    }
+
     void execute(const char *sql) const
     {
         check(sqlite3_exec(handle, sql, nullptr, nullptr, nullptr));
@@ -170,11 +183,9 @@ struct Connection::Engine
         if (!journalWaited)
             return;
         finalizeAll();
-        if ((sqlite3_errcode(handle) & 0xff) != SQLITE_BUSY) // else it is at work for its owner
-            salt->putBack();
         // Never destroyed, so that what is left open stays known to the end of the process.
-        static auto &abandoned = *new QList<std::pair<sqlite3 *, MendedSalt *>>;
-        abandoned.append({std::exchange(handle, nullptr), salt.release()});
+        static auto &abandoned = *new QList<sqlite3 *>;
+        abandoned.append(std::exchange(handle, nullptr));
     }
 
     sqlite3_stmt *prepare(const QString &sql)
@@ -206,9 +217,9 @@ struct Connection::Engine
     }
 
     QString path;
-    QByteArray folder;                ///< the one that the file lies in
-    bool journalWaited = false;       ///< the last owner was killed and left a journal
-    std::unique_ptr<MendedSalt> salt; ///< of a file whose journal waited
+    QByteArray folder;          ///< the one that the file lies in
+    bool journalWaited = false; ///< the last owner was killed and left a journal
+    bool saltMended = false;    ///< the key was made with the salt that the journal has
     sqlite3 *handle = nullptr;
     QHash<QString, sqlite3_stmt *> prepared;
 };
@@ -219,7 +230,7 @@ namespace {
 /// so both are tried; the file itself may be in use and is only asked.
 void refuseUnwritable(const QString &path)
 {
-    QFile journal(path + u"-wal"_s);
+    QFile journal(journalOf(path));
     QTemporaryFile probe(path + u"-XXXXXX.tmp"_s);
     if (!mayBeWritten(QFile::encodeName(path))
         || (journal.exists() && !journal.open(QIODevice::ReadWrite)) || !probe.open())
@@ -274,8 +285,7 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
             raiseFailure(SQLITE_READONLY);
         if (!isLedger(*ledger))
             raiseFailure(SQLITE_NOTADB);
-        refuseDamaged(*ledger, engine.path, engine.journalWaited,
-                      engine.salt && engine.salt->isMended());
+        refuseDamaged(*ledger, engine.path, engine.journalWaited, engine.saltMended);
     } catch (const RunTimeError &) {
         engine.abandon();
         throw;
@@ -287,7 +297,7 @@ std::unique_ptr<Connection> Connection::create(const QString &path, const QByteA
 {
     if (QFile::exists(path))
         raiseFailure(u"file exists: "_s + path);
-    if (journalWaitsBeside(path)) // the engine would delete it, and a book may need it
+    if (QFile::exists(journalOf(path))) // the engine would delete it, and a book may need it
         raiseFailure(u"journal of a missing file exists: "_s + path);
     std::unique_ptr<Connection> fresh(new Connection(std::make_unique<Engine>(path)));
     fresh->m_engine->openFile(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, password);

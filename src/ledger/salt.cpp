@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "ledger/salt.h"
 
+#include <QFile>
+#include <QMessageAuthenticationCode>
 #include <QtEndian>
 
 namespace {
@@ -71,32 +73,43 @@ QByteArray saltInJournal(const QByteArray &journal)
     return {};
 }
 
+/// The engine's own way from a password to a key: PBKDF2 with HMAC-SHA1.
+QByteArray derivedKey(const QByteArray &password, const QByteArray &salt)
+{
+    constexpr qsizetype KeySize = 32;
+    constexpr int Turns = 64'000;
+    QMessageAuthenticationCode code(QCryptographicHash::Sha1, password);
+    const auto turned = [&code](const QByteArray &bytes) {
+        code.reset();
+        code.addData(bytes);
+        return code.result();
+    };
+    QByteArray key;
+    for (char block = 1; key.size() < KeySize; ++block) {
+        QByteArray turn = turned(salt + QByteArray(3, '\0') + block);
+        QByteArray sum = turn;
+        for (int at = 1; at < Turns; ++at) {
+            turn = turned(turn);
+            for (qsizetype place = 0; place < sum.size(); ++place)
+                sum[place] = char(sum[place] ^ turn[place]);
+        }
+        key += sum;
+    }
+    return key.first(KeySize);
+}
+
 } // namespace
 
-MendedSalt::MendedSalt(const QString &path) : m_file(path)
+QByteArray saltFromJournal(const QString &path)
 {
-    QFile journal(path + QStringLiteral("-wal"));
-    constexpr auto Existing =
-        QIODevice::ReadWrite | QIODevice::ExistingOnly | QIODevice::Unbuffered;
-    const QByteArray salt =
-        journal.open(QIODevice::ReadOnly) ? saltInJournal(journal.readAll()) : QByteArray();
-    if (salt.isEmpty() || !m_file.open(Existing))
-        return;
-    const QByteArray found = m_file.read(SaltSize);
-    if (found.size() != SaltSize || found == salt)
-        return;
-    m_before = found;
-    write(salt);
+    QFile journal(path);
+    return journal.open(QIODevice::ReadOnly) ? saltInJournal(journal.readAll()) : QByteArray();
 }
 
-void MendedSalt::putBack()
+QByteArray keyWithSalt(const QByteArray &password, const QByteArray &salt)
 {
-    if (!m_before.isEmpty())
-        write(m_before);
-}
-
-void MendedSalt::write(const QByteArray &salt)
-{
-    if (m_file.seek(0))
-        m_file.write(salt); // if it fails the engine refuses the file as it would have done
+    const bool isKey = password.startsWith("x'");
+    const QByteArray key =
+        isKey ? password.sliced(2).chopped(1) : derivedKey(password, salt).toHex();
+    return "x'" + key + salt.toHex() + '\'';
 }

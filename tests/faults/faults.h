@@ -51,6 +51,7 @@ private slots:
     void damagedLedgerIsRefused_data();
     void damagedLedgerIsRefused();
     void whatIsNoFileIsRefused();
+    void spoiltFirstPageComesFromTheJournal();
     void journalOfAnotherLedgerIsRefused();
     void damagedJournalLeavesWholeSteps();
     void nothingLeaks();
