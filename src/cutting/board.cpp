@@ -2,6 +2,7 @@
 #include "cutting/board.h"
 
 #include "ledger/collation.h"
+#include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
 
@@ -18,7 +19,9 @@ constexpr std::array<const qint16 *, ClassCount> Rates{
 /// The number of RecordsetA's current row in column @p at, and its money behind it.
 NumberMoney lineAt(qsizetype at)
 {
-    return {RecordsetA.field(at).toString(), numberOf(RecordsetA.field(at + 1))};
+    const QVariant &money = RecordsetA.field(at + 1);
+    return {RecordsetA.field(at).toString(),
+            money.isNull() ? std::nullopt : std::optional(numberOf(money))};
 }
 
 /// True if RecordsetA's current row begins with the marks of a class.
@@ -52,42 +55,20 @@ BoardLines readBoard(const BetClass &betClass)
     return lines;
 }
 
-void ReadBoard::add(const std::function<NumberMoney()> &line)
-{
-    try {
-        m_lines.push_back(line());
-    } catch (const RunTimeError &failure) {
-        m_failure = failure;
-    }
-}
-
-void ReadBoard::sort()
-{
-    sortLines(m_lines);
-}
-
-const BoardLines &ReadBoard::lines() const
-{
-    if (m_failure)
-        throw *m_failure;
-    return m_lines;
-}
-
-std::array<ReadBoard, ClassCount> readCustomerBoards(const QString &name)
+std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name)
 {
     RecordsetA.open(u"SELECT num23, updown, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
                     " WHERE NameFK IN (SELECT MPK FROM tblMember WHERE [Mname] LIKE ?)"
                     " GROUP BY num23, updown, numType, numValue"_s,
                     {name});
-    std::array<ReadBoard, ClassCount> boards;
+    std::array<BoardLines, ClassCount> boards;
     for (; !RecordsetA.eof(); RecordsetA.moveNext()) {
         const auto found = std::find_if(BetClasses.begin(), BetClasses.end(), isOfCurrentRow);
         if (found != BetClasses.end()) // a line that another tool has put in belongs to no board
-            boards[size_t(found - BetClasses.begin())].add([] { return lineAt(3); });
+            boards[size_t(found - BetClasses.begin())].push_back(lineAt(3));
     }
     RecordsetA.close();
-    for (ReadBoard &board : boards)
-        board.sort();
+    std::for_each(boards.begin(), boards.end(), sortLines);
     return boards;
 }
 
@@ -157,8 +138,8 @@ void Board::load(int at, bool filtered, ProgressBar &progress)
     // Most changes of the book reach one board of eight.
     if (shown.lines.empty() || shown != m_shown[at])
         write(at, shown, progress);
-    if (!shown.lines.empty())
-        estimates[at] = formatBaht(CDbl(grids[at].text(1, AmountColumn)) * *Rates[at]);
+    else
+        estimate(at); // the rate may be another
     m_shown[at] = std::move(shown);
 }
 
@@ -177,6 +158,7 @@ void Board::write(int at, const Shown &shown, ProgressBar &progress)
     }
     progress.start(grid.rows());
     fillRows(at, shown, progress);
+    estimate(at);
     grid.setText(TotalRow, AmountColumn, formatBaht(BoardTotal));
 }
 
@@ -188,7 +170,7 @@ BoardLines Board::linesOf(int at, bool filtered)
     if (m_customer != name)
         m_customerBoards = {};
     m_customer = name;
-    return m_customerBoards.get([&] { return readCustomerBoards(name); })[at].lines();
+    return m_customerBoards.get([&] { return readCustomerBoards(name); })[at];
 }
 
 /// Writes the rows and sums the money. Halving may send a hot number down the board.
@@ -203,10 +185,12 @@ void Board::fillRows(int at, const Shown &shown, ProgressBar &progress)
     bool halved = false;
     int row = 0;
     for (const auto &[number, money] : shown.lines) {
-        BoardTotal = addLong({BoardTotal, CLng(money)});
+        if (!money)
+            raiseInvalidUseOfNull();
+        BoardTotal = addLong({BoardTotal, CLng(*money)});
         const bool isHot = shown.hotNumbers.reach(betClass, number);
         texts[NumberColumn] = number;
-        texts[AmountColumn] = formatBaht(isHot ? money / 2 : money);
+        texts[AmountColumn] = formatBaht(isHot ? *money / 2 : *money);
         grid.setRow(++row, texts);
         if (isHot)
             grid.setColor(row, NumberColumn, QColor(HotColor));
@@ -217,6 +201,11 @@ void Board::fillRows(int at, const Shown &shown, ProgressBar &progress)
         grid.sortDescending(AmountColumn, [](const QString &text) {
             return text.isEmpty() ? 0 : CDbl(text); // no money has no text
         });
+}
+
+void Board::estimate(int at)
+{
+    estimates[at] = formatBaht(CDbl(grids[at].text(1, AmountColumn)) * *Rates[at]);
 }
 
 void Board::takeTotal(int at)

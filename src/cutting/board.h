@@ -7,9 +7,7 @@
 #include "entry/hotnumbers.h"
 #include "ledger/ledgermemo.h"
 #include "platform/progressbar.h"
-#include "runtime/runtimeerror.h"
 
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -23,7 +21,7 @@ inline constexpr int SideColumn = 4;
 struct NumberMoney
 {
     QString number;
-    double money; ///< whole baht
+    std::optional<double> money; ///< whole baht; nothing if none of its lines holds any
 
     bool operator==(const NumberMoney &) const = default;
 };
@@ -34,22 +32,9 @@ using BoardLines = std::vector<NumberMoney>;
 /// Numbers of the whole book in one class.
 BoardLines readBoard(const BetClass &betClass);
 
-/// A board of many that were read at once; raises its own failure, and no other board's.
-class ReadBoard
-{
-public:
-    void add(const std::function<NumberMoney()> &line);
-    void sort();
-    const BoardLines &lines() const;
-
-private:
-    BoardLines m_lines;
-    std::optional<RunTimeError> m_failure;
-};
-
 /// Numbers of one customer in all classes; wild cards in the name count. All eight boards of a
 /// filter come from this one statement.
-std::array<ReadBoard, ClassCount> readCustomerBoards(const QString &name);
+std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
 
 /// The customer whom a name keyed in part finds: the one with the lowest key. Takes the name
 /// between two "%".
@@ -93,8 +78,9 @@ struct Board
 
     /// Loads a board, of the whole book or of the filter's customer. A hot number shows half its
     /// money, which may send it down the board; the total in the header counts it in full. Raises
-    /// "Overflow" when that total leaves 32 bits, and shows the progress unless there is nothing
-    /// to load. Uses RecordsetA and RecordsetB.
+    /// "Overflow" when that total leaves 32 bits and "Invalid use of Null" for a number without
+    /// money; the rows above it stand. Shows the progress unless there is nothing to load. Uses
+    /// RecordsetA and RecordsetB.
     void load(int at, bool filtered, ProgressBar &progress);
 
     /// Reads SavedTicketTotal; 0 without a discount. Uses RecordsetA.
@@ -115,11 +101,12 @@ private:
 
     BoardLines linesOf(int at, bool filtered);
     void write(int at, const Shown &shown, ProgressBar &progress);
+    void estimate(int at); ///< takes the money of the top row as it is shown
     void fillRows(int at, const Shown &shown, ProgressBar &progress);
 
     qint32 BoardTotal = 0; ///< of the board being loaded
     QString m_customer;    ///< whose boards are kept below
-    LedgerMemo<std::array<ReadBoard, ClassCount>> m_customerBoards;
+    LedgerMemo<std::array<BoardLines, ClassCount>> m_customerBoards;
     LedgerMemo<HotNumbers> m_hotNumbers;
     std::array<Shown, ClassCount> m_shown;
 };

@@ -111,6 +111,6 @@ void CutNum::lvButtons_H1_Click()
                  + cell(CutColumn::Number) + u" ][ "_s + cell(CutColumn::Amount) + u" บาท ]"_s,
              u"ยืนยันการลบข้อมูล"_s, BoxIcon::Exclamation, BoxAnswer::Cancel))
         return;
-    CutOut::remove(m_cutOut.lineAt(row));
+    m_cutOut.remove(row);
     LoadNumrunup();
 }

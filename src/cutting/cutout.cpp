@@ -48,6 +48,12 @@ void sortEqualMoneyByKey(QList<QVariantList> &lines)
     }
 }
 
+void removeLine(qint32 NPK, const QString &nuser)
+{
+    LedgerConnection->run(u"DELETE FROM tblNumber WHERE [NPK] = ? AND [nUser] LIKE ?"_s,
+                          {NPK, trimBlanks(nuser)});
+}
+
 /// Takes the amount off a line that stays in the book.
 void takeOff(const CutLine &line, qint32 amount)
 {
@@ -121,7 +127,7 @@ CutLine CutOut::lineAt(int row) const
 void CutOut::cut(const CutLine &line, qint32 amount)
 {
     if (amount == line.amount)
-        remove(line);
+        removeLine(line.NPK, line.nuser);
     else
         takeOff(line, amount);
     SetupNewData8();
@@ -139,10 +145,9 @@ void CutOut::cut(const CutLine &line, qint32 amount)
     RecordsetA.close();
 }
 
-void CutOut::remove(const CutLine &line)
+void CutOut::remove(int row) const
 {
-    LedgerConnection->run(u"DELETE FROM tblNumber WHERE [NPK] = ? AND [nUser] LIKE ?"_s,
-                          {line.NPK, trimBlanks(line.nuser)});
+    removeLine(CLng(grid.text(row, CutColumn::Key)), grid.text(row, CutColumn::User));
 }
 
 void CutOut::SetupNewData8()

@@ -44,8 +44,8 @@ public:
     /// one and then into the other. What takes the whole line removes it. Uses both recordsets.
     void cut(const CutLine &line, qint32 amount);
 
-    /// Takes a line out of the book for good.
-    static void remove(const CutLine &line);
+    /// Takes the line in a row out of the book for good, also one without money.
+    void remove(int row) const;
 
 private:
     void SetupSpread();

@@ -19,6 +19,8 @@ Numcut::Numcut(std::function<void(Numcut &)> print, QWidget *parent)
     m_spreads = {m_ui->fpSpread1, m_ui->fpSpread2};
     for (size_t list = 0; list < m_spreads.size(); ++list)
         m_spreads[list]->setSpreadModel(&m_cutBoard.grids[list]);
+    for (Spread *spread : m_spreads)
+        spread->setColumnDigits(CutTypeColumn, 12); // less than its share
     m_ui->lvButtons_H3->setIcon(searchIcon());
     m_ui->lvButtons_H5->setEnabled(bool(m_print));
     new FieldGuard(this, &m_focus);

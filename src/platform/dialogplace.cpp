@@ -5,13 +5,29 @@
 #include <QScreen>
 #include <QWidget>
 
+namespace {
+
+/// Makes a window that is larger than the screen smaller, and puts the @p share th part of the
+/// free height above it.
+void place(QWidget &window, int share)
+{
+    constexpr QSize WindowFrame(8, 40); // there is none to ask before the window is shown
+    const QRect desktop = window.screen()->availableGeometry();
+    window.resize(window.size().boundedTo(desktop.size() - WindowFrame));
+    const QSize spare = desktop.size() - WindowFrame - window.size();
+    window.move(desktop.x() + spare.width() / 2, desktop.y() + spare.height() / share);
+}
+
+} // namespace
+
+void centerWindow(QWidget &window)
+{
+    place(window, 2);
+}
+
 void placeDialog(QWidget &dialog)
 {
-    constexpr QSize WindowFrame(8, 40);
-    const QRect desktop = dialog.screen()->availableGeometry();
-    dialog.resize(dialog.size().boundedTo(desktop.size() - WindowFrame));
-    const QSize spare = desktop.size() - WindowFrame - dialog.size();
-    dialog.move(desktop.x() + spare.width() / 2, desktop.y() + spare.height() / 3);
+    place(dialog, 3);
 }
 
 int runDialog(QDialog &dialog)

@@ -8,6 +8,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -28,8 +29,10 @@ bool becomeOnlyInstance()
     const QByteArray path = QFile::encodeName(QDir::temp().filePath(u"mirakla-desk.lock"_s));
     constexpr mode_t ReadableByAll = 0444;
     place = open(path.constData(), O_RDONLY | O_CLOEXEC);
-    if (place < 0)
+    if (place < 0) {
         place = open(path.constData(), O_RDONLY | O_CLOEXEC | O_CREAT, ReadableByAll);
+        fchmod(place, ReadableByAll); // whatever the user's mask takes off
+    }
     isOnlyInstance = place < 0 || flock(place, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
     if (!isOnlyInstance)
         close(place);

@@ -4,6 +4,7 @@
 #include "ui_mdiform1.h"
 
 #include "ledger/ledger.h"
+#include "platform/dialogplace.h"
 #include "platform/msgbox.h"
 #include "platform/programfolder.h"
 #include "platform/singleinstance.h"
@@ -14,7 +15,7 @@
 
 #include <QCloseEvent>
 #include <QDir>
-#include <QScreen>
+#include <QSessionManager>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -66,6 +67,7 @@ MDIForm1::MDIForm1(Pages pages) : m_ui(std::make_unique<Ui::MDIForm1>()), m_page
         std::make_unique<CustomerStrip>(*m_ui->Frame6, *m_ui->Tname, *m_ui->text2, *m_ui->text3);
     connectNavigation();
     m_strip->hide();
+    connect(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::endSession);
 }
 
 MDIForm1::~MDIForm1()
@@ -85,11 +87,7 @@ bool MDIForm1::MDIForm_Load()
     ConnectLedger();
     LoadMoney();
     loadSkin(programFile(u"data/Styles/mirakla.qss"_s));
-    const QRect desktop = screen()->availableGeometry();
-    constexpr QSize WindowFrame(8, 40);
-    resize(size().boundedTo(desktop.size() - WindowFrame));
-    move(desktop.x() + (desktop.width() - width()) / 2,
-         desktop.y() + (desktop.height() - height()) / 2);
+    centerWindow(*this);
     return true;
 }
 
@@ -124,6 +122,16 @@ void MDIForm1::openPage(int page)
 void MDIForm1::closeEvent(QCloseEvent *event)
 {
     event->setAccepted(MDIForm_QueryUnload());
+}
+
+/// The desktop is about to log off or to shut down. Asked now, while Cancel can still stop that.
+void MDIForm1::endSession(QSessionManager &session)
+{
+    if (!session.allowsInteraction())
+        return;
+    if (!MDIForm_QueryUnload())
+        session.cancel();
+    session.release();
 }
 
 bool MDIForm1::MDIForm_QueryUnload()

@@ -13,6 +13,7 @@
 #include <memory>
 
 class PushButton;
+class QSessionManager;
 
 namespace Ui {
 class MDIForm1;
@@ -60,6 +61,7 @@ protected:
 
 private:
     void connectNavigation();
+    void endSession(QSessionManager &session);
     bool MDIForm_QueryUnload();
     void UnloadAllForms();
 

@@ -23,7 +23,7 @@ private slots:
     void filterTakesTheWholeName();
     void buyersStandInThaiOrder();
     void sumBeyondALongAbandonsTheLoad();
-    void lineWithoutMoneyEmptiesItsBoardAlone();
+    void lineWithoutMoneyStopsItsBoardAlone();
 
 private:
     /// Files "number amount" lines of a class for a customer.
@@ -107,19 +107,20 @@ void BoardTest::sumBeyondALongAbandonsTheLoad()
     QCOMPARE(m_board->estimates[0], u"50,000"_s);
 }
 
-void BoardTest::lineWithoutMoneyEmptiesItsBoardAlone()
+void BoardTest::lineWithoutMoneyStopsItsBoardAlone()
 {
-    file(0, u"123 100"_s);
+    file(0, u"123 100, 124 200"_s);
     file(4, u"5 70"_s);
     m_board->FilterName = u"สมชาย"_s;
     for (const bool filtered : {false, true}) {
         m_ledger->run(u"UPDATE tblNumber SET numBuy = 100 WHERE numValue = '123'"_s);
         m_board->load(0, filtered, m_progress);
-        QCOMPARE(shown(0), u"123|100"_s);
+        QCOMPARE(shown(0), u"124|200, 123|100"_s);
         m_ledger->run(u"UPDATE tblNumber SET numBuy = NULL WHERE numValue = '123'"_s);
         QCOMPARE(errorOf([&] { m_board->load(0, filtered, m_progress); }),
                  u"Run-time error '94': Invalid use of Null"_s);
-        QCOMPARE(shown(0), QString());
+        QCOMPARE(shown(0), u"124|200, |"_s);
+        QCOMPARE(m_board->grids[0].text(-999, 2), u"0"_s);
         m_board->load(4, filtered, m_progress);
         QCOMPARE(shown(4), u"5|70"_s);
     }

@@ -200,7 +200,7 @@ void LawTest::cutSomething()
     const CutLine chosen = cutOut.lineAt(int(picked) + 1);
     const qint32 amount = upTo(2) == 0 ? chosen.amount : upTo(chosen.amount);
     if (upTo(20) == 0) {
-        CutOut::remove(chosen);
+        cutOut.remove(int(picked) + 1);
         m_book.remove(keys[picked]);
         return;
     }

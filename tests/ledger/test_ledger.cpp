@@ -45,6 +45,7 @@ private slots:
     void fileIsEncryptedAndTheStockToolReadsIt();
     void textNeverBecomesASecondStatement();
     void comboListsKeysInOrder();
+    void namesStandInOneOrderOnEveryDesktop();
     void lookupOfAName_data();
     void lookupOfAName();
     void lookupOfNobodyTouchesNoTable();
@@ -107,6 +108,17 @@ void LedgerTest::comboListsKeysInOrder()
     ledger.run(u"INSERT INTO tblMember (MPK) VALUES (3)"_s);
     QCOMPARE(FillCombo(u"tblMember"_s, u"MPK"_s, u"Mname"_s),
              QStringList({u"-"_s, u"ฮ"_s, u"ก"_s, QString()}));
+}
+
+/// As in a Thai dictionary; where a Thai and a Latin letter meet, the Thai one is first.
+void LedgerTest::namesStandInOneOrderOnEveryDesktop()
+{
+    const QStringList order{u"-"_s,      u"12"_s,     u"ก"_s,      u"เก"_s,  u"ข"_s,
+                            u"ลูกค้า ก"_s, u"ลูกค้า a"_s, u"ลูกค้า B"_s, u"lek"_s, u"Somchai"_s};
+    const TestLedger ledger;
+    for (qint16 key = qint16(order.size()); --key > 0;)
+        ledger.addMember(key, order[key], u"0"_s);
+    QCOMPARE(FillCombo(u"tblMember"_s, u"Mname COLLATE ThaiOrder"_s, u"Mname"_s), order);
 }
 
 void LedgerTest::lookupOfAName_data()
