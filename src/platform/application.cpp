@@ -24,9 +24,17 @@ void takeCarriedType()
         QFontDatabase::addApplicationFont(folder.filePath(file));
 }
 
+/// Chooses the style that the sheet is drawn for. Before the application stands, or it would first
+/// load the desktop's.
+int &withStyle(int &argc)
+{
+    QApplication::setStyle(u"Fusion"_s);
+    return argc;
+}
+
 } // namespace
 
-Application::Application(int &argc, char **argv) : QApplication(argc, argv)
+Application::Application(int &argc, char **argv) : QApplication(withStyle(argc), argv)
 {
     setApplicationName(u"mirakla-desk"_s);
     takeCarriedType();

@@ -10,7 +10,7 @@ class Application : public QApplication
     Q_OBJECT
 
 public:
-    /// Sets the program's name, its type, and real windows as the message boxes.
+    /// Sets the program's name, style and type, and real windows as the message boxes.
     Application(int &argc, char **argv);
 
     /// Catches run-time errors where events are handed out, nested dialogs included, since none

@@ -3,11 +3,7 @@
 
 #include <QApplication>
 #include <QFile>
-#include <QFont>
 #include <QPalette>
-#include <QStyleFactory>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -30,9 +26,6 @@ void loadSkin(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    qApp->setStyle(QStyleFactory::create(u"Fusion"_s)); // what the sheet is drawn for
-    // A new style brings back the desktop's types for grids, boxes and menus.
-    QApplication::setFont(QApplication::font());
     sharpenTexts();
     qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
 }
