@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFont>
 #include <QPalette>
 
 namespace {
@@ -28,4 +29,6 @@ void loadSkin(const QString &path)
         return;
     sharpenTexts();
     qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
+    // Taking up a sheet brings back the desktop's types for buttons, grids, boxes and menus.
+    QApplication::setFont(QApplication::font());
 }
