@@ -57,4 +57,9 @@ if [[ -z ${DESK_SHIPPED-} ]]; then
     export WINEPATH="$prefix/bin;$runtime;/usr/x86_64-w64-mingw32/lib"
     export WINEQT_PLUGIN_PATH=$prefix/plugins${QT_PLUGIN_PATH:+;$QT_PLUGIN_PATH}
 fi
+# For measurements: the clock of this machine, in seconds, when Wine itself begins.
+if [[ -n ${DESK_WINE_BEGIN-} ]]; then
+    read -r uptime _ </proc/uptime
+    echo "$uptime" >"$DESK_WINE_BEGIN"
+fi
 exec "${plainly[@]}" wine "$@"
