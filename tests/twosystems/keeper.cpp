@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: MIT
 // Keeps a book for a while and tells all that stands in it: the same program on both systems, so
 // that what one keyed can be held against what the other reads.
-// Usage: keeper FOLDER SEED [leave]. Files tickets that follow from SEED, none for 0; "leave" ends
-// as a killed process does, with the journal still beside the book.
+// Usage: keeper FOLDER SEED [leave]. Works on the book as follows from SEED, not at all for 0; "leave"
+// ends as a killed process does, with the journal still beside the book.
 #include "entry/save.h"
+#include "faults/daybook.h"
 #include "ledger/ledger.h"
+#include "platform/clock.h"
 #include "platform/msgbox.h"
 #include "platform/programfolder.h"
+#include "settings/hotnumbers.h"
+#include "settings/rates.h"
 #include "support/noprogress.h"
 
 #include <QCoreApplication>
@@ -19,10 +23,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void fileTickets(quint32 seed)
+void fileTickets(QRandomGenerator &random)
 {
     constexpr int Tickets = 12;
-    QRandomGenerator random(seed);
     NoProgress progress;
     for (int number = 0; number < Tickets; ++number) {
         Ticket ticket;
@@ -36,6 +39,22 @@ void fileTickets(quint32 seed)
         const std::array names{u"เก๋"_s, u"น้ำผึ้ง"_s, u"แก้ว"_s, u"ไก่ ป้าญู"_s, u"เล็ก"_s, u"-"_s};
         saveLines(ticket, names[size_t(random.bounded(int(names.size())))], progress);
         saveDiscount(QString::number(random.bounded(1, 999)));
+    }
+}
+
+/// A draw that is closed, then one that is not: in the end no table is empty.
+void workOn(quint32 seed)
+{
+    QRandomGenerator random(seed);
+    RateTexts rates;
+    for (QString &rate : rates)
+        rate = QString::number(random.bounded(1, 900));
+    writeRates(rates);
+    for (const auto last : {Step::Close, Step::Check}) {
+        fileTickets(random);
+        addHotNumber(QString::number(random.bounded(10, 1000)));
+        for (const auto kind : {Step::Cut, Step::Cut, Step::Check, last})
+            Step(kind, random, true).perform([] {});
     }
 }
 
@@ -64,13 +83,15 @@ int main(int argc, char **argv)
     setProgramFolder(arguments.value(1));
     ConnectLedger();
     CurrentUser = u"sv"_s;
+    setClock([] { return QDateTime({2026, 11, 22}, {9, 5}); });
     const quint32 seed = arguments.value(2).toUInt();
     if (seed != 0)
-        fileTickets(seed);
+        workOn(seed);
     tell(u"PRAGMA integrity_check"_s);
-    tell(u"SELECT * FROM tblNumber ORDER BY NPK"_s);
-    tell(u"SELECT * FROM tblRMoney ORDER BY PK"_s);
-    tell(u"SELECT * FROM tblMember ORDER BY Mname COLLATE ThaiOrder"_s);
+    const QString tables = u"SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name"_s;
+    for (const QVariantList &table : LedgerConnection->run(tables).rows)
+        tell(u"SELECT '%1', * FROM %1 ORDER BY 2"_s.arg(table[0].toString()));
+    tell(u"SELECT Mname FROM tblMember ORDER BY Mname COLLATE ThaiOrder"_s);
     std::fflush(stdout);
     if (arguments.value(3) == u"leave"_s)
         std::_Exit(0);
