@@ -18,6 +18,7 @@ build_windows()
     cmake -G Ninja -S . -B "$windows_build" -DCMAKE_BUILD_TYPE=Release \
         -DCMAKE_TOOLCHAIN_FILE="$PWD/packaging/windows/toolchain.cmake" \
         -DDESK_SYSROOT="$prefix" -DDESK_NATIVE_BUILD="$PWD/build/release" \
+        -DDESK_WINDOWS_ZIP="$PWD/$windows_zip" \
         -DCMAKE_CROSSCOMPILING_EMULATOR="$PWD/packaging/windows/wine.sh" \
         -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(gcc -print-multiarch)/cmake" ||
         die "the Windows build could not be configured"

@@ -3,13 +3,13 @@
 #
 # Builds for Windows what the program stands on, from Debian's source packages:
 # Qt, SQLCipher with OpenSSL's cipher inside, SDL2 and SDL2_mixer with its own
-# MP3 decoder. Prints the folder that holds them as its last line. The folder is
-# kept, and is named by this file and the toolchain, so that a change of either
-# makes a new one.
+# MP3 decoder. Prints the folder that holds them as its last line; places.sh
+# tells how it is named. It is kept.
 
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 source "$here/../prepare.sh"
+source "$here/places.sh"
 
 # One source package a line, and the version that is built. They are of one
 # release of Debian; Qt has to be of the version whose tools the machine has.
@@ -20,11 +20,6 @@ openssl       3.0.20-1~deb12u2
 libsdl2       2.26.5+dfsg-1
 libsdl2-mixer 2.6.2+dfsg-2
 '
-
-target=x86_64-w64-mingw32
-kept=${DESK_WINDOWS_PREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/mirakla-desk}
-name=windows-$(cat "$here/dependencies.sh" "$here/toolchain.cmake" | sha256sum | cut -c1-16)
-prefix=$kept/$name
 
 case "$#:${1-}" in
     0:) ;;
@@ -149,7 +144,7 @@ openssl()
 {
     mkdir -p "$work/openssl"
     cd "$work/openssl"
-    perl "$(source_of openssl)/Configure" mingw64 --cross-compile-prefix=$target- \
+    perl "$(source_of openssl)/Configure" mingw64 --cross-compile-prefix="$target-" \
         no-{shared,tests,engine,dso,module,legacy,comp,ssl,tls,dtls,cms,ts,ocsp,srp,ct,cmp} \
         no-{sock,async,ui-console,autoload-config,ec2m,camellia,aria,sm2,sm3,sm4,idea,seed} \
         no-{bf,cast,rc2,rc4,rc5,md4,mdc2,rmd160,whirlpool,blake2,siphash,gost,dsa,capieng}
@@ -187,7 +182,7 @@ sqlcipher()
     cat >"$prefix/lib/pkgconfig/sqlcipher.pc" <<PC
 Name: sqlcipher
 Description: encrypted database
-Version: 3.4.1
+Version: $(sed -nE 's/^sqlcipher +([0-9.]+).*/\1/p' <<<"$pins")
 Libs: -L$prefix/lib -lsqlcipher
 Cflags: -I$prefix/include/sqlcipher
 PC

@@ -8,21 +8,19 @@
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 source "$root/packaging/prepare.sh"
+source "$root/packaging/windows/places.sh"
 (($# == 2)) || die "usage: folder.sh BUILD FOLDER"
 build=$1 folder=$2
-prefix=$("$root/packaging/windows/dependencies.sh" --where)
-target=x86_64-w64-mingw32
-places=("$prefix/bin" "$(dirname "$($target-g++-posix -print-file-name=libstdc++-6.dll)")"
-    /usr/$target/lib)
+mapfile -t places < <(echo "$prefix/bin" && runtime_places)
 # Libraries that Windows has are those that Wine has made anew, and all of its own interface names.
-windows=/usr/lib/$(gcc -print-multiarch)/wine/x86_64-windows
+windows_has=/usr/lib/$(gcc -print-multiarch)/wine/x86_64-windows
 
 # Copies what a program or library asks for, and what that asks for in its turn.
 add_libraries_of()
 {
     local name place
-    for name in $($target-objdump -p "$1" | sed -nE 's/^[[:space:]]*DLL Name: (.*)/\1/p'); do
-        [[ ! -e $folder/$name && ! -e $windows/${name,,} && $name != api-ms-win-* ]] || continue
+    for name in $("$target-objdump" -p "$1" | sed -nE 's/^[[:space:]]*DLL Name: (.*)/\1/p'); do
+        [[ ! -e $folder/$name && ! -e $windows_has/${name,,} && $name != api-ms-win-* ]] || continue
         for place in "${places[@]}"; do
             [[ -e $place/$name ]] && break
         done
@@ -45,7 +43,7 @@ cp -r "$root/data/." "$folder/data/"
 for file in "$folder"/{*.exe,platforms/*,styles/*}; do
     add_libraries_of "$file"
 done
-$target-strip "$folder"/*.{exe,dll} "$folder"/{platforms,styles}/*.dll
+"$target-strip" "$folder"/*.{exe,dll} "$folder"/{platforms,styles}/*.dll
 
 cp "$root/LICENSE" "$folder/LICENSE.txt"
 cp "$prefix/licenses/"* "$folder/licenses/"

@@ -3,14 +3,15 @@
 # in which dependencies.sh has put the libraries; nothing of this machine's own is found.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(target x86_64-w64-mingw32)
 
 # The "posix" kind of the compiler: the other has no std::thread.
-set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
-set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
-set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+set(CMAKE_C_COMPILER ${target}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${target}-g++-posix)
+set(CMAKE_RC_COMPILER ${target}-windres)
 
 list(APPEND CMAKE_TRY_COMPILE_PLATFORM_VARIABLES DESK_SYSROOT)
-set(CMAKE_FIND_ROOT_PATH ${DESK_SYSROOT} /usr/x86_64-w64-mingw32)
+set(CMAKE_FIND_ROOT_PATH ${DESK_SYSROOT} /usr/${target})
 set(CMAKE_PREFIX_PATH ${DESK_SYSROOT})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)

@@ -7,7 +7,7 @@
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
-prefix=$("$root/packaging/windows/dependencies.sh" --where)
+source "$root/packaging/windows/places.sh"
 
 export WINEPREFIX=${WINEPREFIX:-$root/build/windows.wine}
 export WINEDEBUG=${WINEDEBUG:--all}
@@ -53,8 +53,8 @@ export WINEQT_QPA_FONTDIR=${WINEQT_QPA_FONTDIR-$(dirname "$1")/fonts}
 
 # A shipped folder has its libraries beside the program; for the build they are here.
 if [[ -z ${DESK_SHIPPED-} ]]; then
-    runtime=$(dirname "$(x86_64-w64-mingw32-g++-posix -print-file-name=libstdc++-6.dll)")
-    export WINEPATH="$prefix/bin;$runtime;/usr/x86_64-w64-mingw32/lib"
+    WINEPATH="$prefix/bin;$(runtime_places | paste -sd ';')"
+    export WINEPATH
     export WINEQT_PLUGIN_PATH=$prefix/plugins${QT_PLUGIN_PATH:+;$QT_PLUGIN_PATH}
 fi
 # For measurements: the clock of this machine, in seconds, when Wine itself begins.

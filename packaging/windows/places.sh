@@ -1,0 +1,21 @@
+# SPDX-License-Identifier: MIT
+# shellcheck shell=bash
+#
+# Names and places that the scripts of this folder share. Sourced.
+
+windows=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+
+# What the names of the compiler and its tools begin with; it stands in the toolchain alone.
+target=$(sed -nE 's/^set\(target (.*)\)$/\1/p' "$windows/toolchain.cmake")
+
+# The libraries that dependencies.sh builds, under a name made from that file and the toolchain,
+# so that a change of either makes a new set.
+prefix=${DESK_WINDOWS_PREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/mirakla-desk}
+prefix=$prefix/windows-$(cat "$windows/dependencies.sh" "$windows/toolchain.cmake" | sha256sum | cut -c1-16)
+
+# runtime_places: the folders of the compiler's own libraries, one a line.
+runtime_places()
+{
+    dirname "$("$target-g++-posix" -print-file-name=libstdc++-6.dll)"
+    echo "/usr/$target/lib"
+}
