@@ -30,6 +30,11 @@ case "$#:${1-}" in
     *) die "usage: dependencies.sh [--where]" ;;
 esac
 
+# Two runs at the same time would write the same files: the second waits for the first.
+mkdir -p "${prefix%/*}"
+exec 9>"$prefix.lock"
+flock --nonblock 9 || { echo "Waiting for the run that builds the libraries for Windows" >&2 && flock 9; }
+
 if [[ -e $prefix/complete ]]; then
     echo "$prefix"
     exit 0
