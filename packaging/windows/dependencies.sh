@@ -213,7 +213,7 @@ sdl_mixer()
 # What the makers ask to be passed on with their libraries.
 licenses()
 {
-    local package version text
+    local package version
     mkdir -p "$prefix/licenses"
     printf 'The libraries in this folder are built from these source packages of Debian:\n\n' \
         >"$prefix/licenses/PACKAGES.txt"
@@ -224,9 +224,6 @@ licenses()
     done <<<"$pins"
     printf '\n%s\n' "Changed in qt6-base: QWindowsWindow::forcedScreenForGLWindow() gives nullptr at once." \
         >>"$prefix/licenses/PACKAGES.txt"
-    for text in GPL-2 GPL-3 LGPL-2.1 LGPL-3 Apache-2.0; do
-        cp "/usr/share/common-licenses/$text" "$prefix/licenses/$text.txt"
-    done
     cp "/usr/share/doc/g++-mingw-w64-x86-64-posix/copyright" "$prefix/licenses/compiler-runtime.txt"
     cp "/usr/share/doc/mingw-w64-common/copyright" "$prefix/licenses/mingw-w64.txt"
 }

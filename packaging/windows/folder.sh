@@ -48,4 +48,9 @@ done
 cp "$root/LICENSE" "$folder/LICENSE.txt"
 cp "$prefix/licenses/"* "$folder/licenses/"
 cp /usr/share/doc/fonts-noto-core/copyright "$folder/licenses/fonts-noto-core.txt"
+# Texts that the makers' own refer to.
+grep -ohE '/usr/share/common-licenses/[A-Za-z0-9.-]*[A-Za-z0-9]' "$folder"/licenses/* | sort -u |
+    while read -r text; do
+        cp "$text" "$folder/licenses/${text##*/}.txt"
+    done
 cp -r "$root/packaging/guide/." "$folder/"
