@@ -25,14 +25,19 @@ build_windows()
     cmake --build "$windows_build" --parallel "$(nproc)" || die "the Windows build failed"
 }
 
-# pack_windows: lays out the folder that is shipped and packs it.
+# pack_windows: lays out the folder that is shipped and packs it. Only the archive stays: a folder
+# that lay here would be worked in, and the next one would take its book away.
 pack_windows()
 {
-    packaging/windows/folder.sh "$windows_build" "build/$windows_name" ||
+    local place=$windows_build/packing
+    rm -rf "$place"
+    mkdir "$place"
+    packaging/windows/folder.sh "$windows_build" "$place/$windows_name" ||
         die "the folder for Windows could not be made"
     rm -f "$windows_zip"
     # Names in Thai letters are written only where the language has them.
-    (cd build && LC_ALL=C.UTF-8 cmake -E tar cf "$windows_name.zip" --format=zip "$windows_name") ||
+    (cd "$place" && LC_ALL=C.UTF-8 cmake -E tar cf "$OLDPWD/$windows_zip" --format=zip "$windows_name") ||
         die "the folder could not be packed"
+    rm -rf "$place"
     echo "The program for Windows: $windows_zip, $(($(stat -c %s "$windows_zip") / 1000000)) MB"
 }

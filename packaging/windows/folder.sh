@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Lays out the folder that is shipped: folder.sh BUILD FOLDER. It holds the
-# program, its data with an empty Ledger, the type, and every library that they
-# ask for and that Windows does not have, with the makers' licenses.
+# Lays out the folder that is shipped: folder.sh BUILD FOLDER, which must not be
+# there yet, since a book may lie in one that is. It holds the program, its data
+# with an empty Ledger, the type, and every library that they ask for and that
+# Windows does not have, with the makers' licenses.
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -11,6 +12,7 @@ source "$root/packaging/prepare.sh"
 source "$root/packaging/windows/places.sh"
 (($# == 2)) || die "usage: folder.sh BUILD FOLDER"
 build=$1 folder=$2
+[[ ! -e $folder ]] || die "$folder is there already"
 mapfile -t places < <(echo "$prefix/bin" && runtime_places)
 # Libraries that Windows has are those that Wine has made anew, and all of its own interface names.
 windows_has=/usr/lib/$(gcc -print-multiarch)/wine/x86_64-windows
@@ -30,7 +32,6 @@ add_libraries_of()
     done
 }
 
-rm -rf "$folder"
 mkdir -p "$folder"/{data,platforms,styles,licenses}
 cp "$build/mirakla-desk.exe" "$folder/"
 cp "$prefix/plugins/platforms/qwindows.dll" "$folder/platforms/"
