@@ -270,7 +270,7 @@ void PaperTest::failedSaveLeavesNothing()
     const QString path = folder.filePath(u"a.xls"_s);
     QVERIFY(saveFile(path, "old"));
     QVERIFY(!saveFile(folder.filePath(u"none/a.xls"_s), "x"));
-#ifdef Q_OS_WIN // where not a folder but a file is read-only
+#ifdef Q_OS_WIN // where the attribute forbids writing to a file, but not into a folder
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner));
     QVERIFY(!saveFile(path, "x"));
     QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner));

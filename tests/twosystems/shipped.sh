@@ -4,11 +4,13 @@
 # What is shipped for Windows, as its user gets it: unpacked into a folder with
 # blanks and Thai letters in its name, in a Windows that has never seen it and
 # has no type of this machine. A visitor keys and saves a ticket, then the tour
-# plays its draws there and leaves pictures.
-# Usage: shipped.sh CMAKE ZIP WINE BUILD TEST_LIBRARY PICTURES
+# plays its draws there and leaves pictures. Where nothing can be written the
+# program says so and ends.
+# Usage: shipped.sh CMAKE ZIP VERSION WINE BUILD TEST_LIBRARY PICTURES
 
 set -euo pipefail
-cmake=$1 zip=$2 wine=$3 build=$4 test_library=$5 pictures=$6
+cmake=$1 zip=$2 version=$3 wine=$4 build=$5 test_library=$6 pictures=$7
+source "${BASH_SOURCE[0]%/*}/../../packaging/windows/places.sh"
 place=$(mktemp -d)
 export WINEPREFIX=$place/windows DESK_SHIPPED=yes
 trap 'wineserver -k || true; wineserver -w || true; rm -rf "$place"' EXIT
@@ -30,8 +32,23 @@ cd "$place/โพย งวดนี้"
 folder=$(echo "$PWD"/mirakla*)
 book=$folder/data/ztkdata.ZDB
 
-QT_PLUGIN_PATH="$build/tests/portable/plugins" QT_QPA_GENERIC_PLUGINS=visitor \
-    timeout 90 "$wine" "$folder/mirakla-desk.exe" >"$place/seen" 2>"$place/errors" ||
+for file in LICENSE.txt คู่มือ.html fonts/NotoSansThai-Regular.ttf \
+    licenses/{PACKAGES,qt6-base,sqlcipher,compiler-runtime,fonts-noto-core,LGPL-3,GPL-1,GFDL-1.2}.txt; do
+    [[ -s $folder/$file ]] || fail "$file is missing"
+done
+"$target-windres" -i "$folder/mirakla-desk.exe" -J coff -O rc >"$place/resources"
+for resource in "VALUE \"ProductVersion\", \"$version\"" 'Type: group icon' 'Type: 24'; do
+    grep -qF "$resource" "$place/resources" || fail "the program has no $resource"
+done
+
+# Starts the program, and leaves a visitor's words in $place/seen.
+visit()
+{
+    QT_PLUGIN_PATH="$build/tests/portable/plugins" QT_QPA_GENERIC_PLUGINS=visitor \
+        timeout 90 "$wine" "$folder/mirakla-desk.exe" >"$place/seen" 2>"$place/errors"
+}
+
+visit ||
     fail "the program ended with status $?: $(cat "$place/seen" "$place/errors")"
 rows=$(sqlcipher "$book" "PRAGMA key = '639417'; PRAGMA cipher_compatibility = 3;
     SELECT NameFK, num23, updown, numType, numValue, numBuy FROM tblNumber;" | tail -n 1)
@@ -39,6 +56,22 @@ rows=$(sqlcipher "$book" "PRAGMA key = '639417'; PRAGMA cipher_compatibility = 3
 [[ ! -e $book-wal ]] || fail "the book was not closed"
 grep -q '^type: Noto Sans, Noto Sans Thai' "$place/seen" || fail "$(grep ^type: "$place/seen")"
 pdffonts paper.pdf | grep -q 'Thai.*yes' || fail "Thai is not printed"
+
+cp "$book" "$place/before"
+# closed [-R] FILE: starts it where FILE cannot be written.
+closed()
+{
+    local status=0
+    chmod a-w "$@"
+    visit || status=$?
+    chmod u+w "$@"
+    [[ $status == 1 && $(sed -n 's/^box: //p' "$place/seen") == \
+        'เชื่อมต่อฐานข้อมูลไม่ได้ : attempt to write a readonly database'* ]] ||
+        fail "where nothing can be written: status $status, $(cat "$place/seen" "$place/errors")"
+    cmp "$book" "$place/before" || fail "the book was touched where nothing can be written"
+}
+closed "$folder/data" # the book's rights alone would allow it
+closed -R "$folder"
 
 cp "$build/tour.exe" "$test_library" "$folder/"
 rm -rf "$pictures"
