@@ -32,19 +32,18 @@ add_libraries_of()
     done
 }
 
-mkdir -p "$folder"/{data,platforms,styles,licenses}
+mkdir -p "$folder"/{data,platforms,licenses}
 cp "$build/mirakla-desk.exe" "$folder/"
 cp "$prefix/plugins/platforms/qwindows.dll" "$folder/platforms/"
-cp "$prefix/plugins/styles/qwindowsvistastyle.dll" "$folder/styles/"
 cp -r "$build/fonts" "$folder/"
 # Not the data of the build, in which somebody may have tried the program.
 cp -r "$root/data/." "$folder/data/"
 "$root/packaging/windows/wine.sh" "$build/make-empty-ledger.exe" "$folder/data/ztkdata.ZDB"
 
-for file in "$folder"/{*.exe,platforms/*,styles/*}; do
+for file in "$folder"/{*.exe,platforms/*}; do
     add_libraries_of "$file"
 done
-"$target-strip" "$folder"/*.{exe,dll} "$folder"/{platforms,styles}/*.dll
+"$target-strip" "$folder"/*.{exe,dll} "$folder"/platforms/*.dll
 
 cp "$root/LICENSE" "$folder/LICENSE.txt"
 cp "$prefix/licenses/"* "$folder/licenses/"
