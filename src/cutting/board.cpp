@@ -63,7 +63,8 @@ std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name)
                     {name});
     std::array<BoardLines, ClassCount> boards;
     for (; !RecordsetA.eof(); RecordsetA.moveNext()) {
-        const auto found = std::find_if(BetClasses.begin(), BetClasses.end(), isOfCurrentRow);
+        const auto *const found =
+            std::find_if(BetClasses.begin(), BetClasses.end(), isOfCurrentRow);
         if (found != BetClasses.end()) // a line that another tool has put in belongs to no board
             boards[size_t(found - BetClasses.begin())].push_back(lineAt(3));
     }

@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/tabstrip.h"
 
+#include "platform/spreadheader.h"
+
+#include <QFontMetrics>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 
 #include <utility>
@@ -23,6 +27,25 @@ void TabStrip::setTab(int tab)
         m_clickDue = true;
     else
         emit clicked();
+}
+
+void TabStrip::tabLayoutChange()
+{
+    if (m_fitting)
+        return;
+    const QScopedValueRollback fitting(m_fitting, true);
+    const QFontMetrics now(font());
+    QString captions;
+    int room = width();
+    for (int tab = 0; tab < count(); ++tab) {
+        captions += tabText(tab);
+        room -= tabSizeHint(tab).width() - now.horizontalAdvance(tabText(tab));
+    }
+    QFont full = font();
+    full.setStretch(QFont::AnyStretch);
+    const QFont type = SpreadHeader::narrowed(full, captions, room);
+    if (type.stretch() != font().stretch())
+        setFont(type);
 }
 
 TabStrip::OneClick::~OneClick()

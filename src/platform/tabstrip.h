@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Tab strip whose click fires with each setting of the tab, the tab that already shows included.
+// Its captions are narrowed where there is no room for them all.
 #pragma once
 
 #include <QTabBar>
@@ -32,7 +33,11 @@ public:
 signals:
     void clicked();
 
+protected:
+    void tabLayoutChange() override;
+
 private:
     int m_holds = 0;
     bool m_clickDue = false;
+    bool m_fitting = false; ///< the type is being narrowed, which lays the tabs out again
 };

@@ -67,7 +67,7 @@ private:
 
     std::unique_ptr<Ui::MDIForm1> m_ui;
     Pages m_pages;
-    std::array<PushButton *, PageCount> m_pageButtons;
+    std::array<PushButton *, PageCount> m_pageButtons{};
     std::unique_ptr<CustomerStrip> m_strip;
     QPointer<QWidget> m_page;
     bool m_ended = false;

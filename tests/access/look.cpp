@@ -149,7 +149,7 @@ QList<Words> wordsOn(QWidget *form)
             addGrid(all, grid);
         else if (auto *tabs = qobject_cast<QTabBar *>(each)) {
             for (int tab = 0; tab < tabs->count(); ++tab)
-                all += {tabs, tabs->tabText(tab), tabs->tabRect(tab), tabs->font()};
+                all += {tabs, tabs->tabText(tab), tabs->tabRect(tab) & tabs->rect(), tabs->font()};
         }
     }
     all.removeIf([](const Words &words) { return words.text.trimmed().isEmpty(); });

@@ -35,8 +35,9 @@ void fileTickets(QRandomGenerator &random)
             const QString all = QString::number(1000 + random.bounded(1000));
             ticket.AddLine(grid, all.right(digits), QString::number(random.bounded(1, 99'999)));
         }
-        // Thai names alone: whether Latin ones stand before or behind them, each system has its way.
-        const std::array names{u"เก๋"_s, u"น้ำผึ้ง"_s, u"แก้ว"_s, u"ไก่ ป้าญู"_s, u"เล็ก"_s, u"-"_s};
+        // Thai and Latin, which the two systems would list in two orders by themselves.
+        const std::array names{u"เก๋"_s,     u"น้ำผึ้ง"_s, u"ไก่ ป้าญู"_s, u"ลูกค้า ก"_s,
+                               u"ลูกค้า b"_s, u"Lek"_s,  u"เล็ก"_s,    u"-"_s};
         saveLines(ticket, names[size_t(random.bounded(int(names.size())))], progress);
         saveDiscount(QString::number(random.bounded(1, 999)));
     }
