@@ -31,8 +31,9 @@ void TabStrip::setTab(int tab)
 
 void TabStrip::tabLayoutChange()
 {
-    if (m_fitting)
-        return;
+    const bool isNarrowed = font().stretch() != QFont::AnyStretch;
+    if (m_fitting || (!isNarrowed && sizeHint().width() <= width()))
+        return; // Thai texts are dear to measure, and there is nothing to do but on small screens
     const QScopedValueRollback fitting(m_fitting, true);
     const QFontMetrics now(font());
     QString captions;
