@@ -71,7 +71,8 @@ Measured measureSaveGrowth(benchmark::State &state, int lines);
 /// as a multiple of that of a bare window and the opening of the Ledger.
 Measured measureStart(benchmark::State &state, const char *platform);
 
-/// The start of the Windows program under Wine as a multiple of the start here, both on X11.
+/// The start of the Windows program under Wine as a multiple of the start here, both on X11 and
+/// with the type that is shipped.
 Measured measureStartUnderWine(benchmark::State &state);
 
 /// True if the Windows program has been built.

@@ -3,6 +3,7 @@
 #include "figure.h"
 #include "workfolder.h"
 
+#include <QDir>
 #include <QFile>
 #include <QProcess>
 
@@ -53,22 +54,42 @@ Start startProbe(const char *platform, const QString &mode)
     return {painted - begin, kib * 1024 / 1e6};
 }
 
+/// A Windows of its own, without the type of this machine: Wine would list hundreds of families at
+/// each start, where Windows has few and knows them.
+QProcessEnvironment wineEnvironment()
+{
+    auto environment = probeEnvironment("windows");
+    environment.insert(u"WINEPREFIX"_s, QStringLiteral(WINDOWS_BUILD ".start"));
+    environment.insert(u"FONTCONFIG_FILE"_s, programFolder() + u"/types.conf"_s);
+    environment.insert(u"DESK_WINE_BEGIN"_s, programFolder() + u"/begin"_s);
+    return environment;
+}
+
 /// Milliseconds from the birth of Wine's process to the program's first painted window.
 double startUnderWine()
 {
-    const QString beginFile = programFolder() + u"/begin"_s;
     QProcess probe;
-    auto environment = probeEnvironment("windows");
-    environment.insert(u"DESK_WINE_BEGIN"_s, beginFile);
-    probe.setProcessEnvironment(environment);
-    probe.start(QStringLiteral(WINE),
-                {QStringLiteral(WINDOWS_PROBE), u"program"_s, u"Z:"_s + programFolder()});
+    probe.setProcessEnvironment(wineEnvironment());
+    probe.start(QStringLiteral(WINE), {QStringLiteral(WINDOWS_BUILD "/start_probe.exe"),
+                                       u"program"_s, u"Z:"_s + programFolder()});
     finish(probe);
     const double painted = probe.readLine().trimmed().toDouble();
-    QFile file(beginFile);
-    if (!file.open(QIODevice::ReadOnly))
+    QFile begin(programFolder() + u"/begin"_s);
+    if (!begin.open(QIODevice::ReadOnly))
         qFatal("wine.sh did not tell when it began");
-    return painted - file.readAll().trimmed().toDouble() * 1000;
+    return painted - begin.readAll().trimmed().toDouble() * 1000;
+}
+
+/// Lays out what the program is shipped with, and tells Wine of no type beside it.
+void shipType()
+{
+    const QDir type(QStringLiteral(WINDOWS_BUILD "/fonts"));
+    QDir(programFolder()).mkdir(u"fonts"_s);
+    for (const QString &file : type.entryList(QDir::Files))
+        QFile::copy(type.filePath(file), programFolder() + u"/fonts/"_s + file);
+    QFile none(programFolder() + u"/types.conf"_s);
+    if (!none.open(QIODevice::WriteOnly) || none.write("<fontconfig/>\n") < 0)
+        qFatal("the folder of the program cannot be written");
 }
 
 } // namespace
@@ -100,14 +121,17 @@ Measured measureMemory(benchmark::State &state, const char *platform)
 
 bool isStartUnderWineKnown()
 {
-    return QFile::exists(QStringLiteral(WINDOWS_PROBE));
+    return QFile::exists(QStringLiteral(WINDOWS_BUILD "/start_probe.exe"));
 }
 
 Measured measureStartUnderWine(benchmark::State &state)
 {
     const WorkFolder folder;
+    shipType();
+    startUnderWine(); // the first time makes the Windows
     // Windows has its desktop up before a program starts; Wine's stays while a program is there.
     QProcess desktop;
+    desktop.setProcessEnvironment(wineEnvironment());
     desktop.start(QStringLiteral(WINE), {u"notepad"_s});
     startUnderWine();
     Samples wine;
