@@ -35,13 +35,12 @@ void TabStrip::tabLayoutChange()
     if (m_fitting || (!isNarrowed && sizeHint().width() <= width()))
         return; // Thai texts are dear to measure, and there is nothing to do but on small screens
     const QScopedValueRollback fitting(m_fitting, true);
-    const QFontMetrics now(font());
     QString captions;
-    int room = width();
-    for (int tab = 0; tab < count(); ++tab) {
+    for (int tab = 0; tab < count(); ++tab)
         captions += tabText(tab);
-        room -= tabSizeHint(tab).width() - now.horizontalAdvance(tabText(tab));
-    }
+    if (m_padding < 0)
+        m_padding = tabSizeHint(0).width() - QFontMetrics(font()).horizontalAdvance(tabText(0));
+    const int room = width() - m_padding * count();
     QFont full = font();
     full.setStretch(QFont::AnyStretch);
     const QFont type = SpreadHeader::narrowed(full, captions, room);

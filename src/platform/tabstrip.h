@@ -39,5 +39,6 @@ protected:
 private:
     int m_holds = 0;
     bool m_clickDue = false;
+    int m_padding = -1;     ///< around each caption, once it is known
     bool m_fitting = false; ///< the type is being narrowed, which lays the tabs out again
 };
