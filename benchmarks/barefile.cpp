@@ -87,34 +87,28 @@ qint64 readAll(sqlite3_stmt *statement)
     return bytes;
 }
 
-qint64 runBare(sqlite3 *file, const BareStatements &statements)
-{
-    qint64 bytes = 0;
-    for (const BareStatement &asked : statements) {
-        sqlite3_stmt *statement = prepareBare(file, asked);
-        bytes += readAll(statement);
-        check(file, sqlite3_finalize(statement));
-    }
-    return bytes;
-}
-
 } // namespace
 
-std::vector<double> selectBare(const QByteArray &path, const BareStatements &before,
-                               const BareStatements &statements, int rounds)
+BareReader::BareReader(const QByteArray &path) : m_file(openBare(path)) {}
+
+BareReader::~BareReader()
 {
-    sqlite3 *file = openBare(path);
-    std::vector<double> seconds;
-    for (int round = 0; round < rounds; ++round) {
-        runBare(file, before);
-        QElapsedTimer clock;
-        clock.start();
-        const qint64 bytes = runBare(file, statements);
-        seconds.push_back(double(clock.nsecsElapsed()) / 1e9);
-        if (bytes == 0)
-            qFatal("the statements read nothing");
+    check(m_file, sqlite3_close(m_file));
+}
+
+double BareReader::read(const BareStatements &statements)
+{
+    qint64 bytes = 0;
+    QElapsedTimer clock;
+    clock.start();
+    for (const BareStatement &asked : statements) {
+        sqlite3_stmt *statement = prepareBare(m_file, asked);
+        bytes += readAll(statement);
+        check(m_file, sqlite3_finalize(statement));
     }
-    check(file, sqlite3_close(file));
+    const double seconds = double(clock.nsecsElapsed()) / 1e9;
+    if (bytes == 0)
+        qFatal("the statements read nothing");
     return seconds;
 }
 

@@ -10,6 +10,8 @@
 
 #include <vector>
 
+struct sqlite3;
+
 /// A bet line of 20 baht as it stands in the Ledger.
 struct BetLine
 {
@@ -29,11 +31,22 @@ struct BareStatement
 
 using BareStatements = std::vector<BareStatement>;
 
-/// Opens a closed Ledger with the settings that the program gives it, runs the statements
-/// @p rounds times, each from its preparing to its end, and reads every field of every row. Gives
-/// the seconds of each round. What runs @p before them in each round is not counted.
-std::vector<double> selectBare(const QByteArray &path, const BareStatements &before,
-                               const BareStatements &statements, int rounds);
+/// Reads a Ledger that is not open elsewhere, with the settings that the program gives it. It keeps
+/// the file open, and in memory what the engine keeps of it, until it dies.
+class BareReader
+{
+public:
+    explicit BareReader(const QByteArray &path);
+    ~BareReader();
+    Q_DISABLE_COPY_MOVE(BareReader)
+
+    /// Runs the statements, each from its preparing to its end, and reads every field of every row.
+    /// Gives the seconds that it took.
+    double read(const BareStatements &statements);
+
+private:
+    sqlite3 *m_file;
+};
 
 /// Opens a closed Ledger with the settings that the program gives it and inserts the lines into
 /// the empty tblNumber. Gives the seconds that the inserting took.

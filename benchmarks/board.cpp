@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 // What the board costs: a reload and the filter of one customer against the bare statements, a cut
 // with the reload that it brings about.
+#include "barefile.h"
 #include "drawlines.h"
 #include "figure.h"
 #include "workfolder.h"
@@ -15,6 +16,8 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QTimer>
+
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -50,7 +53,9 @@ public:
                          {key, QString::number(1000 + key * 137 % 1000).right(key % 2 + 2)});
         CloseLedger();
         insertBare(m_folder.path().toUtf8(), drawLines(lines), Durable::AllAtOnce);
-        QFile::copy(m_folder.path(), copy());
+        const QString copy = m_folder.path() + u".copy"_s;
+        QFile::copy(m_folder.path(), copy);
+        m_bare.emplace(copy.toUtf8());
         m_window = startProgram();
         if (!m_window || !QTest::qWaitForWindowActive(m_window.get()))
             qFatal("the program did not come up");
@@ -117,16 +122,18 @@ public:
         return loaded;
     }
 
-    /// Seconds of the bare statements on a copy of the file, round by round. Those of a filter follow
-    /// on the whole book, as on the page, so that neither finds its pages in memory.
-    Samples bare(bool filtered, int rounds) const
+    /// Seconds of the statements of a reload on a copy of the file.
+    double bareReload() { return m_bare->read(boards({})); }
+
+    /// Seconds of the statements of a filter, likewise. Behind them the whole book is read, as on the
+    /// page, so that neither finds its pages in memory.
+    double bareFilter()
     {
-        const QByteArray path = copy().toUtf8();
-        if (!filtered)
-            return selectBare(path, {}, boards({}), rounds);
         BareStatements statements = boards({Buyer});
         statements.push_back({customerStatement().toUtf8(), {u'%' + Buyer + u'%'}});
-        return selectBare(path, boards({}), statements, rounds);
+        const double taken = m_bare->read(statements);
+        m_bare->read(boards({}));
+        return taken;
     }
 
 private:
@@ -140,33 +147,27 @@ private:
                  QVariantList{each.num23, each.updown ? -1 : 0, each.numType} + customer});
         return statements;
     }
-    QString copy() const { return m_folder.path() + u".copy"_s; }
     Form3 &form() { return *m_window->findChild<Form3 *>(); }
 
     WorkFolder m_folder;
+    std::optional<BareReader> m_bare;
     std::unique_ptr<MDIForm1> m_window;
 };
 
-template<typename Work>
-Samples taken(benchmark::State &state, Work &&work)
+/// Seconds of @p ours as a multiple of those of @p bare, taken in turn.
+template<typename Ours, typename Bare>
+Measured measureInTurn(benchmark::State &state, Ours &&ours, Bare &&bare)
 {
-    Samples samples;
-    work(); // reads the pages into memory, as the first of the bare rounds does
+    ours(); // reads the pages into memory
+    bare();
+    Samples our;
+    Samples their;
     for ([[maybe_unused]] auto round : state) {
-        samples.push_back(work() * 1e6);
-        state.SetIterationTime(samples.back() / 1e6);
+        our.push_back(ours() * 1e6);
+        state.SetIterationTime(our.back() / 1e6);
+        their.push_back(bare() * 1e6);
     }
-    return samples;
-}
-
-Samples bareMicroseconds(const BoardDesk &desk, bool filtered)
-{
-    constexpr int Rounds = 21;
-    Samples samples = desk.bare(filtered, Rounds + 1);
-    samples.erase(samples.begin());
-    for (double &sample : samples)
-        sample *= 1e6;
-    return samples;
+    return ratio(our, their, "us");
 }
 
 } // namespace
@@ -174,15 +175,15 @@ Samples bareMicroseconds(const BoardDesk &desk, bool filtered)
 Measured measureReload(benchmark::State &state, int lines)
 {
     BoardDesk desk(lines);
-    const Samples ours = taken(state, [&] { return desk.reload(); });
-    return ratio(ours, bareMicroseconds(desk, false), "us");
+    return measureInTurn(
+        state, [&] { return desk.reload(); }, [&] { return desk.bareReload(); });
 }
 
 Measured measureFilter(benchmark::State &state, int lines)
 {
     BoardDesk desk(lines);
-    const Samples ours = taken(state, [&] { return desk.filter(); });
-    return ratio(ours, bareMicroseconds(desk, true), "us");
+    return measureInTurn(
+        state, [&] { return desk.filter(); }, [&] { return desk.bareFilter(); });
 }
 
 Measured measureCut(benchmark::State &state, int board, int lines)
@@ -190,11 +191,15 @@ Measured measureCut(benchmark::State &state, int board, int lines)
     BoardDesk desk(lines);
     const BoxShower before = setBoxShower([](const Box &) { return BoxAnswer::Ok; });
     int row = 0;
+    Samples loaded;
     Samples painted;
-    const Samples ours =
-        taken(state, [&] { return desk.cut(board, ++row % 10 + 1, painted.emplace_back()); });
+    desk.cut(board, 10, painted.emplace_back()); // reads the pages into memory
+    for ([[maybe_unused]] auto round : state) {
+        loaded.push_back(desk.cut(board, ++row % 10 + 1, painted.emplace_back()) * 1000);
+        state.SetIterationTime(loaded.back() / 1000);
+    }
     setBoxShower(before);
-    return {quantile(ours, 0.5) / 1000,
+    return {quantile(loaded, 0.5),
             QString::asprintf("slowest %.0f, with dialog gone and page painted %.0f",
-                              quantile(ours, 1) / 1000, quantile(painted, 0.5) * 1000)};
+                              quantile(loaded, 1), quantile(painted, 0.5) * 1000)};
 }
