@@ -144,5 +144,5 @@ void Form4::lvButtons_H5_Click()
         refuse(u"ไม่สามารถส่งออกได้ ( ไม่มีข้อมูลในตาราง ) โปรดลองใหม่อีกครั้ง . .  ."_s);
         return;
     }
-    m_printer(m_check, this);
+    m_printer(m_check, window());
 }

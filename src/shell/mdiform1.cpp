@@ -6,6 +6,7 @@
 #include "ledger/ledger.h"
 #include "platform/dialogplace.h"
 #include "platform/msgbox.h"
+#include "platform/programend.h"
 #include "platform/programfolder.h"
 #include "platform/singleinstance.h"
 #include "runtime/runtimeerror.h"
@@ -46,7 +47,7 @@ void showButton(QPushButton &button, bool enabled, bool current)
     button.style()->polish(&button);
 }
 
-/// Files that a crashed print or export may have left in the program's folder.
+/// What was laid aside in the program's folder for the time that it runs.
 void deleteTemporaryFiles()
 {
     QDir folder(programFolder());
@@ -130,21 +131,25 @@ void MDIForm1::endSession(QSessionManager &session)
     if (!session.allowsInteraction())
         return;
     if (!MDIForm_QueryUnload())
-        session.cancel();
-    session.release();
+        session.cancel(); // not released then: that would take the keys from the program
 }
 
 bool MDIForm1::MDIForm_QueryUnload()
 {
     if (m_ended)
         return true;
+    // Only the desktop's log-off gets here while a box or a dialog is open.
+    const bool inTheMidst = QApplication::activeModalWidget() != nullptr;
     if (!ask(u"คุณแน่ใจว่าต้องการจบการทำงานของโปรแกรม ?"_s, u"ยืนยันการจบรายการ"_s, BoxIcon::Question,
              BoxAnswer::Cancel))
         return false;
     m_ended = true;
-    resumeNext([this] { UnloadAllForms(); });
+    if (!inTheMidst)
+        resumeNext([this] { UnloadAllForms(); });
     resumeNext(deleteTemporaryFiles);
     resumeNext(CloseLedger);
+    if (inTheMidst)
+        endProgram(0); // what waits for the box has to go on neither with its page nor with a book
     QApplication::quit();
     return true;
 }
@@ -154,7 +159,7 @@ void MDIForm1::UnloadAllForms()
     const QWidgetList windows = QApplication::topLevelWidgets();
     for (QWidget *window : windows) {
         if (window != this && window->isVisible())
-            window->close(); // a dialog may still speak to its page
+            window->close();
     }
     delete m_page;
 }

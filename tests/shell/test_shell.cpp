@@ -7,6 +7,7 @@
 #include "platform/programfolder.h"
 #include "platform/pushbutton.h"
 #include "platform/region.h"
+#include "platform/singleinstance.h"
 #include "program.h"
 #include "shell/globals.h"
 #include "support/hands.h"
@@ -14,9 +15,16 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
+
+#include <cstdlib>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -30,12 +38,17 @@ private slots:
     void pagesStartAfresh();
     void cancelKeepsEverything();
     void endLeavesOneFile();
+    void logOffEndsTheWorkBehindABox();
 
 private:
     template<typename Control>
     Control *control(const char *name) const
     {
         return m_window->findChild<Control *>(QLatin1String(name));
+    }
+    QStringList bookFiles() const
+    {
+        return QDir(m_folder.filePath(u"data"_s)).entryList(QDir::Files);
     }
     void makeFile(const QString &name) const
     {
@@ -105,16 +118,78 @@ void ShellTest::endLeavesOneFile()
     QVERIFY(!LedgerConnection);
     QVERIFY(!m_window->page());
     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList(u"keep.txt"_s));
-    QCOMPARE(QDir(m_folder.filePath(u"data"_s)).entryList(QDir::Files),
-             QStringList(u"ztkdata.ZDB"_s));
+    QCOMPARE(bookFiles(), QStringList(u"ztkdata.ZDB"_s));
     m_hands.takeBoxes();
+    m_window.reset();
+    leaveOnlyInstance();
 }
+
+/// The desktop ends the program while a box says that a customer is added: the list behind it is
+/// not read again from a book that is closed.
+void ShellTest::logOffEndsTheWorkBehindABox()
+{
+    QProcess program;
+    program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+#ifdef Q_OS_WIN // its log-off reaches programs of its own desktop only
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"QT_QPA_PLATFORM"_s, u"windows"_s);
+    program.setProcessEnvironment(environment);
+#endif
+    program.start(QCoreApplication::applicationFilePath(), {u"log-off"_s, m_folder.path()});
+    QVERIFY(program.waitForFinished(60'000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    QCOMPARE(bookFiles(), QStringList(u"ztkdata.ZDB"_s));
+}
+
+namespace {
+
+/// Has the desktop ask whether it may log off, where a program can do that; else the window is
+/// asked to close. True if it may.
+bool logOff(MDIForm1 &window)
+{
+#ifdef Q_OS_WIN
+    return SendMessageW(HWND(window.winId()), WM_QUERYENDSESSION, 0, LPARAM(ENDSESSION_LOGOFF));
+#else
+    return window.close();
+#endif
+}
+
+/// The process of logOffEndsTheWorkBehindABox(). It does not come back if all is well.
+int logOffInABox(const QString &folder)
+{
+    setProgramFolder(folder);
+    const auto window = startProgram();
+    if (!window || !QTest::qWaitForWindowActive(window.get()))
+        return 2;
+    window->openPage(1);
+    for (const char *field : {"Tname", "Tber"})
+        window->page()->findChild<QLineEdit *>(QLatin1String(field))->setText(u"1"_s);
+    Hands hands;
+    int boxes = 0;
+    QObject::connect(&hands, &Hands::boxShown, window.get(), [&] {
+        ++boxes; // the question before he is added, what tells that he is, two questions of the end
+        if (boxes == 2) {
+            if (logOff(*window) || boxes != 3)
+                std::_Exit(3);
+            logOff(*window);
+        } else if (boxes != 3) {
+            hands.answerNextWithOk();
+        }
+    });
+    Hands::click(window->page()->findChild<QPushButton *>(u"lvButtons_H0"_s));
+    return 1;
+}
+
+} // namespace
 
 int main(int argc, char **argv)
 {
     static const QTemporaryDir ownPlace; // a running program is no second copy of this one
     qputenv("TMPDIR", ownPlace.path().toUtf8());
     const Application application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "log-off") == 0)
+        return logOffInABox(QString::fromLocal8Bit(argv[2]));
     ShellTest test;
     return QTest::qExec(&test, argc, argv);
 }
