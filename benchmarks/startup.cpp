@@ -59,7 +59,7 @@ Start startProbe(const char *platform, const QString &mode)
 QProcessEnvironment wineEnvironment()
 {
     auto environment = probeEnvironment("windows");
-    environment.insert(u"WINEPREFIX"_s, QStringLiteral(WINDOWS_BUILD ".start"));
+    environment.insert(u"DESK_WINEPREFIX"_s, QStringLiteral(WINDOWS_BUILD ".start"));
     environment.insert(u"FONTCONFIG_FILE"_s, programFolder() + u"/types.conf"_s);
     environment.insert(u"DESK_WINE_BEGIN"_s, programFolder() + u"/begin"_s);
     return environment;

@@ -48,8 +48,18 @@ done
 cp "$root/LICENSE" "$folder/LICENSE.txt"
 cp "$prefix/licenses/"* "$folder/licenses/"
 cp /usr/share/doc/fonts-noto-core/copyright "$folder/licenses/fonts-noto-core.txt"
+# How the libraries are made, changed ones among them, is passed on with them.
+mkdir -p "$folder/licenses/libraries/windows"
+cp "$root/packaging/prepare.sh" "$folder/licenses/libraries/"
+cp "$windows"/{dependencies.sh,places.sh,toolchain.cmake} "$folder/licenses/libraries/windows/"
+{
+    printf '\nMade from those sources by libraries/windows/dependencies.sh.\n'
+    printf '\nThe run time of the compiler and the type come from these packages of Debian:\n\n'
+    dpkg-query -W -f='${Package} ${Version}\n' gcc-mingw-w64-x86-64-posix-runtime \
+        mingw-w64-x86-64-dev fonts-noto-core
+} >>"$folder/licenses/PACKAGES.txt"
 # Texts that the makers' own refer to.
-grep -ohE '/usr/share/common-licenses/[A-Za-z0-9.-]*[A-Za-z0-9]' "$folder"/licenses/* | sort -u |
+grep -ohE '/usr/share/common-licenses/[A-Za-z0-9.-]*[A-Za-z0-9]' "$folder"/licenses/*.txt | sort -u |
     while read -r text; do
         cp "$text" "$folder/licenses/${text##*/}.txt"
     done

@@ -3,13 +3,13 @@
 #
 # Runs a Windows program of the build under Wine as if it were one of this
 # machine: wine.sh PROGRAM [ARGUMENT...]. CTest starts every test through it.
-# The Windows that it makes for that lies in WINEPREFIX, or in build/windows.wine.
+# The Windows that it makes for that lies in DESK_WINEPREFIX, or in build/windows.wine.
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 source "$root/packaging/windows/places.sh"
 
-export WINEPREFIX=${WINEPREFIX:-$root/build/windows.wine}
+export WINEPREFIX=${DESK_WINEPREFIX:-$root/build/windows.wine}
 export WINEDEBUG=${WINEDEBUG:--all}
 # Neither a browser nor .NET is asked for on first use, and a program that fails ends.
 export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe="

@@ -34,13 +34,13 @@ QString dateText(QDate day, const QLocale &region, QLocale::FormatType type)
 {
     if (!day.isValid())
         return QString();
-    QString format = region.dateFormat(type);
+    // The year goes in behind the toolkit, which knows neither the era nor, in some regions' short
+    // formats, more than two digits of it. Quotes hold words of the format, with any letters.
+    constexpr QChar yearMark(0xE000);
+    static const QRegularExpression yearPart(u"y+(?=[^']*('[^']*'[^']*)*$)"_s);
+    const QString text = region.toString(day, region.dateFormat(type).replace(yearPart, yearMark));
     const int year = countsBuddhistEra(region) ? day.year() + 543 : day.year();
-    // The year goes in as quoted text: the toolkit knows neither the era nor, in some regions'
-    // short formats, more than two digits of it.
-    static const QRegularExpression yearPart(u"y+"_s);
-    format.replace(yearPart, u'\'' + QString::number(year) + u'\'');
-    return region.toString(day, format);
+    return QString(text).replace(yearMark, QString::number(year));
 }
 
 } // namespace

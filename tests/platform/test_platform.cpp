@@ -41,6 +41,27 @@ struct KeyWindow : QWindow
     int code = -1;
 };
 
+/// A setting of the user's region; it comes back as it was.
+class RegionSetting
+{
+public:
+    explicit RegionSetting(LCTYPE type) : m_type(type)
+    {
+        GetLocaleInfoW(LOCALE_USER_DEFAULT, m_type, m_before.data(), int(m_before.size()));
+    }
+    ~RegionSetting() { SetLocaleInfoW(LOCALE_USER_DEFAULT, m_type, m_before.data()); }
+    Q_DISABLE_COPY_MOVE(RegionSetting)
+
+    bool set(const std::wstring &value) const
+    {
+        return SetLocaleInfoW(LOCALE_USER_DEFAULT, m_type, value.c_str());
+    }
+
+private:
+    LCTYPE m_type;
+    std::array<wchar_t, 100> m_before{};
+};
+
 } // namespace
 #endif
 
@@ -107,23 +128,23 @@ void PlatformTest::regionIsThatOfDates()
 {
 #ifdef Q_OS_WIN
     const QDate day(2026, 11, 2);
-    const SYSTEMTIME desktopDay{2026, 11, 0, 2, 0, 0, 0, 0};
-    for (const auto &[ours, flag] :
-         {std::pair(shortDate(day), DATE_SHORTDATE), std::pair(longDate(day), DATE_LONGDATE)}) {
-        std::array<wchar_t, 100> desktop{};
-        QVERIFY(GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, flag, &desktopDay, nullptr,
-                                desktop.data(), int(desktop.size()), nullptr));
-        QCOMPARE(ours, QString::fromWCharArray(desktop.data()));
-    }
+    const auto desktopDate = [](DWORD flag) {
+        const SYSTEMTIME desktopDay{2026, 11, 0, 2, 0, 0, 0, 0};
+        std::array<wchar_t, 100> text{};
+        GetDateFormatEx(LOCALE_NAME_USER_DEFAULT, flag, &desktopDay, nullptr, text.data(),
+                        int(text.size()), nullptr);
+        return QString::fromWCharArray(text.data());
+    };
+    QCOMPARE(shortDate(day), desktopDate(DATE_SHORTDATE));
+    QCOMPARE(longDate(day), desktopDate(DATE_LONGDATE));
+    const RegionSetting words(LOCALE_SLONGDATE);
+    QVERIFY(words.set(L"yyyy'\u5e74'M'\u6708'd'\u65e5'"));
+    QCOMPARE(longDate(day), u"2026\u5e7411\u67082\u65e5"_s);
     // The calendar that the user has chosen decides the era, for the desktop's region alone.
-    const auto user = LOCALE_USER_DEFAULT;
-    std::array<wchar_t, 10> chosen{};
-    QVERIFY(GetLocaleInfoW(user, LOCALE_ICALENDARTYPE, chosen.data(), int(chosen.size())));
-    const auto restore =
-        qScopeGuard([&] { SetLocaleInfoW(user, LOCALE_ICALENDARTYPE, chosen.data()); });
-    for (const auto &[calendar, year] :
+    const RegionSetting calendar(LOCALE_ICALENDARTYPE);
+    for (const auto &[chosen, year] :
          {std::pair(CAL_THAI, u"2569"_s), {CAL_GREGORIAN, u"2026"_s}}) {
-        QVERIFY(SetLocaleInfoW(user, LOCALE_ICALENDARTYPE, std::to_wstring(calendar).c_str()));
+        QVERIFY(calendar.set(std::to_wstring(chosen)));
         QVERIFY2(shortDate(day).contains(year), qUtf8Printable(shortDate(day)));
         QCOMPARE(shortDate(day, QLocale(u"th_TH"_s)), u"2/11/2569"_s);
     }

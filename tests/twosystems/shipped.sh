@@ -12,7 +12,7 @@ set -euo pipefail
 cmake=$1 zip=$2 version=$3 wine=$4 build=$5 test_library=$6 pictures=$7
 source "${BASH_SOURCE[0]%/*}/../../packaging/windows/places.sh"
 place=$(mktemp -d)
-export WINEPREFIX=$place/windows DESK_SHIPPED=yes
+export DESK_WINEPREFIX=$place/windows WINEPREFIX=$place/windows DESK_SHIPPED=yes
 trap 'wineserver -k || true; wineserver -w || true; rm -rf "$place"' EXIT
 
 fail()
@@ -24,6 +24,8 @@ fail()
 printf '<fontconfig><cachedir>%s</cachedir></fontconfig>\n' "$place/cache" >"$place/fonts.conf"
 export FONTCONFIG_FILE=$place/fonts.conf
 
+[[ ! $zip -ot $build/mirakla-desk.exe ]] ||
+    fail "the zip is older than the program; ./test windows packs it anew"
 megabytes=$(($(stat -c %s "$zip") / 1000000))
 ((megabytes <= 40)) || fail "the zip has $megabytes MB"
 mkdir "$place/โพย งวดนี้"
@@ -33,7 +35,9 @@ folder=$(echo "$PWD"/mirakla*)
 book=$folder/data/ztkdata.ZDB
 
 for file in LICENSE.txt คู่มือ.html fonts/NotoSansThai-Regular.ttf \
-    licenses/{PACKAGES,qt6-base,sqlcipher,compiler-runtime,fonts-noto-core,LGPL-3,GPL-1,GFDL-1.2}.txt; do
+    licenses/{qt6-base,sqlcipher,openssl,libsdl2,libsdl2-mixer,compiler-runtime,mingw-w64}.txt \
+    licenses/{fonts-noto-core,Apache-2.0,LGPL-3,GPL-1,GPL-3,GFDL-1.2,PACKAGES}.txt \
+    licenses/libraries/{prepare.sh,windows/{dependencies.sh,places.sh,toolchain.cmake}}; do
     [[ -s $folder/$file ]] || fail "$file is missing"
 done
 "$target-windres" -i "$folder/mirakla-desk.exe" -J coff -O rc >"$place/resources"
