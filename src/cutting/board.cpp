@@ -12,10 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Payout per baht of each class.
-constexpr std::array<const qint16 *, ClassCount> Rates{
-    &Rate3up, &Rate3tod, &Rate2up, &Rate2tod, &Raterunup, &Rate3down, &Rate2down, &Raterundown};
-
 /// The number of RecordsetA's current row in column @p at, and its money behind it.
 NumberMoney lineAt(qsizetype at)
 {
@@ -24,12 +20,14 @@ NumberMoney lineAt(qsizetype at)
             money.isNull() ? std::nullopt : std::optional(numberOf(money))};
 }
 
-/// True if RecordsetA's current row begins with the marks of a class.
-bool isOfCurrentRow(const BetClass &betClass)
+/// Place of the class whose marks RecordsetA's current row begins with, or -1 for a line that another
+/// tool has put in.
+int classOfCurrentRow()
 {
-    return RecordsetA.field(0).toInt() == betClass.num23
-           && RecordsetA.field(1).toInt() == (betClass.updown ? -1 : 0)
-           && RecordsetA.field(2).toInt() == betClass.numType;
+    const int side = RecordsetA.field(1).toInt();
+    return side == -1 || side == 0
+               ? classOf(RecordsetA.field(0).toInt(), side == -1, RecordsetA.field(2).toInt())
+               : -1;
 }
 
 void sortLines(BoardLines &lines)
@@ -63,10 +61,8 @@ std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name)
                     {name});
     std::array<BoardLines, ClassCount> boards;
     for (; !RecordsetA.eof(); RecordsetA.moveNext()) {
-        const auto *const found =
-            std::find_if(BetClasses.begin(), BetClasses.end(), isOfCurrentRow);
-        if (found != BetClasses.end()) // a line that another tool has put in belongs to no board
-            boards[size_t(found - BetClasses.begin())].push_back(lineAt(3));
+        if (const int at = classOfCurrentRow(); at >= 0)
+            boards[size_t(at)].push_back(lineAt(3));
     }
     RecordsetA.close();
     std::for_each(boards.begin(), boards.end(), sortLines);
@@ -206,7 +202,7 @@ void Board::fillRows(int at, const Shown &shown, ProgressBar &progress)
 
 void Board::estimate(int at)
 {
-    estimates[at] = formatBaht(CDbl(grids[at].text(1, AmountColumn)) * *Rates[at]);
+    estimates[at] = formatBaht(CDbl(grids[at].text(1, AmountColumn)) * classRate(at));
 }
 
 void Board::takeTotal(int at)

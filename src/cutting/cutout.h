@@ -34,7 +34,7 @@ public:
     SpreadModel grid; ///< its rows are told when they are looked at
 
     /// Lists the lines, the biggest first, with their sum in the header. Raises "Overflow" when
-    /// that leaves 32 bits. Uses RecordsetA.
+    /// that leaves 32 bits, "Invalid use of Null" for a line without money. Uses RecordsetA.
     void LoadNumrunup();
 
     /// The line in a row. Raises "Type mismatch" for one without money.

@@ -9,7 +9,7 @@ extern quint8 SelNumType;
 extern bool SelUpDown; ///< also says on which tab the board ends its load
 extern QString SelNumValue;
 
-/// True while the board shows one customer. A cut brings the whole book back to the screen and
+/// True once the board was filtered to one customer, until F5 there. A cut brings the whole book back to the screen and
 /// leaves this as it is: F5 still works then.
 extern bool MemberFilterOn;
 

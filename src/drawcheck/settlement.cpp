@@ -88,10 +88,10 @@ void DrawCheck::showTakings()
 void DrawCheck::listWinners(ProgressBar &progress)
 {
     // Hot numbers are read once: they cannot change while the check runs.
-    const Halvings halvings = book == Book::Ours ? Halvings::read() : Halvings();
+    const HotNumbers hot = book == Book::Ours ? HotNumbers(readHotNumbers()) : HotNumbers();
     for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
         writeWinner(winners, row);
-        halvePayout(winners, row, halvings);
+        halvePayout(winners, row, hot);
         progress.step();
     }
     RecordsetA.close();

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "drawcheck/winners.h"
 
-#include "entry/hotnumbers.h"
 #include "ledger/ledger.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
@@ -11,10 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Payout per baht by class, in the order of BetClasses.
-constexpr std::array<const qint16 *, ClassCount> ClassRates{
-    &Rate3up, &Rate3tod, &Rate2up, &Rate2tod, &Raterunup, &Rate3down, &Rate2down, &Raterundown};
 
 constexpr std::array WinnerColumns{
     GridColumn{WinKindColumn, u"ประเภท"},
@@ -50,14 +45,7 @@ int whole(const QString &column)
 /// for no others.
 double rateOfCurrent()
 {
-    const bool top = isTop();
-    const int kind = whole(u"numType"_s);
-    const int length = whole(u"num23"_s);
-    const auto *found =
-        std::find_if(BetClasses.begin(), BetClasses.end(), [&](const BetClass &betClass) {
-            return betClass.updown == top && betClass.numType == kind && betClass.num23 == length;
-        });
-    return *ClassRates[size_t(found - BetClasses.begin())];
+    return classRate(classOf(whole(u"num23"_s), isTop(), whole(u"numType"_s)));
 }
 
 } // namespace
@@ -104,9 +92,9 @@ void writeWinner(SpreadModel &grid, int row)
     grid.setText(row, WinTelephoneColumn, u'0' + RecordsetA.field(u"Mber"_s).toString());
 }
 
-void halvePayout(SpreadModel &grid, int row, const Halvings &halvings)
+void halvePayout(SpreadModel &grid, int row, const HotNumbers &hot)
 {
-    int left = halvings.count(whole(u"numType"_s), RecordsetA.field(u"numValue"_s).toString());
+    int left = hot.count(whole(u"numType"_s), RecordsetA.field(u"numValue"_s).toString());
     for (; left > 0; --left) {
         grid.setText(row, WinPayoutColumn, formatBaht(CLng(grid.text(row, WinPayoutColumn)) / 2.0));
         grid.setColor(row, WinPayoutColumn, QColor(HotColor));

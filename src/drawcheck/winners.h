@@ -3,8 +3,8 @@
 // grid with the money that it is paid.
 #pragma once
 
-#include "drawcheck/halving.h"
 #include "drawcheck/result.h"
+#include "entry/hotnumbers.h"
 #include "platform/spreadmodel.h"
 
 #include <QVariant>
@@ -45,4 +45,4 @@ void writeWinner(SpreadModel &grid, int row);
 /// Halves the payout of @p row as often as hot numbers reach the current row of RecordsetA, each
 /// time from the text that the time before left. Raises "Type mismatch" for an empty payout and
 /// "Overflow" for one beyond 32 bits.
-void halvePayout(SpreadModel &grid, int row, const Halvings &halvings);
+void halvePayout(SpreadModel &grid, int row, const HotNumbers &hot);

@@ -3,17 +3,25 @@
 
 #include "ledger/ledger.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Two tod bets with the same digits in any order have the same text here.
-QString sortedDigits(QString number)
+/// The orders of the first three digits, each once, and the number itself. Of a number of two
+/// digits the third drops out of each order, and two are left.
+QStringList todOrders(const QString &number)
 {
-    std::sort(number.begin(), number.end());
-    return number;
+    const QString one = number.mid(0, 1);
+    const QString two = number.mid(1, 1);
+    const QString three = number.mid(2, 1);
+    QStringList orders{number,
+                       two + three + one,
+                       two + one + three,
+                       one + three + two,
+                       three + one + two,
+                       three + two + one};
+    orders.removeDuplicates();
+    return orders;
 }
 
 } // namespace
@@ -30,23 +38,23 @@ QStringList readHotNumbers()
 }
 
 HotNumbers::HotNumbers(const QStringList &numbers)
-    : m_list(numbers), m_numbers(numbers.begin(), numbers.end())
 {
-    for (QString number : numbers) {
-        m_sorted += sortedDigits(number.left(3));
-        std::reverse(number.begin(), number.end());
-        m_turned += number;
+    for (const QString &number : numbers) {
+        ++m_straight[number];
+        const QStringList orders = todOrders(number);
+        for (const QString &order : orders)
+            ++m_tod[order];
     }
 }
 
-bool HotNumbers::reach(const BetClass &betClass, const QString &number) const
+int HotNumbers::count(int numType, const QString &number) const
 {
-    if (betClass.numType == Run)
-        return false;
-    if (m_numbers.contains(number))
-        return true;
-    if (betClass.numType == Straight)
-        return false;
-    return betClass.num23 == 2 ? m_turned.contains(number)
-                               : m_sorted.contains(sortedDigits(number));
+    switch (numType) {
+    case Straight:
+        return m_straight.value(number);
+    case Tod:
+        return m_tod.value(number);
+    default:
+        return 0;
+    }
 }

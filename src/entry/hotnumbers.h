@@ -4,8 +4,8 @@
 
 #include "entry/vocabulary.h"
 
+#include <QHash>
 #include <QRgb>
-#include <QSet>
 #include <QStringList>
 
 /// Ground of what pays half because of a hot number: a number on the board, a winner's money.
@@ -14,21 +14,25 @@ inline constexpr QRgb HotColor = 0xD79F9E;
 /// The hot numbers, the one entered first in front. Uses RecordsetB.
 QStringList readHotNumbers();
 
+/// Hot numbers, ready to be asked about any bet.
 class HotNumbers
 {
 public:
-    HotNumbers() = default;
+    HotNumbers() = default; ///< none
     explicit HotNumbers(const QStringList &numbers);
 
-    /// True for a straight bet on a hot number, on top as at the bottom, and for a tod bet on one in
-    /// any order of its digits. A run bet is never hot.
-    bool reach(const BetClass &betClass, const QString &number) const;
+    /// How many of them reach a bet: a straight one by the number itself, a tod one by any order of
+    /// its digits, top and bottom alike. A run is never reached.
+    int count(int numType, const QString &number) const;
 
-    bool operator==(const HotNumbers &other) const { return m_list == other.m_list; }
+    bool reach(const BetClass &betClass, const QString &number) const
+    {
+        return count(betClass.numType, number) > 0;
+    }
+
+    bool operator==(const HotNumbers &) const = default;
 
 private:
-    QStringList m_list;
-    QSet<QString> m_numbers;
-    QSet<QString> m_turned; ///< with the digits in reverse
-    QSet<QString> m_sorted; ///< the first three digits in rising order
+    QHash<QString, int> m_straight;
+    QHash<QString, int> m_tod;
 };

@@ -8,7 +8,7 @@ class ProgressBar
 public:
     virtual ~ProgressBar() = default;
 
-    /// Shows the bar at 0, with @p maximum as its full length.
+    /// Begins at 0, with @p maximum as the full length. Work that is soon done shows no bar.
     virtual void start(int maximum) = 0;
 
     /// Moves on by 1 unless the bar is full.

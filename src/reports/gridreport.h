@@ -35,7 +35,8 @@ protected:
     const SpreadModel &grid(qsizetype at) const { return *m_grids[at]; }
 
     /// Begins at the first row and takes the row total: that of the longest grid. Raises
-    /// "Overflow" above 32,767 rows.
+    /// "Overflow" above 32,767 rows; of exactly that many the last row is no end yet, and what follows it
+    /// raises the same.
     void takeRowTotal();
 
     bool ActiveReport_FetchData() override;

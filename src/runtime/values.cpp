@@ -63,9 +63,10 @@ QByteArray plainNumber(QStringView text)
 /// Amounts below this are whole numbers of 64 bits as well as doubles. Boards are made of them.
 constexpr double LongestWhole = 1e15;
 
+/// Of an amount below LongestWhole.
 QString groupedDigits(qint64 amount)
 {
-    std::array<char16_t, 24> digits{}; // room for 19 digits, their commas and the sign
+    std::array<char16_t, 24> digits{}; // room for 15 digits, their commas and the sign
     auto *const end = digits.data() + digits.size();
     auto *first = end;
     int count = 0;

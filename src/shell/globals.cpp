@@ -26,6 +26,7 @@ struct RateColumn
     qint16 *rate;
 };
 
+/// In the order of BetClasses.
 constexpr std::array RateColumns{
     RateColumn{"3up", &Rate3up},     RateColumn{"3tod", &Rate3tod},
     RateColumn{"2up", &Rate2up},     RateColumn{"2tod", &Rate2tod},
@@ -34,6 +35,11 @@ constexpr std::array RateColumns{
 };
 
 } // namespace
+
+qint16 classRate(int at)
+{
+    return *RateColumns[size_t(at)].rate;
+}
 
 void LoadMoney()
 {

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the agent pays per baht staked, and who of the pages is open: the globals of the main
-// window.
+// What the agent pays per baht staked, and whence a cut is made: the globals of the main window.
 #pragma once
 
 #include <QtGlobal>
@@ -14,6 +13,9 @@ extern qint16 Raterunup;
 extern qint16 Rate3down;
 extern qint16 Rate2down;
 extern qint16 Raterundown;
+
+/// The same by the place of a class in BetClasses.
+qint16 classRate(int at);
 
 /// Whence a cut is made: 0 any page but the board, 1 the board, 2 a top scan, 3 a bottom scan.
 /// Set by the navigation and by the scan.

@@ -47,7 +47,7 @@ void showButton(QPushButton &button, bool enabled, bool current)
     button.style()->polish(&button);
 }
 
-/// What was laid aside in the program's folder for the time that it runs.
+/// Temporary files in the program's folder, whoever left them there.
 void deleteTemporaryFiles()
 {
     QDir folder(programFolder());

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Cuts: money moves out of the book and is never lost or made; what was cut is listed by number.
+// Cuts of lines that have vanished meanwhile; what was cut is listed by number. That a cut neither loses
+// nor makes money is asked elsewhere, of whole books.
 #include "cutting/cutboard.h"
 #include "cutting/cutout.h"
 #include "cutting/selection.h"
