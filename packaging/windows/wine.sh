@@ -23,6 +23,12 @@ if ((EUID == 0)); then
     plainly=(setpriv --inh-caps=-dac_override --bounding-set=-dac_override)
 fi
 
+# Where a process has its memory laid out at random, in one of some thousands a place is taken that
+# Wine needs, and it does not come up.
+if setarch --addr-no-randomize true 2>/dev/null; then
+    plainly+=(setarch --addr-no-randomize)
+fi
+
 # Tests start at the same time; one of them makes the Windows, the others wait.
 make_windows()
 {

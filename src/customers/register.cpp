@@ -63,7 +63,6 @@ void addCustomer(const Customer &customer)
 {
     const qint32 key = SetupNewData();
     RecordsetA.openTable(u"tblMember"_s);
-    RecordsetA.addNew();
     RecordsetA.set(u"MPK"_s, key);
     RecordsetA.set(u"Mname"_s, trimBlanks(customer.name));
     RecordsetA.set(u"Mber"_s, trimBlanks(customer.telephone));

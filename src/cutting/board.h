@@ -55,6 +55,7 @@ private:
     QStringList m_sorted;
 };
 
+/// The eight boards, what their heaviest numbers would cost, and the totals of the book.
 struct Board
 {
     Board();

@@ -12,8 +12,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int TotalColumn = 2; // spans that of the numbers and that of the money
-
 constexpr std::array<const char16_t *, 2> Captions{u"(  บน  )", u"(  ล่าง  )"};
 
 constexpr std::array Columns{
@@ -44,7 +42,7 @@ void CutBoard::SetupSpread()
         grid.setHeader(CaptionRow, CutTypeColumn,
                        {QString::fromUtf16(Captions[list]), Qt::AlignCenter, true, 3});
         grid.setHeader(TotalRow, CutTypeColumn, {u"รวมเงิน"_s});
-        grid.setHeader(TotalRow, TotalColumn,
+        grid.setHeader(TotalRow, CutTotalColumn,
                        {u"0"_s, Qt::AlignRight | Qt::AlignVCenter, false, 2});
         grid.setTitles(TitleRow, Columns);
     }
@@ -62,7 +60,7 @@ void CutBoard::load(size_t list, bool updown, ProgressBar &progress)
     grid.setRows(RecordsetA.recordCount());
     if (grid.rows() == 0) {
         RecordsetA.close();
-        grid.setText(TotalRow, TotalColumn, u"0"_s);
+        grid.setText(TotalRow, CutTotalColumn, u"0"_s);
         return;
     }
     progress.start(grid.rows());
@@ -75,5 +73,5 @@ void CutBoard::load(size_t list, bool updown, ProgressBar &progress)
         progress.step();
     }
     RecordsetA.close();
-    grid.setText(TotalRow, TotalColumn, formatBaht(NumcutTotal));
+    grid.setText(TotalRow, CutTotalColumn, formatBaht(NumcutTotal));
 }

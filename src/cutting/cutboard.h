@@ -13,6 +13,10 @@ inline constexpr int CutTypeColumn = 1;
 inline constexpr int CutNumberColumn = 2;
 inline constexpr int CutAmountColumn = 3;
 
+/// In TotalRow the total spans the columns of the numbers and of the money.
+inline constexpr int CutTotalColumn = CutNumberColumn;
+
+/// Both lists, empty until they are loaded.
 class CutBoard
 {
 public:
@@ -22,14 +26,13 @@ public:
 
     bool isEmpty() const; ///< true while nothing is listed
 
-    void SetupSpread();
-
     /// Load one list: straight, tod, run, in each the longer numbers first. Raise "Overflow" when
     /// a total leaves 32 bits. Use RecordsetA.
     void LoadNumcutup(ProgressBar &progress) { load(0, true, progress); }
     void LoadNumcutdown(ProgressBar &progress) { load(1, false, progress); }
 
 private:
+    void SetupSpread();
     void load(size_t list, bool updown, ProgressBar &progress);
 
     qint32 NumcutTotal = 0; ///< of the list being loaded

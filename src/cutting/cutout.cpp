@@ -132,7 +132,6 @@ void CutOut::cut(const CutLine &line, qint32 amount)
         takeOff(line, amount);
     SetupNewData8();
     RecordsetA.openTable(u"tblNumberCut"_s);
-    RecordsetA.addNew();
     RecordsetA.set(u"NPK"_s, NextCutKey);
     RecordsetA.set(u"NameFK"_s, line.nameFK);
     RecordsetA.set(u"updown"_s, SelUpDown);

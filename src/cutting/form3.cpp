@@ -10,6 +10,7 @@
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
 #include "platform/dialogplace.h"
+#include "platform/keycodes.h"
 #include "platform/msgbox.h"
 #include "platform/searchicon.h"
 #include "runtime/runtimeerror.h"
@@ -45,8 +46,6 @@ Form3::Form3(const Frame &frame, BoardOpeners openers, QWidget *parent)
     m_ui->SSTab1->addTab(QString());
     m_ui->SSTab1->addTab(QString());
     m_ui->lvButtons_H3->setIcon(searchIcon());
-    m_ui->lvButtons_H5->setEnabled(bool(m_openers.printBoard));
-    m_ui->lvButtons_H6->setEnabled(bool(m_openers.showScan));
     m_ui->lvButtons_H7->hide();
     m_ui->Frame2->hide();
     connectControls();
@@ -362,6 +361,6 @@ void Form3::showBar(bool shown)
 void reloadCurrentBoard(const QWidget &window)
 {
     auto *board = window.findChild<Form3 *>();
-    if (board && CutOrigin == 1)
+    if (board && CutOrigin == FromBoard)
         board->FReLoad();
 }

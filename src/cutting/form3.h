@@ -17,7 +17,7 @@ namespace Ui {
 class Form3;
 }
 
-/// What the board opens without knowing it. A button whose opener is empty is disabled.
+/// What the board opens without knowing it. A board that nobody sees needs none.
 struct BoardOpeners
 {
     std::function<void(Form3 &board)> showScan; ///< " &วิเคราะห์เลข"

@@ -22,7 +22,6 @@ Numcut::Numcut(std::function<void(Numcut &)> print, QWidget *parent)
     for (Spread *spread : m_spreads)
         spread->setColumnDigits(CutTypeColumn, 12); // less than its share
     m_ui->lvButtons_H3->setIcon(searchIcon());
-    m_ui->lvButtons_H5->setEnabled(bool(m_print));
     new FieldGuard(this, &m_focus);
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Numcut::lvButtons_H3_Click);
@@ -35,7 +34,6 @@ Numcut::~Numcut() = default;
 void Numcut::Form_Load()
 {
     placeDialog(*this);
-    m_cutBoard.SetupSpread();
     m_cutBoard.LoadNumcutup(*m_ui->pb1);
     m_cutBoard.LoadNumcutdown(*m_ui->pb1);
     m_ui->pb1->hide(); // full as it is

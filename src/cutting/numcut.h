@@ -21,7 +21,7 @@ class Numcut : public QDialog
     Q_OBJECT
 
 public:
-    /// @p print shows the lists on paper; without one the button is disabled.
+    /// @p print shows the lists on paper.
     Numcut(std::function<void(Numcut &)> print, QWidget *parent);
     ~Numcut() override;
 

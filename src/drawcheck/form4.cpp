@@ -37,7 +37,6 @@ Form4::Form4(ProgressBar &progress, Printer printer, QWidget *parent)
         paintGround(m_boxes[size_t(at)], at < TopDigitCount ? TopBoxColor : BottomBoxColor);
     paintGround(m_ui->payoutBox, HotColor);
     paintGround(m_ui->profitBox, ProfitColor);
-    m_ui->lvButtons_H5->setEnabled(bool(m_printer));
     m_ui->fpSpread1->setSpreadModel(&m_check.winners);
     m_ui->fpSpread1->setRowPoints(19);
     setFocusProxy(m_ui->text4); // so that keying can begin at once
@@ -73,7 +72,6 @@ void Form4::connectControls()
 void Form4::Form_Load()
 {
     m_check.readDiscounts();
-    m_check.SetupSpread();
     m_ui->fpSpread1->setColumnDigits(WinKindColumn, 10);
     m_ui->fpSpread1->setColumnDigits(WinNumberColumn, 8);
     m_ui->fpSpread1->setColumnDigits(WinPercentColumn, 8);

@@ -25,8 +25,7 @@ public:
     /// Shows a check on paper, in a window over @p opener.
     using Printer = std::function<void(const DrawCheck &check, QWidget *opener)>;
 
-    /// @p progress covers the wait of a check; it must outlive the page. Without a printer the
-    /// button that prints is disabled.
+    /// @p progress covers the wait of a check; it must outlive the page.
     Form4(ProgressBar &progress, Printer printer, QWidget *parent);
     ~Form4() override;
 

@@ -26,6 +26,7 @@ public:
     /// Empties the grid.
     void SetupSpread() { setupWinners(winners); }
 
+    /// Shows both amounts as 0.
     void zeroAmounts();
 
     /// Runs the check: fills the grid, sets the amounts, keeps result and money in tblTrue. Without

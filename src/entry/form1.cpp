@@ -81,7 +81,6 @@ void Form1::Form_Load()
     GridTouched = 0;
     m_ui->Combo2->setListIndex(0);
     m_ui->Combo1->setList(FillCombo(u"tblMember"_s, u"MPK"_s, u"Mname"_s));
-    m_ticket.SetupSpread();
     showZeroTabs();
 }
 

@@ -26,10 +26,15 @@ QVariantList allRearranged(const QString &number, const Orders &orders)
     return numbers;
 }
 
+/// Next key of a bet line.
+qint32 SetupNewData2()
+{
+    return nextKey(u"tblNumber"_s, u"NPK"_s);
+}
+
 void addBetLine(const BetClass &betClass, qint16 customer, const QString &number, qint32 amount)
 {
     RecordsetA.openTable(u"tblNumber"_s);
-    RecordsetA.addNew();
     RecordsetA.set(u"NPK"_s, SetupNewData2());
     RecordsetA.set(u"NameFK"_s, customer);
     RecordsetA.set(u"updown"_s, betClass.updown);
@@ -42,11 +47,6 @@ void addBetLine(const BetClass &betClass, qint16 customer, const QString &number
 }
 
 } // namespace
-
-qint32 SetupNewData2()
-{
-    return nextKey(u"tblNumber"_s, u"NPK"_s);
-}
 
 QString todSpelling(const QString &number)
 {
@@ -96,7 +96,6 @@ void saveDiscount(const QString &discount)
     if (discount.isEmpty())
         return;
     RecordsetB.openTable(u"tblRMoney"_s);
-    RecordsetB.addNew();
     // A number, not the text: a text with commas would spoil every sum over the column.
     RecordsetB.set(u"rMoney"_s, CDbl(discount));
     RecordsetB.update();

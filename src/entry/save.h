@@ -5,9 +5,6 @@
 #include "entry/ticket.h"
 #include "platform/progressbar.h"
 
-/// Next key of a bet line.
-qint32 SetupNewData2();
-
 /// The spelling under which a tod number of 3 or 2 digits is filed: the lowest rearrangement of
 /// its digits that the Ledger holds in that class, since a tod bet pays on any order and all
 /// bets of a family should stand together; else the number as keyed. Lines of customers that no

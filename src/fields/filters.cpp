@@ -2,6 +2,7 @@
 #include "fields/filters.h"
 
 #include "platform/keyboardstate.h"
+#include "platform/keycodes.h"
 #include "platform/msgbox.h"
 
 using namespace Qt::StringLiterals;

@@ -5,9 +5,6 @@
 
 #include <QByteArray>
 
-inline constexpr int BackspaceCode = 8;
-inline constexpr int EnterCode = 13;
-
 /// Layout id of US English.
 inline constexpr const char *EnglishLayout = "00000409";
 

@@ -62,7 +62,6 @@ qint16 LookupKey(const QString &comboText, const QString &table, const QString &
     } else {
         found = CInt(double(nextKey(table, key)));
         RecordsetB.openTable(table);
-        RecordsetB.addNew();
         RecordsetB.set(key, found);
         RecordsetB.set(textColumn, comboText);
         RecordsetB.update();

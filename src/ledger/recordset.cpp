@@ -70,12 +70,6 @@ QList<QVariantList> Recordset::takeRows()
     return rows;
 }
 
-void Recordset::addNew()
-{
-    m_columns.clear();
-    m_values.clear();
-}
-
 void Recordset::set(const QString &column, const QVariant &value)
 {
     m_columns += column;

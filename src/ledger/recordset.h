@@ -13,7 +13,7 @@ public:
     /// Runs a reading statement; the first of its rows becomes the current one.
     void open(const QString &sql, const QVariantList &values = {});
 
-    /// Readies the slot for adding rows to @p table, none of which are read.
+    /// Starts a new row of @p table, none of whose rows are read.
     void openTable(const QString &table);
 
     /// Readies the slot for editing the row of @p table whose @p key is @p value: each column that
@@ -39,9 +39,6 @@ public:
     /// The rows read, for a list that keeps them. Lets go of everything.
     QList<QVariantList> takeRows();
 
-    /// Starts a row of the table readied with openTable().
-    void addNew();
-
     /// Sets one column of the row begun or opened for editing.
     void set(const QString &column, const QVariant &value);
 
@@ -55,7 +52,7 @@ private:
     ResultRows m_read;
     int m_current = 0;
     QString m_table;
-    QString m_editKey; ///< column that names the row being edited; empty while rows are added
+    QString m_editKey; ///< column that names the row being edited; empty while one is added
     QVariant m_editValue;
     QStringList m_columns;
     QVariantList m_values;

@@ -11,4 +11,5 @@ using Clock = std::function<QDateTime()>;
 /// Sets the clock and gives back the one before; an empty one means the machine's own.
 Clock setClock(Clock clock);
 
+/// What the clock says now, in local time.
 QDateTime currentDateTime();

@@ -15,9 +15,6 @@ class FocusTracker : public QObject
 public:
     explicit FocusTracker(QObject *parent);
 
-    /// The control that has the focus, also while a box or another program is in front.
-    QWidget *current() const { return m_current; }
-
 signals:
     void lostFocus(QWidget *control);
     void gotFocus(QWidget *control);
@@ -28,6 +25,6 @@ protected:
 private:
     void focusMoved(QWidget *from, QWidget *to);
 
-    QPointer<QWidget> m_current;
+    QPointer<QWidget> m_current; ///< has the focus, also while a box or another program is in front
     QPointer<QWidget> m_left;
 };

@@ -18,9 +18,9 @@ int namedKeyCode(int key, bool ctrl)
     switch (key) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        return ctrl ? CtrlEnter : 13;
+        return ctrl ? CtrlEnter : EnterCode;
     case Qt::Key_Backspace:
-        return ctrl ? CtrlBackspace : 8;
+        return ctrl ? CtrlBackspace : BackspaceCode;
     case Qt::Key_Escape:
         return 27;
     case Qt::Key_Tab:

@@ -4,6 +4,10 @@
 
 class QKeyEvent;
 
+/// Character codes of the two keys that fields act on.
+inline constexpr int BackspaceCode = 8;
+inline constexpr int EnterCode = 13;
+
 /// Code of the character that a key press gives: 8 for Backspace, 13 for both Enters, 27 for
 /// Esc, 1 to 26 for Ctrl with a letter, else the character's own. 0 for keys that give none:
 /// Delete, Tab, arrows, function keys, Alt with a letter.

@@ -86,8 +86,3 @@ void MediaControl::Command(MediaCommand command)
         break;
     }
 }
-
-bool MediaControl::isPlaying() const
-{
-    return m_sound->chunk && Mix_Playing(OnlyChannel) != 0;
-}

@@ -32,9 +32,6 @@ public:
 
     void Command(MediaCommand command);
 
-    /// True while the file sounds.
-    bool isPlaying() const;
-
 private:
     struct Sound;
     std::unique_ptr<Sound> m_sound;

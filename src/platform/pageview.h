@@ -9,6 +9,7 @@
 #include <QCache>
 #include <QPixmap>
 
+/// The pages of one report at one zoom, with the place in it that is in sight.
 class PageView : public QAbstractScrollArea
 {
     Q_OBJECT
@@ -35,8 +36,6 @@ public:
     /// sight and the one before the last is there already.
     void previousPage();
 
-    int zoom() const { return m_zoom; } ///< percent, or FitWidth
-
     /// Percent at which pages are shown now, also while they fit the width.
     Q_INVOKABLE int shownPercent() const;
 
@@ -47,8 +46,8 @@ public:
     QPixmap picture(int page) const;
 
 signals:
-    void pageChanged();
-    void zoomChanged();
+    void pageChanged(); ///< another page may be in sight
+    void zoomChanged(); ///< pages are shown at another size
 
 protected:
     void paintEvent(QPaintEvent *event) override;

@@ -21,6 +21,7 @@ using SaveDialog = std::function<QString(const SaveRequest &)>;
 /// Sets who asks and gives back who did so before. The program sets a real dialog.
 SaveDialog setSaveDialog(SaveDialog dialog);
 
+/// Asks by the dialog that was set.
 QString askForFileName(const SaveRequest &request);
 
 /// Writes a file as a whole or not at all: on failure false, and what stood there stays.

@@ -31,7 +31,7 @@ public:
     };
 
 signals:
-    void clicked();
+    void clicked(); ///< a tab was set, by hand or by the program
 
 protected:
     void tabLayoutChange() override;

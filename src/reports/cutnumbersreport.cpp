@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "reports/cutnumbersreport.h"
 
+#include "cutting/cutboard.h"
+#include "entry/betgrid.h"
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -57,12 +60,12 @@ RowPlan plan()
 {
     return {
         {
-            {u"text1"_s, 0, 1},
-            {u"text2"_s, 0, 2},
-            {u"text3"_s, 0, 3, true},
-            {u"text4"_s, 1, 1},
-            {u"text5"_s, 1, 2},
-            {u"text6"_s, 1, 3, true},
+            {u"text1"_s, 0, CutTypeColumn},
+            {u"text2"_s, 0, CutNumberColumn},
+            {u"text3"_s, 0, CutAmountColumn, true},
+            {u"text4"_s, 1, CutTypeColumn},
+            {u"text5"_s, 1, CutNumberColumn},
+            {u"text6"_s, 1, CutAmountColumn, true},
         },
         {300, 2000, 4000, 5670, 6100, 7800, 9800, 11480},
         16090,
@@ -71,7 +74,7 @@ RowPlan plan()
 
 QString totalOf(const SpreadModel &grid)
 {
-    return grid.text(FirstHeaderRow + 1, 2);
+    return grid.text(TotalRow, CutTotalColumn);
 }
 
 } // namespace

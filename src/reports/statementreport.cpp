@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reports/statementreport.h"
 
+#include "entry/betgrid.h"
+
 #include <array>
 #include <utility>
 
@@ -116,8 +118,8 @@ RowPlan plan()
 {
     RowPlan plan;
     for (int at = 0; at < int(Blocks.size()); ++at) {
-        plan.fields += {field(2 * at + 1), at, 1};
-        plan.fields += {field(2 * at + 2), at, 2, true};
+        plan.fields += {field(2 * at + 1), at, NumberColumn};
+        plan.fields += {field(2 * at + 2), at, AmountColumn, true};
     }
     plan.rulingAt = {300,   1000,  2130,  2280,  3000,  4110,  4280,  5000,
                      6090,  6260,  6980,  8090,  8230,  8950,  10070, 10500,

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reports/winnersreport.h"
 
+#include "drawcheck/winners.h"
+
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -60,17 +62,17 @@ ReportLayout layout()
     };
 }
 
-/// The discount of the third column is not for the customer's eyes.
+/// The discount is not for the customer's eyes.
 RowPlan plan()
 {
     return {
         {
-            {u"text1"_s, 0, 1},
-            {u"text2"_s, 0, 2},
-            {u"text3"_s, 0, 4, true},
-            {u"text4"_s, 0, 5, true},
-            {u"text5"_s, 0, 6},
-            {u"text6"_s, 0, 7},
+            {u"text1"_s, 0, WinKindColumn},
+            {u"text2"_s, 0, WinNumberColumn},
+            {u"text3"_s, 0, WinStakeColumn, true},
+            {u"text4"_s, 0, WinPayoutColumn, true},
+            {u"text5"_s, 0, WinNameColumn},
+            {u"text6"_s, 0, WinTelephoneColumn},
         },
         {300, 1440, 2430, 4280, 6100, 9800, 11630},
         16090,

@@ -13,7 +13,7 @@ namespace {
 
 struct ScanRate
 {
-    int cutOrigin; ///< 2 top scan, 3 bottom scan
+    quint8 cutOrigin;
     int length;
     int numType;
     const qint16 *rate;
@@ -21,9 +21,9 @@ struct ScanRate
 
 /// Payout per baht of the classes that a scan lists.
 constexpr std::array ScanRates{
-    ScanRate{2, 3, Tod, &Rate3tod},    ScanRate{2, 2, Straight, &Rate2up},
-    ScanRate{2, 2, Tod, &Rate2tod},    ScanRate{2, 1, Run, &Raterunup},
-    ScanRate{3, 1, Run, &Raterundown},
+    ScanRate{FromTopScan, 3, Tod, &Rate3tod},       ScanRate{FromTopScan, 2, Straight, &Rate2up},
+    ScanRate{FromTopScan, 2, Tod, &Rate2tod},       ScanRate{FromTopScan, 1, Run, &Raterunup},
+    ScanRate{FromBottomScan, 1, Run, &Raterundown},
 };
 
 const qint16 *rateOf(const QString &number, const QString &type)

@@ -25,9 +25,9 @@ Number::~Number() = default;
 void Number::Form_Load(const SpreadModel &scan)
 {
     placeDialog(*this);
-    if (CutOrigin == 2)
+    if (CutOrigin == FromTopScan)
         setWindowTitle(u"ตรวจสอบเลข ( บน )"_s);
-    else if (CutOrigin == 3)
+    else if (CutOrigin == FromBottomScan)
         setWindowTitle(u"ตรวจสอบเลข ( ล่าง )"_s);
     const Inspection shown = inspect(scan, ScanRow);
     m_ui->Label13->setText(shown.heading);

@@ -13,8 +13,6 @@ struct ScanLine
     int numType;
     QString numValue;
     QString nMoney; ///< whole baht, unformatted; "" for none
-
-    bool operator==(const ScanLine &) const = default;
 };
 
 /// The lines of one side, each number of a class once, ready to be searched.

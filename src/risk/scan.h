@@ -21,6 +21,7 @@ inline constexpr int Cut = 6;
 /// The row handed to the inspector.
 extern qint32 ScanRow;
 
+/// The scan of one side and the grid that shows it.
 class RiskScan
 {
 public:

@@ -16,14 +16,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr quint8 OnBoard = 1;
-constexpr quint8 InTopScan = 2;
-constexpr quint8 InBottomScan = 3;
-
-} // namespace
-
 ViKoC::ViKoC(const Board &board, CutOpener showCutNum, QWidget *parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::ViKoC>()), m_board(board),
       m_showCutNum(std::move(showCutNum))
@@ -43,7 +35,7 @@ ViKoC::ViKoC(const Board &board, CutOpener showCutNum, QWidget *parent)
 
 ViKoC::~ViKoC()
 {
-    CutOrigin = OnBoard;
+    CutOrigin = FromBoard;
 }
 
 void ViKoC::connectControls()
@@ -58,14 +50,14 @@ void ViKoC::connectControls()
 /// "วิเคราะห์เลขบน": scans the top.
 void ViKoC::lvButtons_H0_Click()
 {
-    CutOrigin = InTopScan;
+    CutOrigin = FromTopScan;
     analyse(true);
 }
 
 /// " วิเคราะห์เลขล่าง": scans the bottom.
 void ViKoC::lvButtons_H1_Click()
 {
-    CutOrigin = InBottomScan;
+    CutOrigin = FromBottomScan;
     analyse(false);
 }
 
@@ -125,11 +117,11 @@ void ViKoC::cutRow(int row)
     }
     SelNumValue = m_scan.grid.text(row, ScanColumn::Number);
     SelNum23 = quint8(SelNumValue.size());
-    SelUpDown = CutOrigin == InTopScan;
+    SelUpDown = CutOrigin == FromTopScan;
     m_showCutNum(this, [this] {
-        if (CutOrigin == InTopScan)
+        if (CutOrigin == FromTopScan)
             lvButtons_H0_Click();
-        else if (CutOrigin == InBottomScan)
+        else if (CutOrigin == FromBottomScan)
             lvButtons_H1_Click();
     });
     if (m_scan.grid.rows() > 0) // so that the next key goes on here

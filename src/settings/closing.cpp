@@ -44,7 +44,6 @@ void logDraw()
 {
     RecordsetA.open(u" SELECT  tblTrue.* FROM tblTrue WHERE [PK] = 1 "_s);
     RecordsetB.openTable(u"tblNumLog"_s);
-    RecordsetB.addNew();
     for (const char *column : ResultColumns)
         RecordsetB.set(QString::fromLatin1(column), RecordsetA.field(QString::fromLatin1(column)));
     RecordsetB.update();

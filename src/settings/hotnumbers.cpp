@@ -17,17 +17,17 @@ constexpr std::array Columns{
 };
 
 /// Orders of a number's digits as this screen lists them, given as places in the number.
-QStringList todOrders(const QString &digits)
+QList<const char *> listedOrders(const QString &digits)
 {
     if (digits.size() == 2)
-        return {u"01"_s, u"10"_s};
+        return {"01", "10"};
     if (digits[0] == digits[1])
-        return {u"012"_s, u"210"_s, u"021"_s};
+        return {"012", "210", "021"};
     if (digits[0] == digits[2])
-        return {u"012"_s, u"102"_s, u"021"_s};
+        return {"012", "102", "021"};
     if (digits[1] == digits[2])
-        return {u"012"_s, u"102"_s, u"120"_s};
-    return {u"012"_s, u"021"_s, u"102"_s, u"120"_s, u"201"_s, u"210"_s};
+        return {"012", "102", "120"};
+    return {"012", "021", "102", "120", "201", "210"};
 }
 
 /// The key of the next hot number; raises "Overflow" beyond 16 bits. Uses RecordsetB.
@@ -46,9 +46,8 @@ QString hotTodForm(const QString &number)
     if (digits.count(digits.front()) == digits.size())
         return u"-"_s;
     QStringList forms;
-    const QStringList orders = todOrders(digits);
-    for (const QString &order : orders)
-        forms += rearranged(digits, order.toLatin1().constData());
+    for (const char *order : listedOrders(digits))
+        forms += rearranged(digits, order);
     return forms.join(u" , "_s);
 }
 
@@ -82,7 +81,6 @@ void addHotNumber(const QString &number)
 {
     const qint16 key = SetupNewData3();
     RecordsetA.openTable(u"tblNumberFix"_s);
-    RecordsetA.addNew();
     RecordsetA.set(u"PK"_s, key);
     RecordsetA.set(u"Fnumber"_s, number);
     RecordsetA.update();

@@ -21,5 +21,7 @@ bool isHotNumber(const QString &number);
 
 /// Puts a number on the list; raises "Overflow" for a key beyond 16 bits. Uses both slots.
 void addHotNumber(const QString &number);
+
+/// Take one number or all from the list.
 void deleteHotNumber(qint32 key);
 void deleteAllHotNumbers();

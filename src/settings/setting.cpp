@@ -18,7 +18,6 @@ Setting::Setting(QWidget *parent, BoardShowsRows boardShowsRows)
       m_boardShowsRows(std::move(boardShowsRows))
 {
     m_ui->setupUi(this);
-    m_ui->lvButtons_H0->setEnabled(bool(m_boardShowsRows));
     m_ui->fpSpread1->setSpreadModel(&m_hotNumbers);
     m_ui->fpSpread1->setColumnDigits(HotPlaceColumn, 8);
     m_ui->fpSpread1->setColumnDigits(HotNumberColumn, 19);

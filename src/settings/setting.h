@@ -21,8 +21,8 @@ class Setting : public QDialog
     Q_OBJECT
 
 public:
-    /// @p boardShowsRows is asked before a draw is closed; without it none can be.
-    explicit Setting(QWidget *parent, BoardShowsRows boardShowsRows = {});
+    /// @p boardShowsRows is asked before a draw is closed.
+    Setting(QWidget *parent, BoardShowsRows boardShowsRows);
     ~Setting() override;
 
 private:

@@ -16,7 +16,7 @@ qint16 Raterunup = 0;
 qint16 Rate3down = 0;
 qint16 Rate2down = 0;
 qint16 Raterundown = 0;
-quint8 CutOrigin = 0;
+quint8 CutOrigin = FromOtherPage;
 
 namespace {
 

@@ -17,9 +17,12 @@ extern qint16 Raterundown;
 /// The same by the place of a class in BetClasses.
 qint16 classRate(int at);
 
-/// Whence a cut is made: 0 any page but the board, 1 the board, 2 a top scan, 3 a bottom scan.
-/// Set by the navigation and by the scan.
+/// Whence a cut is made. Set by the navigation and by the scan.
 extern quint8 CutOrigin;
+inline constexpr quint8 FromOtherPage = 0;
+inline constexpr quint8 FromBoard = 1;
+inline constexpr quint8 FromTopScan = 2;
+inline constexpr quint8 FromBottomScan = 3;
 
 /// Reads the eight rates from tblMoney. Without its one row they stay as they were. Raises
 /// "Overflow" for a rate above 32,767. Uses RecordsetA.

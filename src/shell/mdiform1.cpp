@@ -31,17 +31,17 @@ struct Navigation
 };
 
 constexpr std::array<Navigation, PageCount> NavigationTable{{
-    {0, u"หน้าหลัก"},
-    {0, u"ข้อมูลลูกค้า"},
-    {1, u"คัดหวย"},
-    {0, u"ตรวจหวย"},
-    {0, u"ข้อมูลย้อนหลัง"},
+    {FromOtherPage, u"หน้าหลัก"},
+    {FromOtherPage, u"ข้อมูลลูกค้า"},
+    {FromBoard, u"คัดหวย"},
+    {FromOtherPage, u"ตรวจหวย"},
+    {FromOtherPage, u"ข้อมูลย้อนหลัง"},
 }};
 
-/// Enables a navigation button, and lets the look mark the one whose page is open.
-void showButton(QPushButton &button, bool enabled, bool current)
+/// Disables the navigation button whose page is open, and lets the look mark it.
+void showButton(QPushButton &button, bool current)
 {
-    button.setEnabled(enabled);
+    button.setEnabled(!current);
     button.setProperty("current", current);
     button.style()->unpolish(&button);
     button.style()->polish(&button);
@@ -94,11 +94,8 @@ bool MDIForm1::MDIForm_Load()
 
 void MDIForm1::connectNavigation()
 {
-    for (int page = 0; page < PageCount; ++page) {
-        m_pageButtons[page]->setEnabled(bool(m_pages.makers[page]));
+    for (int page = 0; page < PageCount; ++page)
         connect(m_pageButtons[page], &QPushButton::clicked, this, [this, page] { openPage(page); });
-    }
-    m_ui->lvButtons_H5->setEnabled(bool(m_pages.showSettings));
     connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, [this] {
         m_pages.showSettings({*m_ui->pb1, *m_strip}, this);
         if (m_page)
@@ -110,7 +107,7 @@ void MDIForm1::openPage(int page)
 {
     CutOrigin = NavigationTable[page].cutOrigin;
     for (int other = 0; other < PageCount; ++other)
-        showButton(*m_pageButtons[other], m_pages.makers[other] && other != page, other == page);
+        showButton(*m_pageButtons[other], other == page);
     delete m_page; // an unsaved ticket goes with its page
     m_page = m_pages.makers[page]({*m_ui->pb1, *m_strip}, m_ui->pageArea);
     m_ui->pageArea->layout()->addWidget(m_page);

@@ -26,7 +26,7 @@ struct Frame
     CustomerStrip &strip;
 };
 
-/// Makes a page as a child of @p parent. An empty one means that the page does not exist yet.
+/// Makes a page as a child of @p parent.
 using PageMaker = std::function<QWidget *(const Frame &frame, QWidget *parent)>;
 
 /// The five pages behind the navigation buttons, in their order.

@@ -65,6 +65,8 @@ Victim::Victim(const QString &folder, quint32 seed)
 {
     m_process.start(QCoreApplication::applicationFilePath(),
                     {u"victim"_s, folder, QString::number(seed)});
+    if (!m_process.waitForStarted())
+        qFatal("no process: %s", qPrintable(m_process.errorString()));
 }
 
 bool Victim::waitForStep()

@@ -11,15 +11,15 @@ class Victim
 public:
     /// With a seed it opens the Ledger in @p folder and does the steps of that day until it is
     /// killed; one seed in 16 has it close and open the Ledger behind each. Without, it waits at
-    /// the gate, then starts the whole program, acknowledges that, and stays.
+    /// the gate, then starts the whole program, acknowledges that, and stays. It runs when this
+    /// returns.
     explicit Victim(const QString &folder, quint32 seed = 0);
     ~Victim() { kill(); }
     Q_DISABLE_COPY_MOVE(Victim)
 
     void openGate() { m_process.closeWriteChannel(); }
     bool waitForStep(); ///< false if it ends before
-    bool waitForStart() { return m_process.waitForStarted(); }
-    int waitForEnd(); ///< its own end; exit status
+    int waitForEnd();   ///< its own end; exit status
     void kill();
 
     /// Once it is gone: how many steps it acknowledged, and what its boxes said.

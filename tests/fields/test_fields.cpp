@@ -4,6 +4,7 @@
 #include "fields/filters.h"
 #include "platform/application.h"
 #include "platform/focustracker.h"
+#include "platform/keycodes.h"
 #include "support/boxscript.h"
 
 #include <QClipboard>
@@ -36,17 +37,15 @@ public:
             column->addWidget(field);
             m_fields += field;
         }
-        m_guard = new FieldGuard(this, new FocusTracker(this));
+        new FieldGuard(this, new FocusTracker(this));
         show();
         m_fields.first()->setFocus();
     }
 
     QLineEdit *first() const { return m_fields.first(); }
-    FieldGuard *guard() const { return m_guard; }
 
 private:
     QList<QLineEdit *> m_fields;
-    FieldGuard *m_guard;
 };
 
 void typeText(QWidget *field, const QString &text)

@@ -12,18 +12,8 @@ class RuntimeTest : public QObject
     Q_OBJECT
 
 private slots:
-    void reportTellsNumberAndWords();
     void resumeNextPassesOverRunTimeErrorsOnly();
 };
-
-void RuntimeTest::reportTellsNumberAndWords()
-{
-    QCOMPARE(RunTimeError(RunTimeError::TypeMismatch, u"Type mismatch"_s).report(),
-             u"Run-time error '13': Type mismatch"_s);
-    // The engine's words can hold anything, a "%1" too.
-    QCOMPARE(RunTimeError(RunTimeError::DatabaseFailure, u"no such table: %1"_s).report(),
-             u"Run-time error '-2147467259 (80004005)': no such table: %1"_s);
-}
 
 void RuntimeTest::resumeNextPassesOverRunTimeErrorsOnly()
 {

@@ -40,7 +40,6 @@ private slots:
     void endsWithWhatIsLeft_data();
     void endsWithWhatIsLeft();
     void nothingWaitsOutsideTheFile();
-    void closedTwiceIsLoggedTwice();
     void missingResultFailsAfterTheBookHasGone();
 
 private:
@@ -155,17 +154,6 @@ void ClosingTest::nothingWaitsOutsideTheFile()
     QCOMPARE(journal.size(), 3);
     QVERIFY(journal.first() > 0);
     QCOMPARE(journal.last(), 0);
-}
-
-void ClosingTest::closedTwiceIsLoggedTwice()
-{
-    const BoxScript script({Yes, Yes});
-    for (int time = 0; time < 2; ++time) {
-        QCOMPARE(endStatus([] { closeDraw([] { return true; }); }), 0);
-        ConnectLedger();
-    }
-    QCOMPARE(m_ledger->run(u"SELECT num3up, moneyup FROM tblNumLog WHERE PK > 1"_s),
-             QStringList({u"012 -7"_s, u"012 -7"_s}));
 }
 
 void ClosingTest::missingResultFailsAfterTheBookHasGone()
