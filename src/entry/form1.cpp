@@ -213,7 +213,9 @@ void Form1::Combo1_Click()
     if (m_ticket.isEmpty())
         return;
     const bool read = resumeNext([this] {
-        RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE [Mname] Like ?"_s,
+        // "_" in a name stands for any letter here; whose name it is to the letter comes first.
+        RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE [Mname] Like ?1"
+                        " ORDER BY [Mname] = ?1 DESC"_s,
                         {trimBlanks(m_ui->Combo1->currentText())});
     });
     if (!read)

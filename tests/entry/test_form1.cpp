@@ -31,6 +31,7 @@ private slots:
     void lineWithoutAKindSendsToTheKinds();
     void halfTypedLineIsLostWithTheFocus();
     void customerIsTakenAfterTheFirstLine();
+    void customerIsTakenToTheLetter();
     void discountFollowsEachLine();
     void nameIsCompletedAndTakenBack();
     void spelledOutNameIsChosen();
@@ -138,6 +139,18 @@ void Form1Test::customerIsTakenAfterTheFirstLine()
     QCOMPARE(text("Tname"), u"สมชาย"_s);
     QCOMPARE(text("text2"), u"10"_s);
     QCOMPARE(text("text3"), u"100"_s);
+}
+
+void Form1Test::customerIsTakenToTheLetter()
+{
+    m_ledger->addMember(3, u"lek11"_s, u"50"_s);
+    m_ledger->addMember(4, u"lek_1"_s, u"5"_s);
+    show(std::make_unique<Form1>(m_bar, nullptr));
+    choose("Combo2", 1);
+    key(u"12-1000"_s);
+    choose("Combo1", 4);
+    QCOMPARE(text("Tname"), u"lek_1"_s);
+    QCOMPARE(text("text3"), u"50"_s);
 }
 
 void Form1Test::discountFollowsEachLine()
