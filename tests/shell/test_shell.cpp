@@ -149,7 +149,10 @@ namespace {
 bool logOff(MDIForm1 &window)
 {
 #ifdef Q_OS_WIN
-    return SendMessageW(HWND(window.winId()), WM_QUERYENDSESSION, 0, LPARAM(ENDSESSION_LOGOFF));
+    const auto handle = HWND(window.winId());
+    const bool agreed = SendMessageW(handle, WM_QUERYENDSESSION, 0, LPARAM(ENDSESSION_LOGOFF));
+    SendMessageW(handle, WM_ENDSESSION, agreed, LPARAM(ENDSESSION_LOGOFF)); // what came of it
+    return agreed;
 #else
     return window.close();
 #endif
