@@ -11,7 +11,7 @@ target=$(sed -nE 's/^set\(target (.*)\)$/\1/p' "$windows/toolchain.cmake")
 # The libraries that dependencies.sh builds, under a name made from that file and the toolchain,
 # so that a change of either makes a new set.
 prefix=${DESK_WINDOWS_PREFIX:-${XDG_CACHE_HOME:-$HOME/.cache}/mirakla-desk}
-[[ $prefix == /* ]] || { echo "DESK_WINDOWS_PREFIX has to begin with a slash" >&2 && exit 1; }
+[[ $prefix == /* ]] || { echo "$prefix: the place of the libraries has to begin with a slash" >&2 && exit 1; }
 prefix=$prefix/windows-$(cat "$windows/dependencies.sh" "$windows/toolchain.cmake" | sha256sum | cut -c1-16)
 
 # runtime_places: the folders of the compiler's own libraries, one a line.

@@ -23,8 +23,8 @@ if ((EUID == 0)); then
     plainly=(setpriv --inh-caps=-dac_override --bounding-set=-dac_override)
 fi
 
-# Where a process has its memory laid out at random, in one of some thousands a place is taken that
-# Wine needs, and it does not come up.
+# With memory laid out at random, one start in a thousand or so finds a place taken that Wine needs,
+# and fails.
 if setarch --addr-no-randomize true 2>/dev/null; then
     plainly+=(setarch --addr-no-randomize)
 fi

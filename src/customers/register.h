@@ -41,7 +41,7 @@ void changeCustomer(qint32 key, const QString &column, const QString &text);
 /// True if a line of this draw, in the book or laid off, names the customer. Uses RecordsetA.
 bool hasLines(qint32 key);
 
-/// Deletes a customer; who asks has to see that he has no lines.
+/// Deletes a customer. The caller has to make sure that he has no lines.
 void deleteCustomer(qint32 key);
 
 /// Takes out the characters that names must not hold: "'", "%" and "*".

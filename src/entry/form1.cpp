@@ -213,9 +213,10 @@ void Form1::Combo1_Click()
     if (m_ticket.isEmpty())
         return;
     const bool read = resumeNext([this] {
-        // "_" in a name stands for any letter here; whose name it is to the letter comes first.
+        // "_" in a name stands for any letter here. The customer whom the ticket will be filed for
+        // comes first.
         RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE [Mname] Like ?1"
-                        " ORDER BY [Mname] = ?1 DESC"_s,
+                        " ORDER BY [Mname] = ?1 COLLATE AnyCase DESC, [MPK]"_s,
                         {trimBlanks(m_ui->Combo1->currentText())});
     });
     if (!read)

@@ -30,17 +30,33 @@ bool countsBuddhistEra(const QLocale &region)
     return region.territory() == QLocale::Thailand;
 }
 
+/// Stands for the year while the toolkit writes the rest of a date: it knows neither the era nor, in
+/// some regions' short formats, more than two digits of the year.
+constexpr QChar YearMark(0xE000);
+
+/// A date format with the mark for its year. Quotes hold words, with any letters in them.
+QString withYearMark(const QString &format)
+{
+    QString marked;
+    bool quoted = false;
+    for (const QChar sign : format) {
+        if (sign == u'\'')
+            quoted = !quoted;
+        if (quoted || sign != u'y')
+            marked += sign;
+        else if (!marked.endsWith(YearMark))
+            marked += YearMark;
+    }
+    return marked;
+}
+
 QString dateText(QDate day, const QLocale &region, QLocale::FormatType type)
 {
     if (!day.isValid())
         return QString();
-    // The year goes in behind the toolkit, which knows neither the era nor, in some regions' short
-    // formats, more than two digits of it. Quotes hold words of the format, with any letters.
-    constexpr QChar yearMark(0xE000);
-    static const QRegularExpression yearPart(u"y+(?=[^']*('[^']*'[^']*)*$)"_s);
-    const QString text = region.toString(day, region.dateFormat(type).replace(yearPart, yearMark));
+    const QString text = region.toString(day, withYearMark(region.dateFormat(type)));
     const int year = countsBuddhistEra(region) ? day.year() + 543 : day.year();
-    return QString(text).replace(yearMark, QString::number(year));
+    return QString(text).replace(YearMark, QString::number(year));
 }
 
 } // namespace

@@ -35,8 +35,7 @@ protected:
     const SpreadModel &grid(qsizetype at) const { return *m_grids[at]; }
 
     /// Begins at the first row and takes the row total: that of the longest grid. Raises
-    /// "Overflow" above 32,767 rows; of exactly that many the last row is no end yet, and what follows it
-    /// raises the same.
+    /// "Overflow" above 32,767 rows. A grid of exactly that many raises it behind its last row.
     void takeRowTotal();
 
     bool ActiveReport_FetchData() override;

@@ -128,7 +128,7 @@ void MDIForm1::endSession(QSessionManager &session)
     if (!session.allowsInteraction())
         return;
     if (!MDIForm_QueryUnload())
-        session.cancel(); // not released then: that would take the keys from the program
+        session.cancel(); // no release(): after a cancel it would block the keys
 }
 
 bool MDIForm1::MDIForm_QueryUnload()
@@ -146,7 +146,7 @@ bool MDIForm1::MDIForm_QueryUnload()
     resumeNext(deleteTemporaryFiles);
     resumeNext(CloseLedger);
     if (inTheMidst)
-        endProgram(0); // what waits for the box has to go on neither with its page nor with a book
+        endProgram(0); // the code that waits for the box must not go on: its book is closed
     QApplication::quit();
     return true;
 }

@@ -77,6 +77,7 @@ void Form4Test::missingDigitIsShown()
     click("Command18");
     click("lvButtons_H1");
     QCOMPARE(amounts(), u"30,000 / 70,000"_s); // what was found stays
+    QCOMPARE(rows(), 1);
     Hands::type(keyed);
     click("Command18");
     QTEST(m_hands->takeBoxes(), "boxes");

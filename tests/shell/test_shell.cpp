@@ -120,14 +120,15 @@ void ShellTest::endLeavesOneFile()
     QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList(u"keep.txt"_s));
     QCOMPARE(bookFiles(), QStringList(u"ztkdata.ZDB"_s));
     m_hands.takeBoxes();
-    m_window.reset();
-    leaveOnlyInstance();
 }
 
 /// The desktop ends the program while a box says that a customer is added: the list behind it is
 /// not read again from a book that is closed.
 void ShellTest::logOffEndsTheWorkBehindABox()
 {
+    m_window.reset();
+    CloseLedger();
+    leaveOnlyInstance(); // all of which another program will have
     QProcess program;
     program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
 #ifdef Q_OS_WIN // its log-off reaches programs of its own desktop only
