@@ -12,6 +12,10 @@
 #include <cstdio>
 #include <cstdlib>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -63,6 +67,13 @@ int runProgram()
 
 Victim::Victim(const QString &folder, quint32 seed)
 {
+#ifdef Q_OS_WIN
+    // Without a console: one that is being started for a process that is struck stays behind, and holds
+    // the output of the test open.
+    m_process.setCreateProcessArgumentsModifier([](QProcess::CreateProcessArguments *start) {
+        start->flags = (start->flags & ~ulong(CREATE_NO_WINDOW)) | DETACHED_PROCESS;
+    });
+#endif
     m_process.start(QCoreApplication::applicationFilePath(),
                     {u"victim"_s, folder, QString::number(seed)});
     if (!m_process.waitForStarted())
