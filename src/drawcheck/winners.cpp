@@ -5,7 +5,7 @@
 #include "runtime/values.h"
 #include "shell/globals.h"
 
-#include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 

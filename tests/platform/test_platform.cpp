@@ -11,7 +11,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QKeyEvent>
-#include <QScopeGuard>
 #include <QTest>
 #include <QWindow>
 
