@@ -9,8 +9,10 @@
 # One package a line: the group it belongs to, its name, and what it is for.
 #   build   to configure and compile the program
 #   screen  to show windows where there is no display
-#   test    to run the tests and the format check
-#   lint    to run the static checks by hand
+#   test    to run the tests
+#   bench   to run the benchmarks
+#   bare    to try the project on a system that has nothing installed
+#   lint    to check source and scripts
 #   fuzz    to build the fuzzers by hand
 #   windows to build and try the program for Windows
 #   voice   to make the recordings anew
@@ -24,7 +26,6 @@ build   libgl-dev         OpenGL headers, without which Qt is not found by CMake
 build   libsqlcipher-dev  the encrypted database that holds the book
 build   libx11-dev        the keyboard state of the X server
 build   libsdl2-mixer-dev plays sounds
-build   libbenchmark-dev  measures the benchmarks
 build   fonts-noto-core   draws Thai and Latin text
 screen  xvfb              a virtual screen
 screen  xauth             admits programs to the virtual screen
@@ -32,10 +33,13 @@ test    sqlcipher         reads the book independently of the program
 test    libssl-dev        decrypts the book independently of the program
 test    libfreexl-dev     reads sheets independently of the program
 test    poppler-utils     reads PDF files independently of the program
-test    clang-format      checks the layout of the source
+bench   libbenchmark-dev  measures the benchmarks
+bare    debootstrap       installs a system into a folder
+lint    clang-format      checks the layout of the source
+lint    shellcheck        checks the scripts for common mistakes
 lint    clang-tidy        checks the source for common mistakes
 fuzz    clang             the C++ compiler with a fuzzer
-fuzz    libclang-rt-14-dev libraries of the fuzzer and the sanitizers
+fuzz    libclang-rt-dev   libraries of the fuzzer and the sanitizers
 windows g++-mingw-w64-x86-64-posix  the compiler for Windows
 windows dpkg-dev          unpacks the sources of the libraries
 windows perl              configures one of them
@@ -54,6 +58,19 @@ die()
     exit 1
 }
 
+# True on the systems whose packages are known to be named as above and to be new enough.
+is_supported()
+{
+    local ID='' VERSION_ID=''
+    # shellcheck source=/dev/null
+    [[ -r /etc/os-release ]] && source /etc/os-release
+    case $ID in
+        debian) [[ -z $VERSION_ID || ${VERSION_ID%%.*} -ge 12 ]] ;; # testing has no number
+        ubuntu) [[ ${VERSION_ID%%.*} -ge 24 ]] ;;
+        *) false ;;
+    esac && command -v dpkg-query >/dev/null && command -v apt-get >/dev/null
+}
+
 # install_missing GROUP...: installs the packages of the groups that are not yet
 # there. Asks the package system once, and touches nothing if all are present.
 install_missing()
@@ -69,9 +86,8 @@ install_missing()
         fi
     done <<<"$packages"
 
-    if ! command -v dpkg-query >/dev/null || ! command -v apt-get >/dev/null; then
-        die "this is not a Debian system (no apt-get); needed are: ${wanted[*]}"
-    fi
+    is_supported ||
+        die "packages are installed on Debian from 12 and Ubuntu from 24.04 only; here install what Debian calls: ${wanted[*]}; then build with CMake, as CONTRIBUTING.md says"
 
     # dpkg-query reports failure as soon as one package is unknown to it; the
     # lines it prints for the others are what counts.
@@ -102,13 +118,22 @@ install_missing()
 }
 
 # build PRESET [TARGET...]: configures and builds the targets, or everything if
-# none is named. Once configured, Ninja itself notices changed CMakeLists.txt
-# files; only a change of the presets has to be looked for here.
+# none is named. The presets release, test, bench and ci share a folder, so that
+# what one has built the next need not build again: each adds its option to those
+# that are on. Once configured, Ninja itself notices changed CMakeLists.txt files;
+# only a change of the presets or of the option has to be looked for here.
 build()
 {
-    local preset=$1
+    local preset=$1 folder=build/release option=''
     shift
-    if [[ ! build/$preset/build.ninja -nt CMakePresets.json ]]; then
+    case $preset in
+        test) option=BUILD_TESTING ;;
+        bench) option=MIRAKLA_BENCHMARKS ;;
+        ci) option=CMAKE_COMPILE_WARNING_AS_ERROR ;;
+        dev) folder=build/dev ;;
+    esac
+    if [[ ! $folder/build.ninja -nt CMakePresets.json ]] ||
+        { [[ -n $option ]] && ! grep -q "^$option:[A-Z]*=ON\$" "$folder/CMakeCache.txt"; }; then
         cmake --preset "$preset" || die "the $preset build could not be configured"
     fi
     cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"} ||
@@ -117,6 +142,6 @@ build()
 
 if [[ ${BASH_SOURCE[0]} == "$0" ]]; then
     set -euo pipefail
-    install_missing build screen test lint
+    install_missing build screen test bench lint
     echo "All packages are installed."
 fi

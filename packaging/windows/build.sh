@@ -14,10 +14,11 @@ build_windows()
     local prefix
     install_missing build screen test windows
     prefix=$(packaging/windows/dependencies.sh) || die "the libraries for Windows could not be built"
-    build release keeper other_reader make-empty-ledger
+    build test keeper other_reader make-empty-ledger
     # What CMake has found it does not look for again, and it would go on with other libraries.
     grep -qsF "=$prefix" "$windows_build/CMakeCache.txt" || rm -rf "$windows_build"
     cmake -G Ninja -S . -B "$windows_build" -DCMAKE_BUILD_TYPE=Release \
+        -DBUILD_TESTING=ON -DMIRAKLA_BENCHMARKS=ON -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
         -DCMAKE_TOOLCHAIN_FILE="$PWD/packaging/windows/toolchain.cmake" \
         -DDESK_SYSROOT="$prefix" -DDESK_NATIVE_BUILD="$PWD/build/release" \
         -DDESK_WINDOWS_ZIP="$PWD/$windows_zip" \
