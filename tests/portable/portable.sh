@@ -61,8 +61,9 @@ while read -r file; do
     [[ $file == "$folder"/* || ! ( -e $folder/lib/$name || $name == libQt* || $name == *.ttf ) ]] ||
         fail "$file was taken from the machine"
 done < <(saw file)
-for text in LICENSE.txt licenses/libqt6core6.txt licenses/LGPL-3.txt licenses/fonts-noto-core.txt; do
-    [[ -s $folder/$text ]] || fail "$text is missing"
+# Newer releases have t64 at the end of a library's package.
+for text in "$folder"/{LICENSE.txt,licenses/{libqt6core6*,LGPL-3,fonts-noto-core}.txt}; do
+    [[ -s $text ]] || fail "${text##*/} is missing"
 done
 [[ -z $(find "$folder" -type l) ]] || fail "a link, which not every stick can hold"
 

@@ -69,11 +69,15 @@ QString runStockTool(const QString &path, const QString &password, const QString
     QProcess tool;
     tool.setProcessChannelMode(QProcess::MergedChannels);
     tool.start(u"sqlcipher"_s, {u"-batch"_s, path});
+    // Newer versions print a word for the key; what stands above the dashes is dropped.
     if (!password.isEmpty())
         tool.write(
-            u"PRAGMA key = '%1'; PRAGMA cipher_compatibility = 3;\n"_s.arg(password).toUtf8());
+            u"PRAGMA key = '%1'; PRAGMA cipher_compatibility = 3; SELECT '---';\n"_s.arg(password)
+                .toUtf8());
     tool.write(commands.toUtf8() + '\n');
     tool.closeWriteChannel();
     tool.waitForFinished();
-    return QString::fromUtf8(tool.readAll()).remove(u'\r').trimmed();
+    const QString printed = QString::fromUtf8(tool.readAll()).remove(u'\r');
+    const qsizetype dashes = printed.indexOf(u"---\n"_s);
+    return printed.sliced(dashes < 0 ? 0 : dashes + 4).trimmed();
 }
