@@ -13,16 +13,23 @@ usage()
 {
     cat <<'USAGE'
 Usage: packaging/bare.sh [--root] [--keep] [--language LANG] SUITE
+       packaging/bare.sh --folder [--keep] SUITE
+       packaging/bare.sh --inside SUITE COMMAND...
        packaging/bare.sh --reachable SUITE
 
 Installs the release SUITE of Debian or Ubuntu (bookworm, trixie, noble, ...)
 into build/bare/SUITE, clones the last commit into a home folder whose name has
 a blank and Thai letters, runs ./run and ./test there, then ./run once more
-without network, and prints how long each took. Must be started by root.
+without network, and prints how long each took. Where this machine has built its
+own tests, one book is then kept by turns here and there. Must be started by root.
 
   --root            Run the commands as root; otherwise as a user with sudo.
   --keep            Leave the system in build/bare/SUITE for further trials.
   --language LANG   Set LANG to this locale, and install it (default: C).
+  --folder          Instead, install what every desktop has, and start the
+                    portable folder there that ./run folder has made here.
+  --inside          Only run a command in a system that was kept, with /tmp
+                    of this machine.
   --reachable       Only say by the exit status whether this can be done here.
 
 Packages come from the archive that this machine uses; DESK_MIRROR names another.
@@ -30,19 +37,19 @@ USAGE
 }
 
 home='/home/โพย งวดนี้'
-user=agent keep='' language=C only_ask=''
+user=agent keep='' language=C mode=commands
 while [[ ${1-} == -* ]]; do
     case $1 in
         --root) user=root ;;
         --keep) keep=yes ;;
         --language) language=${2-} && shift ;;
-        --reachable) only_ask=yes ;;
+        --folder | --inside | --reachable) mode=${1#--} ;;
         -h | --help) usage && exit 0 ;;
         *) usage >&2 && exit 2 ;;
     esac
     shift
 done
-(($# == 1)) || { usage >&2 && exit 2; }
+(($# == 1)) || [[ $mode == inside && $# -gt 1 ]] || { usage >&2 && exit 2; }
 suite=$1
 system=$PWD/build/bare/$suite
 mirror=${DESK_MIRROR-}
@@ -60,25 +67,17 @@ reachable()
     return "$status"
 }
 
-((EUID == 0)) || die "only root can install a system into a folder"
-[[ -n $mirror ]] || die "no package archive is known; name one in DESK_MIRROR"
-reachable || die "the release $suite cannot be had from the package archive"
-[[ -z $only_ask ]] || exit 0
-
-install_missing bare
-
-# inside [OPTION...] -- USER COMMAND...: runs a command in the bare system. Options are those of
-# unshare. What the command leaves running ends with it.
+# inside [--net] USER COMMAND...: runs a command in the bare system, with --net cut off from the
+# network. What the command leaves running ends with it.
 inside()
 {
-    local -a options=()
-    while [[ $1 != -- ]]; do
-        options+=("$1")
-        shift
-    done
-    local who=$2
-    shift 2
-    unshare --mount --pid --fork --kill-child --root="$system" --wd=/ --mount-proc "${options[@]}" \
+    local -a net=()
+    [[ $1 != --net ]] || { net=(--net) && shift; }
+    local who=$1
+    shift
+    # shellcheck disable=SC2016 # expanded by the inner shell
+    unshare --mount --pid --fork --kill-child "${net[@]}" bash -c '
+        mount -t proc proc "$1/proc" && mount --bind /tmp "$1/tmp" && exec chroot "$@"' bash "$system" \
         setpriv --reuid="$who" --regid="$who" --init-groups \
         env -i LANG="$language" HOME="$home" USER="$who" TERM=dumb \
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin "$@"
@@ -87,45 +86,84 @@ inside()
 make_system()
 {
     local -a script=()
-    local include=git,sudo,ca-certificates
+    local include=$1
     [[ $language == C* ]] || include+=,locales
-    # An older debootstrap does not know the names of newer releases; those of one maker are alike.
+    # An older debootstrap does not know the names of newer releases; Ubuntu's are made alike.
     if [[ ! -e /usr/share/debootstrap/scripts/$suite ]]; then
-        script=(/usr/share/debootstrap/scripts/gutsy) # of all releases of Ubuntu
+        script=(/usr/share/debootstrap/scripts/gutsy)
     fi
     rm -rf "$system"
     mkdir -p "$system"
     debootstrap --variant=minbase --components=main,universe --include="$include" \
         "$suite" "$system" "$mirror" "${script[@]}" >"$system.log" 2>&1 ||
         die "debootstrap failed, see $system.log"
-    [[ $language == C* ]] || inside -- root localedef -i "${language%.*}" -f "${language#*.}" "$language"
-    inside -- root useradd --create-home --home-dir "$home" --shell /bin/bash agent
-    echo 'agent ALL=(ALL) NOPASSWD: ALL' >"$system/etc/sudoers.d/agent"
-    git clone -q . "$system$home/mirakla-desk"
-    inside -- root chown -R "$user:" "$home/mirakla-desk"
+    [[ $language == C* ]] || inside root localedef -i "${language%.*}" -f "${language#*.}" "$language"
+    inside root useradd --create-home --home-dir "$home" --shell /bin/bash agent
 }
 
 report=()
-# timed WHAT [OPTION...] -- COMMAND...
+# timed [--net] COMMAND...: runs a command in the clone.
 timed()
 {
-    local what=$1 begin=$SECONDS
-    local -a options=()
-    shift
-    while [[ $1 != -- ]]; do
-        options+=("$1")
-        shift
-    done
-    shift
-    inside "${options[@]}" -- "$user" bash -c "cd ~/mirakla-desk && $*" ||
+    local begin=$SECONDS what=$1
+    local -a net=()
+    [[ $1 != --net ]] || { net=("$1") && shift && what="$1 without network"; }
+    # shellcheck disable=SC2016 # expanded by the inner shell
+    inside "${net[@]}" "$user" bash -c 'cd ~/mirakla-desk && exec "$@"' bash "$@" ||
         die "$what failed on $suite; the system is left in $system"
-    report+=("$(printf '%-28s %4d s' "$what" $((SECONDS - begin)))")
+    report+=("$(printf '%-24s %4d s' "$what" $((SECONDS - begin)))")
 }
 
-make_system
-timed './run' -- ./run
-timed './test' -- ./test
-timed './run without network' --net -- ./run
+try_commands()
+{
+    local build=$home/mirakla-desk/build/release
+    make_system git,sudo,ca-certificates
+    echo 'agent ALL=(ALL) NOPASSWD: ALL' >"$system/etc/sudoers.d/agent"
+    git clone -q . "$system$home/mirakla-desk"
+    inside root chown -R "$user:" "$home"
+    timed ./run
+    timed ./test
+    timed --net ./run
+    if [[ -x build/release/keeper ]]; then
+        tests/twosystems/bothways.sh build/release "$build/keeper" "$build/make-empty-ledger" \
+            packaging/bare.sh --inside "$suite" || die "one book cannot be kept here and on $suite"
+        report+=("one book kept by turns here and there")
+    else
+        report+=("one book kept by turns NOT RUN: ./test has not been run here")
+    fi
+}
+
+try_folder()
+{
+    local archive plugins=build/release/tests/portable/plugins
+    archive=$(echo build/portable/*.tar.gz)
+    [[ -e $archive && -d $plugins ]] || die "./run folder and ./test have to be run here first"
+    # Programs of a desktop, for the sake of the libraries that they share with all desktops.
+    make_system ca-certificates,zenity,mesa-utils,alsa-utils,xvfb,xauth
+    tar -xf "$archive" -C "$system$home"
+    cp -r "$plugins" "$system$home/visitor"
+    inside root chown -R agent: "$home"
+    # shellcheck disable=SC2016 # expanded by the inner shell
+    inside agent bash -c 'cd ~ && QT_PLUGIN_PATH=$HOME/visitor QT_QPA_GENERIC_PLUGINS=visitor \
+        SDL_AUDIODRIVER=dummy xvfb-run -a timeout 30 mirakla-desk-*/mirakla-desk' >"$system.seen" ||
+        die "the folder does not start on $suite; the system is left in $system"
+    grep -q '^type: Noto Sans, Noto Sans Thai$' "$system.seen" || die "Thai is not drawn; see $system.seen"
+    [[ $(sqlcipher "$system$home"/mirakla-desk-*/data/ztkdata.ZDB "PRAGMA key = '639417';
+        PRAGMA cipher_compatibility = 3; SELECT numValue, numBuy FROM tblNumber;" | tail -n 1) == '123|100' ]] ||
+        die "the folder on $suite has not saved its ticket"
+    report+=("The portable folder starts, draws Thai and saves a ticket.")
+}
+
+((EUID == 0)) || die "only root can install a system into a folder"
+if [[ $mode == inside ]]; then
+    inside "$user" "${@:2}"
+    exit
+fi
+[[ -n $mirror ]] || die "no package archive is known; name one in DESK_MIRROR"
+reachable || die "the release $suite cannot be had from the package archive"
+[[ $mode != reachable ]] || exit 0
+install_missing bare
+"try_$mode"
 [[ -n $keep ]] || rm -rf "$system"
 echo "=== $suite, ${user/agent/a user with sudo}, LANG=$language"
 printf '%s\n' "${report[@]}"

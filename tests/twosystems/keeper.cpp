@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 // Keeps a book for a while and tells all that stands in it: the same program on both systems, so
 // that what one keyed can be held against what the other reads.
-// Usage: keeper FOLDER SEED [leave]. Works on the book as follows from SEED, not at all for 0; "leave"
-// ends as a killed process does, with the journal still beside the book.
+// Usage: keeper FOLDER SEED [leave|wipe]. Works on the book as follows from SEED, not at all for 0.
+// "leave" ends as a killed process does, with the WAL still beside the book; "wipe" wipes it first.
 #include "entry/save.h"
 #include "faults/daybook.h"
 #include "ledger/ledger.h"
 #include "platform/clock.h"
 #include "platform/msgbox.h"
 #include "platform/programfolder.h"
+#include "settings/closing.h"
 #include "settings/hotnumbers.h"
 #include "settings/rates.h"
+#include "support/boxscript.h"
 #include "support/noprogress.h"
+#include "support/outcome.h"
 
 #include <QCoreApplication>
 #include <QRandomGenerator>
@@ -59,6 +62,15 @@ void workOn(quint32 seed)
     }
 }
 
+/// The wipe ends the program, so the Ledger is opened once more.
+void wipe()
+{
+    const BoxScript yes({BoxAnswer::Ok, BoxAnswer::Ok});
+    if (endStatus(wipeLedger) != 0)
+        qFatal("the program did not end with the wipe");
+    ConnectLedger();
+}
+
 void tell(const QString &statement)
 {
     for (const QVariantList &row : LedgerConnection->run(statement).rows) {
@@ -86,6 +98,8 @@ int main(int argc, char **argv)
     CurrentUser = u"sv"_s;
     setClock([] { return QDateTime({2026, 11, 22}, {9, 5}); });
     const quint32 seed = arguments.value(2).toUInt();
+    if (arguments.value(3) == u"wipe"_s)
+        wipe();
     if (seed != 0)
         workOn(seed);
     tell(u"PRAGMA integrity_check"_s);
