@@ -28,8 +28,8 @@ own tests, one book is then kept by turns here and there. Must be started by roo
   --language LANG   Set LANG to this locale, and install it (default: C).
   --folder          Instead, install what every desktop has, and start the
                     portable folder there that ./run folder has made here.
-  --inside          Only run a command in a system that was kept, with /tmp
-                    of this machine.
+  --inside          Only run a command, as root, in a system that was kept, with
+                    /tmp of this machine.
   --reachable       Only say by the exit status whether this can be done here.
 
 Packages come from the archive that this machine uses; DESK_MIRROR names another.
@@ -156,7 +156,7 @@ try_folder()
 
 ((EUID == 0)) || die "only root can install a system into a folder"
 if [[ $mode == inside ]]; then
-    inside "$user" "${@:2}"
+    inside root "${@:2}"
     exit
 fi
 [[ -n $mirror ]] || die "no package archive is known; name one in DESK_MIRROR"
