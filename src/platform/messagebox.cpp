@@ -2,8 +2,12 @@
 #include "platform/messagebox.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
+
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +30,53 @@ QMessageBox::Icon iconOf(BoxIcon icon)
     return QMessageBox::NoIcon;
 }
 
+/// A box may come up under the pointer between the two halves of a double click. It takes a press
+/// of the mouse only once the double-click interval has passed since it was painted.
+class BoxWindow : public QMessageBox
+{
+public:
+    using QMessageBox::QMessageBox;
+
+    /// To be called when all buttons are there.
+    void guardButtons()
+    {
+        const QList<QAbstractButton *> all = buttons();
+        for (QAbstractButton *button : all) {
+            button->installEventFilter(this);
+            button->setFocusPolicy(Qt::TabFocus); // a press that is not taken moves no focus either
+        }
+    }
+
+protected:
+    bool event(QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint) // queued: painting may be slow, and does not count
+            QMetaObject::invokeMethod(this, &BoxWindow::appeared, Qt::QueuedConnection);
+        return QMessageBox::event(event);
+    }
+
+    bool eventFilter(QObject *object, QEvent *event) override
+    {
+        const bool doubled = event->type() == QEvent::MouseButtonDblClick;
+        if (!doubled && event->type() != QEvent::MouseButtonPress)
+            return QMessageBox::eventFilter(object, event);
+        const bool firstPress = !std::exchange(m_pressed, true);
+        return (doubled && firstPress) // the first half went elsewhere, however long ago
+               || !m_sinceShown.isValid()
+               || !m_sinceShown.hasExpired(QApplication::doubleClickInterval());
+    }
+
+private:
+    void appeared()
+    {
+        if (!m_sinceShown.isValid()) // painted for the first time
+            m_sinceShown.start();
+    }
+
+    QElapsedTimer m_sinceShown;
+    bool m_pressed = false;
+};
+
 } // namespace
 
 BoxAnswer showMessageBox(const Box &box)
@@ -34,7 +85,7 @@ BoxAnswer showMessageBox(const Box &box)
     static QPointer<QWidget> opener;
     if (QWidget *active = QApplication::activeWindow())
         opener = active;
-    QMessageBox window(opener);
+    BoxWindow window(opener);
     window.setObjectName(u"MsgBox"_s);
     window.setWindowModality(Qt::ApplicationModal);
     window.setIcon(iconOf(box.style.icon));
@@ -45,6 +96,7 @@ BoxAnswer showMessageBox(const Box &box)
     window.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
     window.setDefaultButton(box.style.preselected == BoxAnswer::Ok ? QMessageBox::Ok
                                                                    : QMessageBox::Cancel);
+    window.guardButtons();
     const bool accepted = window.exec() == QMessageBox::Ok;
     if (opener)
         opener->activateWindow(); // a desktop without a window manager leaves it without keys

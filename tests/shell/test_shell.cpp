@@ -4,6 +4,7 @@
 #include "ledger/schema.h"
 #include "platform/application.h"
 #include "platform/clock.h"
+#include "platform/msgbox.h"
 #include "platform/programfolder.h"
 #include "platform/pushbutton.h"
 #include "platform/region.h"
@@ -15,7 +16,9 @@
 #include <QDir>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -37,6 +40,7 @@ private slots:
     void startsReadyForTheFirstKey();
     void pagesStartAfresh();
     void cancelKeepsEverything();
+    void boxTakesNoHalfOfADoubleClick();
     void endLeavesOneFile();
     void logOffEndsTheWorkBehindABox();
 
@@ -107,6 +111,40 @@ void ShellTest::cancelKeepsEverything()
     QVERIFY(m_window->isVisible());
     QVERIFY(LedgerConnection);
     QCOMPARE(control<QLineEdit>("Tnumber")->text(), u"12"_s);
+}
+
+void ShellTest::boxTakesNoHalfOfADoubleClick()
+{
+    const auto restore = qScopeGuard([interval = QApplication::doubleClickInterval()] {
+        QApplication::setDoubleClickInterval(interval);
+    });
+    bool early = true;
+    connect(&m_hands, &Hands::boxShown, m_window.get(), [&](QWidget *window) {
+        auto *box = qobject_cast<QMessageBox *>(window);
+        QWidget *ok = box->button(QMessageBox::Ok);
+        QApplication::setDoubleClickInterval(early ? 60'000 : 0);
+        if (early)
+            QTest::mouseClick(ok, Qt::LeftButton); // before the box is painted
+        QVERIFY(QTest::qWaitForWindowActive(box));
+        QTest::qWait(50);
+        if (early) {
+            QTest::mouseClick(ok, Qt::LeftButton);
+        } else { // a second half that has waited behind slow work
+            QTest::mouseDClick(ok, Qt::LeftButton);
+            QTest::mouseRelease(ok, Qt::LeftButton);
+        }
+        QVERIFY(box->isVisible());
+        QVERIFY(box->defaultButton()->hasFocus());
+        QApplication::setDoubleClickInterval(0);
+        QTest::mouseClick(ok, Qt::LeftButton);
+        QVERIFY(!box->isVisible());
+    });
+    for (const bool each : {true, false}) {
+        early = each;
+        QVERIFY(ask(u"?"_s, {}, BoxIcon::Question, BoxAnswer::Cancel));
+    }
+    disconnect(&m_hands, nullptr, m_window.get(), nullptr);
+    m_hands.takeBoxes();
 }
 
 void ShellTest::endLeavesOneFile()

@@ -71,8 +71,10 @@ void Hands::answer(QMessageBox *box)
                    .arg(box->windowTitle(), QString::number(box->icon()),
                         box->defaultButton()->text().remove(u'&'));
     emit boxShown(box);
-    if (std::exchange(m_pressOk, false))
-        QTest::mouseClick(box->button(QMessageBox::Ok), Qt::LeftButton);
+    if (!box->isVisible()) // answered by whoever waited for it
+        return;
+    if (std::exchange(m_pressOk, false)) // with a key: a mouse would have to wait
+        QTest::keyClick(box->button(QMessageBox::Ok), Qt::Key_Space);
     else
         QTest::keyClick(box, Qt::Key_Return);
 }

@@ -45,7 +45,7 @@ public:
     void inNextDialog(std::function<void(QWidget *dialog)> work) { m_inDialog = std::move(work); }
 
 signals:
-    /// A box is on the screen and has not been answered yet.
+    /// A box is on the screen and has not been answered yet. Whoever listens may answer it.
     void boxShown(QWidget *box);
 
 protected:
