@@ -117,28 +117,45 @@ void Spread::currentChanged(const QModelIndex &current, const QModelIndex &previ
         emit rowPicked(current.row() + 1);
 }
 
+/// A press beside the rows picks none, nor does a move of the mouse that begins there.
 void Spread::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton) // no other button moves the active row
         return;
+    m_rowPressed = indexAt(event->pos()).isValid();
+    if (!m_rowPressed)
+        return;
     const int before = activeRow();
     QTableView::mousePressEvent(event);
-    if (before > 0 && before == activeRow() && indexAt(event->pos()).isValid())
+    if (before > 0 && before == activeRow())
         emit rowPicked(before);
+}
+
+void Spread::mouseMoveEvent(QMouseEvent *event)
+{
+    if (m_rowPressed)
+        QTableView::mouseMoveEvent(event);
 }
 
 /// A slip of the mouse moves the active row while the button is held: the click is where it ends.
 void Spread::mouseReleaseEvent(QMouseEvent *event)
 {
     QTableView::mouseReleaseEvent(event);
-    if (event->button() == Qt::LeftButton && activeRow() > 0)
+    if (event->button() == Qt::LeftButton && std::exchange(m_rowPressed, false) && activeRow() > 0)
         emit rowClicked();
 }
 
+/// The second half of a double click counts by itself: the first may have answered a box or closed
+/// a list in front of the grid, and then has made no row active.
 void Spread::mouseDoubleClickEvent(QMouseEvent *event)
 {
-    if (event->button() == Qt::LeftButton && indexAt(event->pos()).isValid())
-        emit rowOpened();
+    if (event->button() != Qt::LeftButton)
+        return;
+    mousePressEvent(event);
+    if (!std::exchange(m_rowPressed, false)) // the release may go to what is opened
+        return;
+    emit rowClicked();
+    emit rowOpened();
 }
 
 /// Letters do not move the active row: an amount typed in the wrong place would.

@@ -54,6 +54,7 @@ protected:
     void changeEvent(QEvent *event) override;
     void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
     void mouseReleaseEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
@@ -68,5 +69,6 @@ private:
     int m_rowPoints = 18;
     int m_rowBefore = 0; ///< the active row before the model was reset
     QList<int> m_hidden{0};
-    bool m_picking = true; ///< false while code sets the active row
+    bool m_picking = true;     ///< false while code sets the active row
+    bool m_rowPressed = false; ///< the mouse button went down on a row and is held
 };

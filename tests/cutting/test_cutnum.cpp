@@ -46,8 +46,9 @@ void CutNumTest::amountIsChecked()
     QString left;
     cut(1, [&](QWidget *dialog) {
         auto *lines = dialog->findChild<Spread *>();
-        if (chosen)
-            QTest::mouseClick(lines->viewport(), Qt::LeftButton, {}, {40, 10});
+        const QPoint belowTheRows = lines->viewport()->rect().center();
+        QTest::mouseClick(lines->viewport(), Qt::LeftButton, {},
+                          chosen ? QPoint(40, 10) : belowTheRows);
         auto *field = dialog->findChild<QLineEdit *>(u"text1"_s);
         field->setText(amount);
         Hands::click(dialog->findChild<PushButton *>(u"lvButtons_H3"_s)); // Enter answers Cancel
@@ -100,6 +101,9 @@ void CutNumTest::slipOfTheMouseNamesTheActiveRow()
         QTest::mouseRelease(lines->viewport(), Qt::LeftButton, {}, place(2, 5));
         QCOMPARE(name->text(), u" สมหญิง"_s);
         QTest::mouseClick(lines->viewport(), Qt::RightButton, {}, place(1, 4));
+        QTest::mousePress(lines->viewport(), Qt::LeftButton, {}, place(2, 4) * 4); // on no row
+        QTest::mouseMove(lines->viewport(), place(1, 4));
+        QTest::mouseRelease(lines->viewport(), Qt::LeftButton, {}, place(1, 4));
         lines->setFocus();
         Hands::type(u"1"_s); // meant for the amount
         QCOMPARE(lines->activeRow(), 2);

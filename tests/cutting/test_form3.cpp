@@ -31,6 +31,7 @@ private slots:
     void leavingThePageHidesTheStrip();
     void buttonsOpenWhatTheyAreGiven();
     void enterOpensAfterAReload();
+    void doubleClickOpensTheRowUnderTheMouse();
     void boardDecidesWhetherADrawCanBeClosed_data();
     void boardDecidesWhetherADrawCanBeClosed();
 
@@ -303,6 +304,29 @@ void Form3Test::enterOpensAfterAReload()
     grid(1)->setFocus();
     Hands::press(Qt::Key_Return);
     QVERIFY(opened);
+}
+
+/// Its first half may have answered a box in front of the board.
+void Form3Test::doubleClickOpensTheRowUnderTheMouse()
+{
+    QStringList opened;
+    control<TabStrip>("SSTab1")->setTab(0);
+    const auto doubleClick = [&](int number, int row) {
+        m_hands->inNextDialog([&](QWidget *dialog) {
+            opened += SelNumValue;
+            dialog->close();
+        });
+        const QRect first = grid(number)->visualRect(grid(number)->model()->index(0, 1));
+        QTest::mouseDClick(grid(number)->viewport(), Qt::LeftButton, {},
+                           first.center() + QPoint(0, (row - 1) * first.height()));
+    };
+    doubleClick(8, 1); // no row is active yet
+    doubleClick(8, 2); // and there is none
+    QCOMPARE(opened, QStringList(u"7"_s));
+    control<TabStrip>("SSTab1")->setTab(1);
+    grid(1)->setActiveRow(1);
+    doubleClick(1, 2);
+    QCOMPARE(opened, QStringList({u"7"_s, u"456"_s}));
 }
 
 void Form3Test::boardDecidesWhetherADrawCanBeClosed_data()
