@@ -17,6 +17,7 @@
 #include "runtime/values.h"
 #include "shell/globals.h"
 
+#include <QApplication>
 #include <QFocusEvent>
 #include <QScopeGuard>
 #include <QShortcut>
@@ -79,7 +80,7 @@ void Form3::connectControls()
     connect(m_ui->lvButtons_H6, &QPushButton::clicked, this, [this] { m_openers.showScan(*this); });
     connect(m_ui->lvButtons_H7, &QPushButton::clicked, this, &Form3::lvButtons_H7_Click);
     auto *reload = new QShortcut(Qt::Key_F5, this);
-    reload->setContext(Qt::WidgetWithChildrenShortcut);
+    reload->setContext(Qt::WindowShortcut); // the customer strip is outside the page
     reload->setAutoRepeat(false);
     connect(reload, &QShortcut::activated, this, &Form3::Form_KeyDown);
 }
@@ -90,10 +91,10 @@ void Form3::Form_Load()
     FReLoad();
 }
 
-/// F5, wherever the focus is on the page: leaves the filter.
+/// F5, wherever the focus is in the main window: leaves the filter.
 void Form3::Form_KeyDown()
 {
-    if (MemberFilterOn)
+    if (MemberFilterOn && !QApplication::activeModalWidget())
         m_ui->lvButtons_H7->click(); // a cut has hidden it, maybe
 }
 
@@ -316,6 +317,17 @@ void Form3::fpSpread_DblClick(int at)
     m_spreads[at]->setActiveRow(std::min(row, grid.rows())); // so that the next Enter goes on here
 }
 
+/// Puts the focus on the first board shown that has rows, so that the next Enter opens one.
+void Form3::focusShownBoard()
+{
+    const int first = m_ui->SSTab1->tab() == TopTab ? 0 : TopClassCount;
+    const int end = first == 0 ? TopClassCount : ClassCount;
+    int at = first;
+    while (at < end && m_board.grids[at].rows() == 0)
+        ++at;
+    m_spreads[at < end ? at : first]->setFocus();
+}
+
 void Form3::showCutNum(QWidget *owner, const std::function<void()> &scanAgain)
 {
     CutNum dialog([&] { closeCut(scanAgain); }, owner);
@@ -326,6 +338,7 @@ void Form3::showCutNum(QWidget *owner, const std::function<void()> &scanAgain)
 /// MemberFilterOn stays.
 void Form3::closeCut(const std::function<void()> &scanAgain)
 {
+    const auto *focus = qobject_cast<Spread *>(window()->focusWidget()); // behind the cut-out
     if (MemberFilterOn)
         FReLoad();
     else if (const int at = selectedClass(); at >= 0)
@@ -333,6 +346,8 @@ void Form3::closeCut(const std::function<void()> &scanAgain)
     if (scanAgain)
         scanAgain();
     showWholeBook(); // last, so that the total was not written while the strip was still shown
+    if (focus && focus->isHidden()) // the reload has ended on the other tab
+        focusShownBoard();
 }
 
 /// " &แสดงเลขที่คัดออก": what has been laid off.

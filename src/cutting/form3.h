@@ -74,6 +74,7 @@ private:
 
     void SSTab1_Click();
     void fpSpread_DblClick(int at);
+    void focusShownBoard();
     void closeCut(const std::function<void()> &scanAgain);
 
     void lvButtons_H3_Click();

@@ -120,7 +120,9 @@ void Form3Test::filterShowsOneCustomer()
     QCOMPARE(controls(), u"lvButtons_H7 text2- text3-"_s);
     QCOMPARE(text("text2"), u"2,040"_s); // not the customer's
     QCOMPARE(Hands::focus()->objectName(), u"fpSpread1"_s);
+    banner<QLineEdit>("Tname")->setFocus(); // outside the page
     Hands::press(Qt::Key_F5);
+    QVERIFY(page().isAncestorOf(Hands::focus()));
     QCOMPARE(controls(), u"Combo1 Frame5 text2 text3"_s);
     QCOMPARE(strip(), QStringList({u"hidden"_s, {}, {}, {}}));
     QVERIFY(!MemberFilterOn);
@@ -226,6 +228,10 @@ void Form3Test::cutUnderTheFilterShowsTheWholeBook()
     Hands::press(Qt::Key_F5);
     QVERIFY(!MemberFilterOn);
     QCOMPARE(text("text2"), u"2,039"_s);
+    filter(u"สมห"_s);
+    control<TabStrip>("SSTab1")->setTab(0);
+    cut(8, [](QWidget *) {}); // ends on the other side: its board is hidden
+    QCOMPARE(Hands::focus()->objectName(), u"fpSpread1"_s);
 }
 
 void Form3Test::scanRunsBeforeTheStripGoes()
