@@ -7,10 +7,10 @@
 #include "workfolder.h"
 
 #include "cutting/form3.h"
-#include "platform/combo.h"
-#include "platform/msgbox.h"
-#include "platform/spread.h"
+#include "desktop/msgbox.h"
 #include "program.h"
+#include "widgets/combo.h"
+#include "widgets/spread.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>

@@ -4,9 +4,9 @@
 #include "paintwatch.h"
 #include "workfolder.h"
 
-#include "platform/combo.h"
-#include "platform/spread.h"
 #include "program.h"
+#include "widgets/combo.h"
+#include "widgets/spread.h"
 
 #include <QElapsedTimer>
 #include <QTest>

@@ -3,7 +3,7 @@
 // measured, the verdict. Ends with status 1 when a bound is missed.
 #include "figure.h"
 
-#include "platform/application.h"
+#include "desktop/application.h"
 
 #include <QFileInfo>
 #include <QLoggingCategory>

@@ -3,9 +3,9 @@
 #include "figure.h"
 #include "paintwatch.h"
 
-#include "platform/pdfexport.h"
-#include "platform/reportviewer.h"
-#include "platform/sheetofpages.h"
+#include "paper/pdfexport.h"
+#include "paper/reportviewer.h"
+#include "paper/sheetofpages.h"
 #include "reports/fprint.h"
 #include "reports/statementreport.h"
 

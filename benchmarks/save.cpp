@@ -6,8 +6,8 @@
 
 #include "entry/save.h"
 #include "ledger/ledger.h"
-#include "platform/workprogress.h"
 #include "support/testledger.h"
+#include "widgets/workprogress.h"
 
 #include <QElapsedTimer>
 

@@ -5,8 +5,8 @@
 #include "workfolder.h"
 
 #include "cutting/board.h"
-#include "platform/spread.h"
 #include "risk/vikoc.h"
+#include "widgets/spread.h"
 
 #include <QElapsedTimer>
 #include <QTest>

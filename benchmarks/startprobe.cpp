@@ -6,9 +6,9 @@
 //   bare     the least that any such program does: open the Ledger, and show a bare window of the
 //            same size and look with one line of text, since loading the type and the breaks of
 //            Thai words is the toolkit's own work.
+#include "desktop/application.h"
+#include "desktop/programfolder.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
-#include "platform/programfolder.h"
 #include "program.h"
 
 #include <QFile>

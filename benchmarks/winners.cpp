@@ -7,10 +7,10 @@
 #include "workfolder.h"
 
 #include "drawcheck/form4.h"
-#include "platform/spread.h"
-#include "platform/workprogress.h"
 #include "program.h"
 #include "shell/globals.h"
+#include "widgets/spread.h"
+#include "widgets/workprogress.h"
 
 #include <QAbstractButton>
 #include <QElapsedTimer>

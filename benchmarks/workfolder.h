@@ -2,8 +2,8 @@
 // A program folder for a measurement: the real look and words, and an empty Ledger that is closed.
 #pragma once
 
+#include "desktop/programfolder.h"
 #include "ledger/ledger.h"
-#include "platform/programfolder.h"
 #include "support/testledger.h"
 
 #include <QCoreApplication>

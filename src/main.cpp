@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "platform/application.h"
-#include "platform/programend.h"
+#include "desktop/application.h"
+#include "desktop/programend.h"
 #include "program.h"
 
 int main(int argc, char **argv)

@@ -3,8 +3,8 @@
 
 #include "ui_form2.h"
 
+#include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
-#include "platform/msgbox.h"
 #include "runtime/values.h"
 
 #include <QKeyEvent>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "customers/register.h"
-#include "platform/focustracker.h"
+#include "desktop/focustracker.h"
 
 #include <QWidget>
 

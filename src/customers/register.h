@@ -2,8 +2,8 @@
 // The customers of the agent: listed, added, changed and deleted, without any window.
 #pragma once
 
-#include "platform/progressbar.h"
-#include "platform/spreadmodel.h"
+#include "widgets/progressbar.h"
+#include "widgets/spreadmodel.h"
 
 /// Columns of the list. Column 0 holds the key.
 inline constexpr int PlaceColumn = 1;     ///< number of the row

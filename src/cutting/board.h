@@ -6,7 +6,7 @@
 #include "entry/betgrid.h"
 #include "entry/hotnumbers.h"
 #include "ledger/ledgermemo.h"
-#include "platform/progressbar.h"
+#include "widgets/progressbar.h"
 
 #include <optional>
 #include <vector>

@@ -3,8 +3,8 @@
 // money throughout: hot numbers are neither marked nor halved.
 #pragma once
 
-#include "platform/progressbar.h"
-#include "platform/spreadmodel.h"
+#include "widgets/progressbar.h"
+#include "widgets/spreadmodel.h"
 
 #include <array>
 

@@ -3,9 +3,9 @@
 
 #include "ui_cutnum.h"
 
+#include "desktop/dialogplace.h"
+#include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
-#include "platform/dialogplace.h"
-#include "platform/msgbox.h"
 #include "runtime/values.h"
 
 #include <utility>

@@ -2,7 +2,7 @@
 // The cut: money of one bet line is laid off, out of the book and into the cut numbers.
 #pragma once
 
-#include "platform/spreadmodel.h"
+#include "widgets/spreadmodel.h"
 
 /// Columns of the list of lines. Those that are not shown name the line in the Ledger.
 namespace CutColumn {

@@ -6,16 +6,16 @@
 #include "cutting/cutnum.h"
 #include "cutting/numcut.h"
 #include "cutting/selection.h"
+#include "desktop/dialogplace.h"
+#include "desktop/keycodes.h"
+#include "desktop/msgbox.h"
 #include "entry/sidetabs.h"
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
-#include "platform/dialogplace.h"
-#include "platform/keycodes.h"
-#include "platform/msgbox.h"
-#include "platform/searchicon.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
+#include "widgets/searchicon.h"
 
 #include <QApplication>
 #include <QFocusEvent>

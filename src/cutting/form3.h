@@ -3,7 +3,7 @@
 #pragma once
 
 #include "cutting/board.h"
-#include "platform/focustracker.h"
+#include "desktop/focustracker.h"
 #include "shell/mdiform1.h"
 
 #include <QWidget>

@@ -3,11 +3,11 @@
 
 #include "ui_numcut.h"
 
+#include "desktop/dialogplace.h"
+#include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
-#include "platform/dialogplace.h"
-#include "platform/msgbox.h"
-#include "platform/searchicon.h"
 #include "runtime/values.h"
+#include "widgets/searchicon.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "cutting/cutboard.h"
-#include "platform/focustracker.h"
+#include "desktop/focustracker.h"
 
 #include <QDialog>
 

@@ -3,10 +3,10 @@
 
 #include "ui_form4.h"
 
+#include "desktop/background.h"
+#include "desktop/msgbox.h"
 #include "entry/hotnumbers.h"
 #include "fields/fieldguard.h"
-#include "platform/ground.h"
-#include "platform/msgbox.h"
 #include "runtime/values.h"
 
 #include <QMouseEvent>

@@ -3,8 +3,8 @@
 // are paid and what is left.
 #pragma once
 
+#include "desktop/focustracker.h"
 #include "drawcheck/settlement.h"
-#include "platform/focustracker.h"
 
 #include <QWidget>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "drawcheck/settlement.h"
 
+#include "desktop/clock.h"
 #include "ledger/ledger.h"
-#include "platform/clock.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 

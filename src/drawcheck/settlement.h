@@ -4,7 +4,7 @@
 #pragma once
 
 #include "drawcheck/winners.h"
-#include "platform/progressbar.h"
+#include "widgets/progressbar.h"
 
 /// What the page of the draw check holds. Its members are public as the page shows them and the
 /// report prints them; the amounts are kept as the texts that are shown, and the settlement

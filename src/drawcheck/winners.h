@@ -5,7 +5,7 @@
 
 #include "drawcheck/result.h"
 #include "entry/hotnumbers.h"
-#include "platform/spreadmodel.h"
+#include "widgets/spreadmodel.h"
 
 #include <QVariant>
 

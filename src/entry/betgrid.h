@@ -3,7 +3,7 @@
 #pragma once
 
 #include "entry/vocabulary.h"
-#include "platform/spreadmodel.h"
+#include "widgets/spreadmodel.h"
 
 /// Header rows: caption, total, column titles.
 inline constexpr int CaptionRow = FirstHeaderRow;

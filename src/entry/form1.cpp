@@ -3,6 +3,9 @@
 
 #include "ui_form1.h"
 
+#include "desktop/background.h"
+#include "desktop/keycodes.h"
+#include "desktop/msgbox.h"
 #include "entry/builders.h"
 #include "entry/keyedline.h"
 #include "entry/save.h"
@@ -12,9 +15,6 @@
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
 #include "ledger/ledger.h"
-#include "platform/ground.h"
-#include "platform/keycodes.h"
-#include "platform/msgbox.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 

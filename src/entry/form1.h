@@ -2,10 +2,10 @@
 // The page "หน้าหลัก": the keyer types one customer's ticket, line by line, eyes on the paper.
 #pragma once
 
+#include "desktop/focustracker.h"
+#include "desktop/mediacontrol.h"
 #include "entry/ticket.h"
-#include "platform/focustracker.h"
-#include "platform/mediacontrol.h"
-#include "platform/progressbar.h"
+#include "widgets/progressbar.h"
 
 #include <QWidget>
 

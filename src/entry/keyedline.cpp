@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "entry/keyedline.h"
 
-#include "platform/msgbox.h"
+#include "desktop/msgbox.h"
 #include "runtime/values.h"
 
 #include <array>

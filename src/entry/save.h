@@ -3,7 +3,7 @@
 #pragma once
 
 #include "entry/ticket.h"
-#include "platform/progressbar.h"
+#include "widgets/progressbar.h"
 
 /// The spelling under which a tod number of 3 or 2 digits is filed: the lowest rearrangement of
 /// its digits that the Ledger holds in that class, since a tod bet pays on any order and all

@@ -2,7 +2,7 @@
 #include "entry/showkey.h"
 
 #include "entry/keyboardpicture.h"
-#include "platform/pushbutton.h"
+#include "widgets/pushbutton.h"
 
 #include <QPointer>
 #include <QScreen>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "entry/sidetabs.h"
 
-#include "platform/spread.h"
-#include "platform/tabstrip.h"
+#include "widgets/spread.h"
+#include "widgets/tabstrip.h"
 
 void showSide(TabStrip &tabs, const std::array<Spread *, ClassCount> &grids)
 {

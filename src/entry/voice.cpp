@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "entry/voice.h"
 
-#include "platform/programfolder.h"
+#include "desktop/programfolder.h"
 
 using namespace Qt::StringLiterals;
 

@@ -3,8 +3,8 @@
 // on the paper, and single keys choose the kind of bet.
 #pragma once
 
+#include "desktop/mediacontrol.h"
 #include "entry/vocabulary.h"
-#include "platform/mediacontrol.h"
 
 #include <array>
 

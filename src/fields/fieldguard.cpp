@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "fields/fieldguard.h"
 
+#include "desktop/focustracker.h"
+#include "desktop/keycodes.h"
 #include "fields/filters.h"
-#include "platform/focustracker.h"
-#include "platform/keycodes.h"
 
 #include <QAbstractButton>
 #include <QKeyEvent>

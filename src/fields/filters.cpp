@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "fields/filters.h"
 
-#include "platform/keyboardstate.h"
-#include "platform/keycodes.h"
-#include "platform/msgbox.h"
+#include "desktop/keyboardstate.h"
+#include "desktop/keycodes.h"
+#include "desktop/msgbox.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "history/drawlog.h"
 
+#include "desktop/region.h"
 #include "ledger/ledger.h"
-#include "platform/region.h"
 #include "runtime/values.h"
 
 #include <array>

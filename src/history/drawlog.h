@@ -2,8 +2,8 @@
 // The closed draws, as the history lists them.
 #pragma once
 
-#include "platform/progressbar.h"
-#include "platform/spreadmodel.h"
+#include "widgets/progressbar.h"
+#include "widgets/spreadmodel.h"
 
 /// Columns of the history. Column 0 holds the key of the draw; column 7 stays empty.
 inline constexpr int LogDateColumn = 1;

@@ -3,8 +3,8 @@
 
 #include "ui_form5.h"
 
+#include "desktop/msgbox.h"
 #include "history/drawlog.h"
-#include "platform/msgbox.h"
 #include "runtime/values.h"
 
 #include <algorithm>

@@ -2,8 +2,8 @@
 // The page "ข้อมูลย้อนหลัง": results and money of all closed draws.
 #pragma once
 
-#include "platform/progressbar.h"
-#include "platform/spreadmodel.h"
+#include "widgets/progressbar.h"
+#include "widgets/spreadmodel.h"
 
 #include <QWidget>
 

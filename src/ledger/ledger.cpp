@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "ledger/ledger.h"
 
-#include "platform/msgbox.h"
-#include "platform/programend.h"
-#include "platform/programfolder.h"
+#include "desktop/msgbox.h"
+#include "desktop/programend.h"
+#include "desktop/programfolder.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "reports/export.h"
 
-#include "platform/clock.h"
-#include "platform/msgbox.h"
-#include "platform/pdfexport.h"
-#include "platform/savefile.h"
-#include "platform/sheetofpages.h"
+#include "desktop/clock.h"
+#include "desktop/msgbox.h"
+#include "desktop/savefile.h"
+#include "paper/pdfexport.h"
+#include "paper/sheetofpages.h"
 
 #include <QDir>
 #include <QFileInfo>

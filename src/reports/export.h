@@ -2,7 +2,7 @@
 // Finished reports as files: an Excel sheet and a PDF.
 #pragma once
 
-#include "platform/reportpage.h"
+#include "paper/reportpage.h"
 
 enum class ExportFormat { Excel, Pdf };
 

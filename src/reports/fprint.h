@@ -3,7 +3,7 @@
 // name and their report.
 #pragma once
 
-#include "platform/report.h"
+#include "paper/report.h"
 
 #include <QDialog>
 

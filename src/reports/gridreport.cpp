@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "reports/gridreport.h"
 
-#include "platform/clock.h"
-#include "platform/region.h"
+#include "desktop/clock.h"
+#include "desktop/region.h"
 #include "runtime/values.h"
 
 #include <algorithm>

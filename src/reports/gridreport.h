@@ -3,8 +3,8 @@
 // paper.
 #pragma once
 
-#include "platform/report.h"
-#include "platform/spreadmodel.h"
+#include "paper/report.h"
+#include "widgets/spreadmodel.h"
 
 /// Copies one grid column into one field of a row.
 struct FieldSource

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "reports/viewers.h"
 
-#include "platform/dialogplace.h"
+#include "desktop/dialogplace.h"
 #include "reports/cutnumbersreport.h"
 #include "reports/fprint.h"
 

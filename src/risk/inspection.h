@@ -2,7 +2,7 @@
 // One row of the risk scan in full: what was bought on the number and what it would cost.
 #pragma once
 
-#include "platform/spreadmodel.h"
+#include "widgets/spreadmodel.h"
 
 #include <optional>
 

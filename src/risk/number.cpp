@@ -3,7 +3,7 @@
 
 #include "ui_number.h"
 
-#include "platform/dialogplace.h"
+#include "desktop/dialogplace.h"
 #include "risk/inspection.h"
 #include "risk/scan.h"
 #include "shell/globals.h"

@@ -3,9 +3,9 @@
 // several classes at once. It weighs no rates: one related line makes a number risky.
 #pragma once
 
-#include "platform/progressbar.h"
-#include "platform/spreadmodel.h"
 #include "risk/relations.h"
+#include "widgets/progressbar.h"
+#include "widgets/spreadmodel.h"
 
 /// Columns of the scan.
 namespace ScanColumn {

@@ -4,12 +4,12 @@
 #include "ui_vikoc.h"
 
 #include "cutting/selection.h"
-#include "platform/dialogplace.h"
-#include "platform/msgbox.h"
-#include "platform/spreadbuttons.h"
+#include "desktop/dialogplace.h"
+#include "desktop/msgbox.h"
 #include "risk/coverage.h"
 #include "risk/number.h"
 #include "shell/globals.h"
+#include "widgets/spreadbuttons.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "settings/closing.h"
 
+#include "desktop/msgbox.h"
+#include "desktop/programend.h"
 #include "ledger/ledger.h"
-#include "platform/msgbox.h"
-#include "platform/programend.h"
 #include "runtime/runtimeerror.h"
 
 #include <array>

@@ -3,11 +3,11 @@
 
 #include "ui_setting.h"
 
+#include "desktop/dialogplace.h"
+#include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
-#include "platform/dialogplace.h"
-#include "platform/msgbox.h"
 #include "runtime/values.h"
-#include "settings/hotnumbers.h"
+#include "settings/hotnumberlist.h"
 #include "settings/rates.h"
 #include "shell/globals.h"
 

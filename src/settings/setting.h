@@ -2,9 +2,9 @@
 // The dialog "ตั้งค่าหวย": what the agent pays, and on which numbers he pays half.
 #pragma once
 
-#include "platform/focustracker.h"
-#include "platform/spreadmodel.h"
+#include "desktop/focustracker.h"
 #include "settings/closing.h"
+#include "widgets/spreadmodel.h"
 
 #include <QDialog>
 

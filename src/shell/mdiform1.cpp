@@ -3,16 +3,16 @@
 
 #include "ui_mdiform1.h"
 
+#include "desktop/dialogplace.h"
+#include "desktop/msgbox.h"
+#include "desktop/programend.h"
+#include "desktop/programfolder.h"
+#include "desktop/singleinstance.h"
 #include "ledger/ledger.h"
-#include "platform/dialogplace.h"
-#include "platform/msgbox.h"
-#include "platform/programend.h"
-#include "platform/programfolder.h"
-#include "platform/singleinstance.h"
 #include "runtime/runtimeerror.h"
 #include "shell/globals.h"
-#include "shell/skin.h"
 #include "shell/statuspanels.h"
+#include "shell/stylesheet.h"
 
 #include <QCloseEvent>
 #include <QDir>

@@ -2,8 +2,8 @@
 // The main window: starts the program, holds the pages, ends the program.
 #pragma once
 
-#include "platform/progressbar.h"
 #include "shell/customerstrip.h"
+#include "widgets/progressbar.h"
 
 #include <QMainWindow>
 #include <QPointer>

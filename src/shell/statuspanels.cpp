@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "shell/statuspanels.h"
 
-#include "platform/clock.h"
-#include "platform/keyboardstate.h"
-#include "platform/region.h"
+#include "desktop/clock.h"
+#include "desktop/keyboardstate.h"
+#include "desktop/region.h"
 
 #include <QApplication>
 #include <QKeyEvent>

@@ -2,8 +2,8 @@
 #include "access/look.h"
 
 #include "fields/fieldtable.h"
-#include "platform/spread.h"
-#include "platform/spreadheader.h"
+#include "widgets/spread.h"
+#include "widgets/spreadheader.h"
 
 #include <QComboBox>
 #include <QFontInfo>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Every form as those need it who use no mouse, a screen reader, large type or a dark desktop.
 #include "access/look.h"
+#include "desktop/programfolder.h"
 #include "ledger/ledger.h"
-#include "platform/combo.h"
-#include "platform/programfolder.h"
 #include "support/formtest.h"
+#include "widgets/combo.h"
 
 #include <QAccessible>
 #include <QRadioButton>

@@ -2,10 +2,10 @@
 // The board in the real program, under real keys and clicks.
 #include "cutting/boardformtest.h"
 #include "ledger/ledger.h"
-#include "platform/combo.h"
-#include "platform/tabstrip.h"
-#include "platform/workprogress.h"
 #include "shell/globals.h"
+#include "widgets/combo.h"
+#include "widgets/tabstrip.h"
+#include "widgets/workprogress.h"
 
 #include <QLabel>
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // The draw check's logic: which lines win, what hot numbers leave of it, both amounts, and what is
 // kept of them.
+#include "desktop/clock.h"
 #include "drawcheck/recount.h"
 #include "drawcheck/settlement.h"
 #include "ledger/ledger.h"
-#include "platform/clock.h"
 #include "shell/globals.h"
 #include "support/gridrows.h"
 #include "support/noprogress.h"

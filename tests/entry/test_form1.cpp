@@ -2,11 +2,11 @@
 // The page of bet entry under the keyer's hands: real keys, clicks and boxes.
 #include "entry/form1.h"
 #include "ledger/ledger.h"
-#include "platform/combo.h"
-#include "platform/tabstrip.h"
-#include "platform/workprogress.h"
 #include "support/formtest.h"
 #include "support/outcome.h"
+#include "widgets/combo.h"
+#include "widgets/tabstrip.h"
+#include "widgets/workprogress.h"
 
 #include <QCheckBox>
 #include <QInputMethodEvent>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Kind keys and the voice: what the keys choose, and what is heard, taken from the sound device.
+#include "desktop/programfolder.h"
 #include "entry/form1.h"
 #include "entry/voice.h"
-#include "platform/combo.h"
-#include "platform/programfolder.h"
 #include "support/formtest.h"
+#include "widgets/combo.h"
 
 #include <QCheckBox>
 #include <QFile>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Disks: power cuts at every sync, and calls that fail, each in its turn.
+#include "desktop/programend.h"
 #include "faults/daybook.h"
 #include "faults/faults.h"
 #include "faults/faultydisk.h"
 #include "ledger/ledger.h"
-#include "platform/programend.h"
 #include "support/boxscript.h"
 #include "support/outcome.h"
 

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
 // A season of tickets keyed in one run of the entry page: what is used up by one ticket has to be
 // given back by the next. The long run is DESK_TICKETS=20000 test_endurance.
+#include "desktop/application.h"
 #include "entry/form1.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
-#include "platform/combo.h"
-#include "platform/pushbutton.h"
-#include "platform/workprogress.h"
 #include "support/hands.h"
 #include "support/testledger.h"
+#include "widgets/combo.h"
+#include "widgets/pushbutton.h"
+#include "widgets/workprogress.h"
 
 #include <QElapsedTimer>
 #include <QFile>

@@ -3,14 +3,14 @@
 //   DESK_KILLS=10000 test_faults killLosesNoAcknowledgedStep
 //   DESK_POWER_SEEDS=100 test_faults powerCutLosesNoAcknowledgedStep
 // DESK_FAULT_SEED repeats the dice of a run.
+#include "desktop/programend.h"
+#include "desktop/programfolder.h"
 #include "faults/daybook.h"
 #include "faults/faults.h"
 #include "faults/rawpages.h"
 #include "faults/victim.h"
 #include "ledger/ledger.h"
 #include "ledger/schema.h"
-#include "platform/programend.h"
-#include "platform/programfolder.h"
 
 #include <QElapsedTimer>
 #include <QThread>

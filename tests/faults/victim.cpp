@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "faults/victim.h"
 
+#include "desktop/application.h"
+#include "desktop/msgbox.h"
+#include "desktop/programfolder.h"
 #include "faults/daybook.h"
 #include "ledger/ledger.h"
-#include "platform/application.h"
-#include "platform/msgbox.h"
-#include "platform/programfolder.h"
 #include "program.h"
 #include "runtime/runtimeerror.h"
 

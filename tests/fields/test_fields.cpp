@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Number fields: nothing but what the filter passes gets in, by whatever way.
+#include "desktop/application.h"
+#include "desktop/focustracker.h"
+#include "desktop/keycodes.h"
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
-#include "platform/application.h"
-#include "platform/focustracker.h"
-#include "platform/keycodes.h"
 #include "support/boxscript.h"
 
 #include <QClipboard>

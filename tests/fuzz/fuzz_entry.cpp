@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Keys lines of whatever digits and dashes into a ticket and keeps a second one with a pencil.
+#include "desktop/msgbox.h"
 #include "fuzz/require.h"
 #include "law/pencil.h"
-#include "platform/msgbox.h"
 #include "support/keying.h"
 
 #include <cstdint>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The history of closed draws: its order, its cells, and the deletion of one.
+#include "desktop/region.h"
 #include "history/drawlog.h"
 #include "history/form5.h"
 #include "ledger/ledger.h"
-#include "platform/region.h"
 #include "support/formtest.h"
 
 using namespace Qt::StringLiterals;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 // The Ledger file: what it takes to open it, that nothing in it is shown to strangers, and the
 // helpers that all rooms share. Damage is done to it among the faults.
+#include "desktop/programfolder.h"
 #include "ledger/ledger.h"
 #include "ledger/schema.h"
-#include "platform/programfolder.h"
 #include "shell/globals.h"
 #include "support/outcome.h"
 #include "support/testledger.h"

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Pages, sheets and documents: what the page engine lays out, and what programs that others
 // wrote read in the files.
-#include "platform/pagepainter.h"
-#include "platform/pdfexport.h"
-#include "platform/report.h"
-#include "platform/savefile.h"
-#include "platform/xlswriter.h"
+#include "desktop/savefile.h"
+#include "paper/pagepainter.h"
+#include "paper/pdfexport.h"
+#include "paper/report.h"
+#include "paper/xlswriter.h"
 
 #include "support/otherreaders.h"
 #include "support/outcome.h"

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 // What the program asks of a desktop, as far as it stands without windows: grid contents, dates of
 // the region, the program's folder and its end.
-#include "platform/keycodes.h"
-#include "platform/programend.h"
-#include "platform/programfolder.h"
-#include "platform/region.h"
-#include "platform/spreadmodel.h"
+#include "desktop/keycodes.h"
+#include "desktop/programend.h"
+#include "desktop/programfolder.h"
+#include "desktop/region.h"
 #include "support/boxscript.h"
 #include "support/outcome.h"
+#include "widgets/spreadmodel.h"
 
 #include <QAbstractItemModelTester>
 #include <QKeyEvent>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The three reports, from the grids on screen to pages and files: what stands where, what is left
 // away, and under which name a file is saved.
-#include "platform/clock.h"
-#include "platform/pdfexport.h"
-#include "platform/region.h"
-#include "platform/savefile.h"
-#include "platform/sheetofpages.h"
+#include "desktop/clock.h"
+#include "desktop/region.h"
+#include "desktop/savefile.h"
+#include "paper/pdfexport.h"
+#include "paper/sheetofpages.h"
 #include "reports/cutnumbersreport.h"
 #include "reports/export.h"
 #include "reports/statementreport.h"

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 // The viewers as a person uses them: pages turned by keys and buttons, pages sent to a printer.
-#include "platform/application.h"
-#include "platform/printpages.h"
-#include "platform/reportviewer.h"
+#include "desktop/application.h"
+#include "paper/printpages.h"
+#include "paper/reportviewer.h"
 #include "reports/cutnumbersreport.h"
 #include "reports/fprint.h"
 #include "reports/viewers.h"

@@ -2,10 +2,10 @@
 // The dialogs of the risk scan under the agent's hands, opened from the board of the real program.
 #include "cutting/selection.h"
 #include "ledger/ledger.h"
-#include "platform/combo.h"
 #include "risk/scan.h"
 #include "shell/globals.h"
 #include "support/formtest.h"
+#include "widgets/combo.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The dialog of settings: rates and hot numbers under the keyer's hands.
-#include "settings/hotnumbers.h"
+#include "settings/hotnumberlist.h"
 #include "settings/setting.h"
 #include "shell/globals.h"
 #include "support/formtest.h"

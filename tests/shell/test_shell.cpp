@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
 // The main window: its start, its navigation, its status bar and its end.
+#include "desktop/application.h"
+#include "desktop/clock.h"
+#include "desktop/msgbox.h"
+#include "desktop/programfolder.h"
+#include "desktop/region.h"
+#include "desktop/singleinstance.h"
 #include "ledger/ledger.h"
 #include "ledger/schema.h"
-#include "platform/application.h"
-#include "platform/clock.h"
-#include "platform/msgbox.h"
-#include "platform/programfolder.h"
-#include "platform/pushbutton.h"
-#include "platform/region.h"
-#include "platform/singleinstance.h"
 #include "program.h"
 #include "shell/globals.h"
 #include "support/hands.h"
+#include "widgets/pushbutton.h"
 
 #include <QDir>
 #include <QLabel>

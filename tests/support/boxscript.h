@@ -2,7 +2,7 @@
 // Answers the program's boxes from a list, in place of real windows, and keeps what they said.
 #pragma once
 
-#include "platform/msgbox.h"
+#include "desktop/msgbox.h"
 
 #include <QList>
 #include <QStringList>

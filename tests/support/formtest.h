@@ -2,13 +2,13 @@
 // What a test of a form starts from and leaves behind: an empty book, hands, the form in front.
 #pragma once
 
-#include "platform/application.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
+#include "desktop/application.h"
 #include "program.h"
 #include "support/hands.h"
 #include "support/noprogress.h"
 #include "support/testledger.h"
+#include "widgets/pushbutton.h"
+#include "widgets/spread.h"
 
 #include <QLineEdit>
 #include <QTest>

@@ -2,7 +2,7 @@
 // A grid as a test reads it.
 #pragma once
 
-#include "platform/spreadmodel.h"
+#include "widgets/spreadmodel.h"
 
 #include <QStringList>
 

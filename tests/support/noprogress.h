@@ -2,7 +2,7 @@
 // A progress bar that nobody sees.
 #pragma once
 
-#include "platform/progressbar.h"
+#include "widgets/progressbar.h"
 
 struct NoProgress : ProgressBar
 {

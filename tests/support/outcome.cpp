@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/outcome.h"
 
-#include "platform/programend.h"
+#include "desktop/programend.h"
 #include "runtime/runtimeerror.h"
 
 #include <QScopeGuard>

@@ -2,7 +2,7 @@
 // Grids as the pages of the program show them when a report is printed.
 #pragma once
 
-#include "platform/spreadmodel.h"
+#include "widgets/spreadmodel.h"
 
 #include <memory>
 #include <vector>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "support/testledger.h"
 
+#include "desktop/programfolder.h"
 #include "ledger/ledger.h"
 #include "ledger/schema.h"
-#include "platform/programfolder.h"
 
 #include <QDir>
 #include <QProcess>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "tour/ending.h"
 
-#include "platform/programfolder.h"
-#include "platform/pushbutton.h"
+#include "desktop/programfolder.h"
 #include "program.h"
 #include "support/hands.h"
+#include "widgets/pushbutton.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 // The tour: plays whole draws in the real program with real key events, saves a picture of each
 // screen, and fails on any difference from what the draw files state.
+#include "desktop/application.h"
+#include "desktop/programfolder.h"
+#include "desktop/singleinstance.h"
 #include "ledger/ledger.h"
 #include "ledger/schema.h"
-#include "platform/application.h"
-#include "platform/programfolder.h"
-#include "platform/singleinstance.h"
 #include "program.h"
 #include "support/testledger.h"
 #include "tour/ending.h"

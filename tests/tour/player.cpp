@@ -4,11 +4,11 @@
 #include "entry/showkey.h"
 #include "entry/voice.h"
 #include "ledger/ledger.h"
-#include "platform/combo.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
 #include "runtime/values.h"
 #include "shell/mdiform1.h"
+#include "widgets/combo.h"
+#include "widgets/pushbutton.h"
+#include "widgets/spread.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -4,11 +4,11 @@
 
 #include "cutting/board.h"
 #include "ledger/ledger.h"
-#include "platform/combo.h"
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
-#include "platform/tabstrip.h"
 #include "runtime/values.h"
+#include "widgets/combo.h"
+#include "widgets/pushbutton.h"
+#include "widgets/spread.h"
+#include "widgets/tabstrip.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -3,11 +3,11 @@
 // read.
 #include "tour/player.h"
 
+#include "desktop/region.h"
 #include "ledger/ledger.h"
-#include "platform/pushbutton.h"
-#include "platform/region.h"
-#include "platform/spread.h"
 #include "runtime/values.h"
+#include "widgets/pushbutton.h"
+#include "widgets/spread.h"
 
 #include <QLabel>
 #include <QRadioButton>

@@ -2,8 +2,8 @@
 // The player on the pages beside bet entry: customers and settings.
 #include "tour/player.h"
 
-#include "platform/pushbutton.h"
 #include "shell/mdiform1.h"
+#include "widgets/pushbutton.h"
 
 #include <QLineEdit>
 #include <QTest>

@@ -3,9 +3,9 @@
 // and as a document through the real dialog.
 #include "tour/player.h"
 
-#include "platform/pagepainter.h"
-#include "platform/pushbutton.h"
-#include "platform/reportviewer.h"
+#include "paper/pagepainter.h"
+#include "paper/reportviewer.h"
+#include "widgets/pushbutton.h"
 
 #include <QApplication>
 #include <QDir>

@@ -2,9 +2,9 @@
 // The player in the risk scan: every row of both analyses, and the inspector.
 #include "tour/player.h"
 
-#include "platform/pushbutton.h"
-#include "platform/spread.h"
 #include "risk/scan.h"
+#include "widgets/pushbutton.h"
+#include "widgets/spread.h"
 
 #include <QLabel>
 #include <QPlainTextEdit>

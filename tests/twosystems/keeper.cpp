@@ -3,14 +3,14 @@
 // that what one keyed can be held against what the other reads.
 // Usage: keeper FOLDER SEED [leave|wipe]. Works on the book as follows from SEED, not at all for 0.
 // "leave" ends as a killed process does, with the WAL still beside the book; "wipe" wipes it first.
+#include "desktop/clock.h"
+#include "desktop/msgbox.h"
+#include "desktop/programfolder.h"
 #include "entry/save.h"
 #include "faults/daybook.h"
 #include "ledger/ledger.h"
-#include "platform/clock.h"
-#include "platform/msgbox.h"
-#include "platform/programfolder.h"
 #include "settings/closing.h"
-#include "settings/hotnumbers.h"
+#include "settings/hotnumberlist.h"
 #include "settings/rates.h"
 #include "support/boxscript.h"
 #include "support/noprogress.h"

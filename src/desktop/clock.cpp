@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/clock.h"
+
+#include <utility>
+
+namespace {
+
+Clock &installedClock()
+{
+    static Clock clock;
+    return clock;
+}
+
+} // namespace
+
+Clock setClock(Clock clock)
+{
+    return std::exchange(installedClock(), std::move(clock));
+}
+
+QDateTime currentDateTime()
+{
+    return installedClock() ? installedClock()() : QDateTime::currentDateTime();
+}

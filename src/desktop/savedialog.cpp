@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/savedialog.h"
+
+#include "desktop/dialogplace.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+QString showSaveDialog(const SaveRequest &request)
+{
+    static QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    QFileDialog dialog(QApplication::activeWindow(), request.title, folder);
+    dialog.setObjectName(u"cd1"_s);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite);
+    // Without the dot: from "*.xls" the dialog of Windows would take an ending and add it.
+    dialog.setNameFilter(u'*' + request.extension.mid(1));
+    dialog.selectFile(request.preset);
+    if (runDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return {};
+    QString picked = dialog.selectedFiles().constFirst();
+    folder = QFileInfo(picked).path();
+    return picked;
+}

@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/savefile.h"
+
+#include <QSaveFile>
+
+#include <utility>
+
+namespace {
+
+SaveDialog &installedDialog()
+{
+    static SaveDialog dialog;
+    return dialog;
+}
+
+} // namespace
+
+SaveDialog setSaveDialog(SaveDialog dialog)
+{
+    return std::exchange(installedDialog(), std::move(dialog));
+}
+
+QString askForFileName(const SaveRequest &request)
+{
+    Q_ASSERT_X(installedDialog(), "askForFileName", "a program that saves must set who asks");
+    return installedDialog()(request);
+}
+
+bool saveFile(const QString &path, const QByteArray &bytes)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit();
+}

@@ -1,0 +1,98 @@
+// SPDX-License-Identifier: MIT
+#include "settings/hotnumberlist.h"
+
+#include "entry/vocabulary.h"
+#include "ledger/ledger.h"
+#include "runtime/values.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr std::array Columns{
+    GridColumn{HotPlaceColumn, u"ลำดับ"},
+    GridColumn{HotNumberColumn, u" เลขตรง"},
+    GridColumn{HotTodColumn, u"เลขโต๊ด"},
+    GridColumn{HotTodColumn + 1, u" ", Qt::AlignLeft},
+};
+
+/// Orders of a number's digits as this screen lists them, given as places in the number.
+QList<const char *> listedOrders(const QString &digits)
+{
+    if (digits.size() == 2)
+        return {"01", "10"};
+    if (digits[0] == digits[1])
+        return {"012", "210", "021"};
+    if (digits[0] == digits[2])
+        return {"012", "102", "021"};
+    if (digits[1] == digits[2])
+        return {"012", "102", "120"};
+    return {"012", "021", "102", "120", "201", "210"};
+}
+
+/// The key of the next hot number; raises "Overflow" beyond 16 bits. Uses RecordsetB.
+qint16 SetupNewData3()
+{
+    return CInt(double(nextKey(u"tblNumberFix"_s, u"PK"_s)));
+}
+
+} // namespace
+
+QString hotTodForm(const QString &number)
+{
+    const QString digits = trimBlanks(number);
+    if (digits.size() != 2 && digits.size() != 3)
+        return QString();
+    if (digits.count(digits.front()) == digits.size())
+        return u"-"_s;
+    QStringList forms;
+    for (const char *order : listedOrders(digits))
+        forms += rearranged(digits, order);
+    return forms.join(u" , "_s);
+}
+
+void listHotNumbers(SpreadModel &list)
+{
+    list.setup(int(Columns.size()), 1);
+    list.setTitles(FirstHeaderRow, Columns, true);
+    RecordsetA.open(u" SELECT  tblNumberFix.* FROM tblNumberFix ORDER BY PK desc"_s);
+    list.setRows(RecordsetA.recordCount());
+    for (int row = 1; !RecordsetA.eof(); ++row, RecordsetA.moveNext()) {
+        const QString number = RecordsetA.field(u"Fnumber"_s).toString();
+        list.setText(row, 0, RecordsetA.field(u"PK"_s).toString());
+        list.setText(row, HotPlaceColumn, QString::number(row));
+        list.setText(row, HotNumberColumn, number);
+        list.setText(row, HotTodColumn, hotTodForm(number));
+    }
+    RecordsetA.close();
+}
+
+bool isHotNumber(const QString &number)
+{
+    RecordsetA.open(u" SELECT  tblNumberFix.* FROM tblNumberFix WHERE [Fnumber]  Like ?"
+                    "  ORDER BY PK"_s,
+                    {trimBlanks(number)});
+    const bool found = RecordsetA.recordCount() > 0;
+    RecordsetA.close();
+    return found;
+}
+
+void addHotNumber(const QString &number)
+{
+    const qint16 key = SetupNewData3();
+    RecordsetA.openTable(u"tblNumberFix"_s);
+    RecordsetA.set(u"PK"_s, key);
+    RecordsetA.set(u"Fnumber"_s, number);
+    RecordsetA.update();
+    RecordsetA.close();
+}
+
+void deleteHotNumber(qint32 key)
+{
+    LedgerConnection->run(u"DELETE FROM tblNumberFix WHERE [PK] = ?"_s, {key});
+}
+
+void deleteAllHotNumbers()
+{
+    LedgerConnection->run(u"DELETE FROM tblNumberFix"_s);
+}

@@ -1,0 +1,263 @@
+// SPDX-License-Identifier: MIT
+#include "widgets/spreadmodel.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+SpreadModel::SpreadModel(QObject *parent) : QAbstractTableModel(parent)
+{
+    setup(0, 0);
+}
+
+SpreadModel::Rebuild::Rebuild(SpreadModel &grid)
+    : m_grid(grid), m_columns(grid.columns()), m_headers(grid.m_headers), m_rows(grid.rows())
+{
+    ++m_grid.m_rebuilds;
+}
+
+SpreadModel::Rebuild::~Rebuild()
+{
+    if (--m_grid.m_rebuilds > 0)
+        return;
+    if (m_columns != m_grid.columns() || m_headers.size() != m_grid.m_headers.size()
+        || m_rows != m_grid.rows()) {
+        m_grid.beginResetModel();
+        m_grid.endResetModel();
+        return;
+    }
+    // A board that is loaded again mostly has the rows that it had.
+    if (m_headers != m_grid.m_headers)
+        emit m_grid.headerDataChanged(Qt::Horizontal, 0, m_grid.columns());
+    if (m_grid.rows() > 0)
+        emit m_grid.dataChanged(m_grid.index(0, 0),
+                                m_grid.index(m_grid.rows() - 1, m_grid.columns()));
+}
+
+void SpreadModel::setup(int columns, int headers)
+{
+    const Rebuild rebuild(*this);
+    m_rows.clear();
+    m_tellRow = {};
+    m_columns = QList<Qt::Alignment>(columns + 1, Qt::AlignLeft | Qt::AlignVCenter);
+    m_headers = QList<QList<HeaderCell>>(headers, QList<HeaderCell>(columns + 1));
+}
+
+void SpreadModel::setRows(int rows)
+{
+    if (m_rebuilds > 0) {
+        m_rows.resize(rows, Row(m_columns.size()));
+    } else if (rows > this->rows()) {
+        beginInsertRows({}, this->rows(), rows - 1);
+        m_rows.resize(rows, Row(m_columns.size()));
+        endInsertRows();
+    } else if (rows < this->rows()) {
+        beginRemoveRows({}, rows, this->rows() - 1);
+        m_rows.resize(rows);
+        endRemoveRows();
+    }
+}
+
+void SpreadModel::setToldRows(int rows, RowTeller tellRow)
+{
+    const Rebuild rebuild(*this);
+    m_rows = QList<Row>(rows);
+    m_tellRow = std::move(tellRow);
+}
+
+const SpreadModel::Row &SpreadModel::toldRow(int row) const
+{
+    Row &cells = m_rows[row - 1];
+    if (cells.isEmpty()) {
+        QList<QString> texts(m_columns.size());
+        m_tellRow(row, texts);
+        cells.reserve(texts.size());
+        for (QString &text : texts)
+            cells += {std::move(text), {}};
+    }
+    return cells;
+}
+
+/// Rows that change their place have to be told while they have it.
+void SpreadModel::tellAll()
+{
+    for (int row = 1; m_tellRow && row <= rows(); ++row)
+        toldRow(row);
+}
+
+void SpreadModel::insertRow(int row)
+{
+    tellAll();
+    beginInsertRows({}, row - 1, row - 1);
+    m_rows.insert(row - 1, Row(m_columns.size()));
+    endInsertRows();
+}
+
+void SpreadModel::removeRow(int row)
+{
+    tellAll();
+    beginRemoveRows({}, row - 1, row - 1);
+    m_rows.removeAt(row - 1);
+    endRemoveRows();
+}
+
+bool SpreadModel::holds(int row, int column) const
+{
+    return row >= 1 && row <= rows() && column >= 0 && column <= columns();
+}
+
+SpreadModel::Cell &SpreadModel::cell(int row, int column)
+{
+    Q_ASSERT(holds(row, column));
+    toldRow(row);
+    return m_rows[row - 1][column];
+}
+
+void SpreadModel::changed(int row, int column)
+{
+    if (m_rebuilds > 0)
+        return;
+    const QModelIndex at = index(row - 1, column);
+    emit dataChanged(at, at);
+}
+
+void SpreadModel::headerChanged(int column)
+{
+    if (m_rebuilds == 0)
+        emit headerDataChanged(Qt::Horizontal, column, column);
+}
+
+QString SpreadModel::text(int row, int column) const
+{
+    if (row < 0)
+        return header(row, column).text;
+    return holds(row, column) ? toldRow(row)[column].text : QString();
+}
+
+void SpreadModel::setText(int row, int column, const QString &text)
+{
+    if (row < 0) {
+        m_headers[row - FirstHeaderRow][column].text = text;
+        headerChanged(column);
+        return;
+    }
+    cell(row, column).text = text;
+    changed(row, column);
+}
+
+void SpreadModel::setRow(int row, std::span<const QString> texts)
+{
+    Q_ASSERT(holds(row, int(texts.size()) - 1));
+    toldRow(row);
+    Row &cells = m_rows[row - 1];
+    auto cell = cells.begin();
+    for (const QString &text : texts)
+        (cell++)->text = text;
+    if (m_rebuilds == 0)
+        emit dataChanged(index(row - 1, 0), index(row - 1, int(texts.size()) - 1));
+}
+
+QColor SpreadModel::color(int row, int column) const
+{
+    return holds(row, column) ? toldRow(row)[column].color : QColor();
+}
+
+void SpreadModel::setColor(int row, int column, const QColor &color)
+{
+    cell(row, column).color = color;
+    changed(row, column);
+}
+
+void SpreadModel::setAlignment(int column, Qt::Alignment alignment)
+{
+    m_columns[column] = alignment | Qt::AlignVCenter;
+}
+
+const SpreadModel::HeaderCell &SpreadModel::header(int row, int column) const
+{
+    static const HeaderCell none;
+    const int at = row - FirstHeaderRow;
+    const bool inside = at >= 0 && at < headerRows() && column >= 0 && column <= columns();
+    return inside ? m_headers[at][column] : none;
+}
+
+void SpreadModel::setHeader(int row, int column, const HeaderCell &cell)
+{
+    m_headers[row - FirstHeaderRow][column] = cell;
+    headerChanged(column);
+}
+
+void SpreadModel::setTitles(int row, std::span<const GridColumn> columns, bool bold)
+{
+    for (const GridColumn &column : columns) {
+        setHeader(
+            row, column.column,
+            {QString::fromUtf16(column.title), column.titleAlignment | Qt::AlignVCenter, bold});
+        setAlignment(column.column, column.alignment);
+    }
+}
+
+void SpreadModel::sortDescending(int column,
+                                 const std::function<double(const QString &text)> &valueOf)
+{
+    tellAll();
+    std::vector<std::pair<double, qsizetype>> order;
+    order.reserve(size_t(m_rows.size()));
+    for (const Row &row : std::as_const(m_rows))
+        order.emplace_back(valueOf(row[column].text), qsizetype(order.size()));
+    const auto above = [](const auto &left, const auto &right) { return left.first > right.first; };
+    if (std::is_sorted(order.begin(), order.end(), above))
+        return;
+    std::stable_sort(order.begin(), order.end(), above);
+    QList<Row> sorted;
+    sorted.reserve(m_rows.size());
+    for (const auto &[value, row] : order)
+        sorted += m_rows[row];
+    const Rebuild rebuild(*this);
+    m_rows.swap(sorted);
+}
+
+int SpreadModel::searchColumn(int column, const QString &text) const
+{
+    for (int row = 1; row <= rows(); ++row) {
+        if (toldRow(row)[column].text == text)
+            return row;
+    }
+    return -1;
+}
+
+int SpreadModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : rows();
+}
+
+int SpreadModel::columnCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_columns.size());
+}
+
+QVariant SpreadModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid())
+        return {};
+    const Cell &shown = toldRow(index.row() + 1)[index.column()];
+    switch (role) {
+    case Qt::DisplayRole:
+        return shown.text;
+    case Qt::TextAlignmentRole:
+        return int(m_columns[index.column()]);
+    case Qt::BackgroundRole:
+        return shown.color.isValid() ? QVariant(shown.color) : QVariant();
+    case Qt::ForegroundRole: // a fixed background needs a text that stays readable on it
+        return shown.color.isValid() ? QVariant(QColor(Qt::black)) : QVariant();
+    default:
+        return {};
+    }
+}
+
+QVariant SpreadModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal || role != Qt::DisplayRole || m_headers.isEmpty())
+        return {};
+    return m_headers.last()[section].text; // what a screen reader says of the column
+}

@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: MIT
+#include "widgets/tabstrip.h"
+
+#include "widgets/spreadheader.h"
+
+#include <QFontMetrics>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+
+#include <utility>
+
+TabStrip::TabStrip(QWidget *parent) : QTabBar(parent)
+{
+    setExpanding(false);
+    setDrawBase(false);
+    connect(this, &QTabBar::currentChanged, this, &TabStrip::clicked);
+}
+
+void TabStrip::setTab(int tab)
+{
+    {
+        const QSignalBlocker quiet(this);
+        setCurrentIndex(tab);
+    }
+    update(); // what the blocked signals would have brought about
+    if (m_holds > 0)
+        m_clickDue = true;
+    else
+        emit clicked();
+}
+
+void TabStrip::tabLayoutChange()
+{
+    const bool isNarrowed = font().stretch() != QFont::AnyStretch;
+    if (m_fitting || (!isNarrowed && sizeHint().width() <= width()))
+        return; // Thai texts are dear to measure, and there is nothing to do but on small screens
+    const QScopedValueRollback fitting(m_fitting, true);
+    QString captions;
+    for (int tab = 0; tab < count(); ++tab)
+        captions += tabText(tab);
+    if (m_padding < 0)
+        m_padding = tabSizeHint(0).width() - QFontMetrics(font()).horizontalAdvance(tabText(0));
+    const int room = width() - m_padding * count();
+    QFont full = font();
+    full.setStretch(QFont::AnyStretch);
+    const QFont type = SpreadHeader::narrowed(full, captions, room);
+    if (type.stretch() != font().stretch())
+        setFont(type);
+}
+
+TabStrip::OneClick::~OneClick()
+{
+    if (--m_tabs.m_holds == 0 && std::exchange(m_tabs.m_clickDue, false))
+        emit m_tabs.clicked();
+}
