@@ -6,6 +6,6 @@
 
 class QWidget;
 
-/// Gives a field or a box a ground of its own. A fixed ground comes with a dark text, whatever the
-/// desktop's colours are; labels that lie in a box take its text colour.
-void paintGround(QWidget *widget, QRgb ground);
+/// Gives a field or a box a fixed background, and with it a dark text, whatever the desktop's
+/// colours are. Labels in a box take its text colour.
+void setBackground(QWidget *widget, QRgb color);

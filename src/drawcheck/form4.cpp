@@ -34,9 +34,9 @@ Form4::Form4(ProgressBar &progress, Printer printer, QWidget *parent)
                m_ui->text11, m_ui->text12, m_ui->text13, m_ui->text14, m_ui->text15, m_ui->text16,
                m_ui->Text17, m_ui->Text18, m_ui->Text19, m_ui->Text20, m_ui->Text21};
     for (int at = 0; at < DigitCount; ++at)
-        paintGround(m_boxes[size_t(at)], at < TopDigitCount ? TopBoxColor : BottomBoxColor);
-    paintGround(m_ui->payoutBox, HotColor);
-    paintGround(m_ui->profitBox, ProfitColor);
+        setBackground(m_boxes[size_t(at)], at < TopDigitCount ? TopBoxColor : BottomBoxColor);
+    setBackground(m_ui->payoutBox, HotColor);
+    setBackground(m_ui->profitBox, ProfitColor);
     m_ui->fpSpread1->setSpreadModel(&m_check.winners);
     m_ui->fpSpread1->setRowPoints(19);
     setFocusProxy(m_ui->text4); // so that keying can begin at once

@@ -50,7 +50,7 @@ Form1::Form1(ProgressBar &progress, QWidget *parent)
     m_ui->SSTab1->addTab(QString());
     for (const KindEntry &kind : KindEntries)
         m_ui->Combo2->addItem(QString::fromUtf16(kind.entry));
-    paintGround(m_ui->Combo1, KeyingColor);
+    setBackground(m_ui->Combo1, KeyingColor);
     setFocusProxy(m_ui->Tnumber);
     connectControls();
     Form_Load();
@@ -154,14 +154,14 @@ void Form1::controlLostFocus(QWidget *control)
 void Form1::Tnumber_GotFocus()
 {
     TnumberAway = false;
-    paintGround(m_ui->Tnumber, KeyingColor);
+    setBackground(m_ui->Tnumber, KeyingColor);
     m_ui->Tnumber->clear();
 }
 
 void Form1::Tnumber_LostFocus()
 {
     TnumberAway = true;
-    paintGround(m_ui->Tnumber, AwayColor);
+    setBackground(m_ui->Tnumber, AwayColor);
     m_ui->Tnumber->setText(u"คลิกเพื่อใส่เลขใหม่"_s);
 }
 

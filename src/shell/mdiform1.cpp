@@ -87,7 +87,7 @@ bool MDIForm1::MDIForm_Load()
     CurrentUser = u"sv"_s;
     ConnectLedger();
     LoadMoney();
-    loadSkin(programFile(u"data/Styles/mirakla.qss"_s));
+    loadStyleSheet(programFile(u"data/Styles/mirakla.qss"_s));
     centerWindow(*this);
     return true;
 }

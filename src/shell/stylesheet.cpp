@@ -22,13 +22,13 @@ void sharpenTexts()
 
 } // namespace
 
-void loadSkin(const QString &path)
+void loadStyleSheet(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return;
     sharpenTexts();
     qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
-    // Taking up a sheet brings back the desktop's types for buttons, grids, boxes and menus.
+    // A style sheet brings back the desktop's fonts for buttons, grids, boxes and menus.
     QApplication::setFont(QApplication::font());
 }

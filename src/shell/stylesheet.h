@@ -4,6 +4,5 @@
 
 #include <QString>
 
-/// Applies the style sheet at @p path to all windows. Without such a file the toolkit's bare look
-/// stays; the look is no function.
-void loadSkin(const QString &path);
+/// Applies the style sheet at @p path to all windows. Without such a file Qt's own look stays.
+void loadStyleSheet(const QString &path);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/spread.h"
 
+#include "widgets/narrowedfont.h"
 #include "widgets/spreadheader.h"
 
 #include <QEvent>
@@ -26,8 +27,8 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         const QStyle *style = option->widget->style();
         const int margin = style->pixelMetric(QStyle::PM_FocusFrameHMargin, option, option->widget);
-        option->font = SpreadHeader::narrowed(option->font, option->text,
-                                              option->rect.width() - 2 * (margin + 1));
+        option->font =
+            narrowedFont(option->font, option->text, option->rect.width() - 2 * (margin + 1));
         option->fontMetrics = QFontMetrics(option->font);
     }
 };

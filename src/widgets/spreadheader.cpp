@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/spreadheader.h"
 
+#include "widgets/narrowedfont.h"
 #include "widgets/spreadmodel.h"
 
 #include <QFontMetrics>
@@ -30,15 +31,6 @@ int SpreadHeader::rowHeight(const QFont &font)
     const QFontMetrics metrics(font);
     const int thai = metrics.boundingRect(u"ปี้ฎู"_s).height();
     return std::max({LeastRowHeight, metrics.height() + 2, thai + 2});
-}
-
-QFont SpreadHeader::narrowed(QFont type, const QString &text, int room)
-{
-    constexpr int Narrowest = 60; // percent
-    const int width = QFontMetrics(type).horizontalAdvance(text);
-    if (room > 0 && width > room)
-        type.setStretch(std::max(Narrowest, (100 * room - width) / width));
-    return type;
 }
 
 QSize SpreadHeader::sizeHint() const
@@ -97,10 +89,10 @@ void SpreadHeader::paintCell(QPainter &painter, int row, int column) const
     painter.drawLine(place.bottomLeft(), place.bottomRight());
     painter.drawLine(place.topRight(), place.bottomRight());
 
-    QFont type = font();
-    type.setBold(cell.bold);
+    QFont shown = font();
+    shown.setBold(cell.bold);
     const QRect room = place.adjusted(CellMargin, 0, -CellMargin, 0);
-    painter.setFont(narrowed(type, cell.text, room.width()));
+    painter.setFont(narrowedFont(shown, cell.text, room.width()));
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.drawText(room, int(cell.alignment) | Qt::TextSingleLine, cell.text);
 }

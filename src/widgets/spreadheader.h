@@ -17,10 +17,6 @@ public:
     /// Height of a grid's row: 18 points at least, and room for Thai marks above and below.
     static int rowHeight(const QFont &font);
 
-    /// @p type, narrowed so far that @p text fits into @p room pixels, to six tenths at most: a
-    /// digit that is cut off would make another amount.
-    static QFont narrowed(QFont type, const QString &text, int room);
-
     QSize sizeHint() const override;
     void setModel(QAbstractItemModel *model) override;
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/tabstrip.h"
 
-#include "widgets/spreadheader.h"
+#include "widgets/narrowedfont.h"
 
 #include <QFontMetrics>
 #include <QScopedValueRollback>
@@ -43,7 +43,7 @@ void TabStrip::tabLayoutChange()
     const int room = width() - m_padding * count();
     QFont full = font();
     full.setStretch(QFont::AnyStretch);
-    const QFont type = SpreadHeader::narrowed(full, captions, room);
+    const QFont type = narrowedFont(full, captions, room);
     if (type.stretch() != font().stretch())
         setFont(type);
 }

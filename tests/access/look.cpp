@@ -2,8 +2,8 @@
 #include "access/look.h"
 
 #include "fields/fieldtable.h"
+#include "widgets/narrowedfont.h"
 #include "widgets/spread.h"
-#include "widgets/spreadheader.h"
 
 #include <QComboBox>
 #include <QFontInfo>
@@ -95,7 +95,7 @@ void addCombo(QList<Words> &all, QComboBox *combo)
 void addCell(QList<Words> &all, QWidget *on, const QString &text, const QRect &place,
              const QFont &type)
 {
-    all += {on, text, place, SpreadHeader::narrowed(type, text, place.width())};
+    all += {on, text, place, narrowedFont(type, text, place.width())};
 }
 
 void addGrid(QList<Words> &all, Spread *grid)
