@@ -130,12 +130,13 @@ build()
         test) option=BUILD_TESTING ;;
         bench) option=MIRAKLA_BENCHMARKS ;;
         ci) option=CMAKE_COMPILE_WARNING_AS_ERROR ;;
-        dev) folder=build/dev ;;
+        dev | lint) folder=build/$preset ;;
     esac
     if [[ ! $folder/build.ninja -nt CMakePresets.json ]] ||
         { [[ -n $option ]] && ! grep -q "^$option:[A-Z]*=ON\$" "$folder/CMakeCache.txt"; }; then
         cmake --preset "$preset" || die "the $preset build could not be configured"
     fi
+    [[ $preset != lint ]] || return 0 # nothing of it is compiled
     cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"} ||
         die "the $preset build failed"
 }
