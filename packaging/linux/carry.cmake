@@ -45,6 +45,7 @@ endforeach()
 # The package system knows a file by the name it was shipped under, which may lack the leading /usr.
 list(TRANSFORM sources REPLACE "^/usr/" "/" OUTPUT_VARIABLE shipped)
 execute_process(COMMAND dpkg-query -S ${sources} ${shipped} OUTPUT_VARIABLE owners ERROR_QUIET)
+string(REGEX REPLACE "diversion by [^\n]*\n" "" owners "${owners}") # Ubuntu moves one library aside
 foreach(source IN LISTS sources)
     cmake_path(GET source FILENAME name)
     string(FIND "${owners}" "/${name}\n" found)
