@@ -27,6 +27,13 @@ void ConnectLedger()
 
 void CloseLedger()
 {
+    if (!LedgerConnection)
+        return;
+    try {
+        LedgerConnection->requireOwnFile();
+    } catch (const FatalError &error) {
+        endWithReport(error);
+    }
     LedgerConnection.reset();
 }
 

@@ -19,11 +19,12 @@ extern Recordset RecordsetB;
 /// Who keys, written to each bet line; set at start and never changed after.
 extern QString CurrentUser;
 
-/// Opens data/ztkdata.ZDB below the program's folder. On failure shows the engine's words and
+/// Opens data/ztkdata.ZDB below the program's folder. On failure shows SQLite's words and
 /// ends the program with status 1.
 void ConnectLedger();
 
-/// Closes the Ledger if it is open. A clean end leaves one file and nothing beside it.
+/// Closes the Ledger if it is open. A clean end leaves one file and nothing beside it. Ends the
+/// program with the report if the file was deleted or replaced while it was open.
 void CloseLedger();
 
 /// The largest @p key of @p table plus 1, or 1 on an empty table. Asked anew before each row,

@@ -38,12 +38,20 @@ private:
     QByteArray m_what;
 };
 
+/// A failure that no handler may pass over: data that was accepted is not where the next start looks
+/// for it.
+class FatalError : public RunTimeError
+{
+public:
+    using RunTimeError::RunTimeError;
+};
+
 [[noreturn]] void raiseTypeMismatch();     ///< raises RunTimeError 13
 [[noreturn]] void raiseOverflow();         ///< raises RunTimeError 6
 [[noreturn]] void raiseInvalidUseOfNull(); ///< raises RunTimeError 94
 
 /// Runs one statement of a handler that resumes at the next statement after an error.
-/// Gives false when the statement failed. Wrap each statement by itself: what stands behind
+/// Gives false when the statement failed; a FatalError still rises. Wrap each statement by itself: what stands behind
 /// the failing one inside @p statement does not run.
 template<typename Statement>
 bool resumeNext(Statement &&statement)
@@ -51,6 +59,8 @@ bool resumeNext(Statement &&statement)
     try {
         std::forward<Statement>(statement)();
         return true;
+    } catch (const FatalError &) {
+        throw;
     } catch (const RunTimeError &) {
         return false;
     }

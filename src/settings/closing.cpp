@@ -51,11 +51,11 @@ void logDraw()
     RecordsetB.close();
 }
 
-/// Deleted rows are overwritten, in the file itself only once the journal has been moved into it:
-/// here, lest the machine be switched off while the last box waits.
+/// The file itself has the deleted rows until the WAL is moved into it. That is done before the
+/// last box, since the machine may be switched off while the box waits.
 void overwriteDeleted()
 {
-    LedgerConnection->run(u"PRAGMA wal_checkpoint(TRUNCATE)"_s);
+    LedgerConnection->moveWalIntoFile();
 }
 
 bool confirmDeletion(const QString &question)

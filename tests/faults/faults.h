@@ -52,7 +52,9 @@ private slots:
     void damagedLedgerIsRefused();
     void whatIsNoFileIsRefused();
     void spoiltFirstPageComesFromTheJournal();
-    void journalOfAnotherLedgerIsRefused();
+    void restoredCopyIsWhole();
+    void walOfAnotherLedgerIsSetAside();
+    void indexThatDisagreesIsRebuilt();
     void damagedJournalLeavesWholeSteps();
     void nothingLeaks();
 

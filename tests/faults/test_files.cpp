@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 // Files: Ledgers that are damaged or no Ledgers at all, and what can be read out of a good one
 // without its password, or with it once a draw is closed.
+#include "desktop/programfolder.h"
+#include "entry/save.h"
 #include "faults/daybook.h"
 #include "faults/faults.h"
 #include "faults/faultydisk.h"
@@ -190,24 +192,96 @@ void FaultsTest::spoiltFirstPageComesFromTheJournal()
     QCOMPARE(DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key()), kept);
 }
 
-/// Its first page brings a salt that opens nothing here.
-void FaultsTest::journalOfAnotherLedgerIsRefused()
+/// A copy of the file alone beside the WAL of a killed program, as somebody puts a backup back. SQLite
+/// by itself would apply the one to the other and make a mixture of two states.
+void FaultsTest::restoredCopyIsWhole()
 {
-    QByteArray journal;
+    QRandomGenerator dice(m_seed);
+    const int rounds = times("DESK_RESTORES", 15);
+    int setAside = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const ProgramFolder folder;
+        const auto open = [&] {
+            folder.open();
+            LedgerConnection->setMostWalPages(dice.bounded(10, 400)); // else there is one WAL
+        };
+        const auto work = [&] {
+            std::vector kinds(size_t(dice.bounded(1, 5)), Step::File);
+            kinds.push_back(dice.bounded(2) == 0 ? Step::Cut : Step::Check);
+            Day(dice.generate(), kinds, true).perform([] {});
+        };
+        open();
+        work();
+        const QByteArray early = folder.bytes()[u"ztkdata.ZDB-wal"_s];
+        work();
+        const bool copiedWhileClosed = dice.bounded(2) == 0;
+        if (copiedWhileClosed)
+            CloseLedger();
+        const QTemporaryDir place;
+        const QString restored = place.filePath(u"ztkdata.ZDB"_s);
+        QFile::copy(folder.ledger(), restored);
+        if (copiedWhileClosed && dice.bounded(3) == 0) // and used by something that writes no ids
+            runStockTool(restored, u"639417"_s,
+                         u"WITH RECURSIVE n(key) AS (VALUES (1) UNION ALL SELECT key + 1 FROM n"
+                         " LIMIT 200) INSERT INTO tblNumberFix SELECT key, '123' FROM n;"_s);
+        const QStringList copied = DayBook::rowsLeftIn(restored, ProgramFolder::key());
+        if (copiedWhileClosed)
+            open();
+        work();
+        // Somebody may also have copied the WAL, but before the file.
+        const bool isEarly = copiedWhileClosed && dice.bounded(2) == 0;
+        const QByteArray wal = isEarly ? early : folder.bytes()[u"ztkdata.ZDB-wal"_s];
+        write(restored + u"-wal"_s, wal);
+        const QStringList later = DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key());
+        const QStringList found = DayBook::rowsLeftIn(restored, ProgramFolder::key());
+        QVERIFY2(found == copied || found == later, qPrintable(found.join(u'\n')));
+
+        Connection::open(restored, ProgramFolder::key());
+        const QStringList names = QDir(place.path()).entryList(QDir::Files);
+        if (found == later)
+            continue;
+        ++setAside;
+        QCOMPARE(names.size(), 2); // nothing of the WAL is lost
+        QVERIFY(names[1].startsWith(u"ztkdata.ZDB-wal-of-another-file-2"_s));
+        QFile aside(place.filePath(names[1]));
+        QVERIFY(aside.open(QIODevice::ReadOnly) && aside.readAll() == wal);
+    }
+    QVERIFY(setAside > 0);
+    qInfo("%d copies, %d of another state than the WAL", rounds, setAside);
+}
+
+/// Of a file with another salt, which opens nothing here.
+void FaultsTest::walOfAnotherLedgerIsSetAside()
+{
+    const ProgramFolder folder;
     {
         const TestLedger other;
-        other.run(u"PRAGMA application_id = 1"_s); // stands in the first page
-        QFile file(other.path() + u"-wal"_s);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        journal = file.readAll();
+        other.run(u"DELETE FROM tblMember"_s);
+        other.run(u"PRAGMA user_version = 0"_s); // as of a version that wrote no ids
+        QFile::copy(other.path() + u"-wal"_s, folder.journal());
     }
-    const ProgramFolder folder;
-    write(folder.journal(), journal);
-    const auto before = folder.bytes();
+    setProgramFolder(folder.path());
     const BoxScript script;
-    QCOMPARE(endStatus([] { ConnectLedger(); }), 1);
-    QCOMPARE(script.texts().size(), 1);
-    QVERIFY(folder.bytes() == before);
+    QVERIFY(!endStatus([] { ConnectLedger(); }));
+    QCOMPARE(LedgerConnection->run(u"SELECT count(*) FROM tblMember"_s).rows[0][0].toInt(), 1);
+    QCOMPARE(folder.bytes().size(), 3);
+}
+
+/// As a WAL that was applied to another state of the file leaves it.
+void FaultsTest::indexThatDisagreesIsRebuilt()
+{
+    const ProgramFolder folder;
+    folder.open();
+    Day(m_seed, std::vector(5, Step::File), true).perform([] {});
+    CloseLedger();
+    runStockTool(folder.ledger(), u"639417"_s,
+                 u"PRAGMA writable_schema = ON; UPDATE sqlite_master SET"
+                 " sql = replace(sql, '(NameFK)', '(numBuy)') WHERE name = 'tblNumber_buyer';"_s);
+    const auto rows = [&] { return DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key()); };
+    QVERIFY2(rows().first().contains(u"index"_s), qPrintable(rows().first()));
+    folder.open();
+    saveDiscount(u"1"_s);
+    QVERIFY2(rows().contains(u"discount 6 1"_s), qPrintable(rows().first()));
 }
 
 /// The engine cannot tell a damaged journal from one that a power cut tore: what stands behind the

@@ -60,6 +60,7 @@ private:
     QString journalPath() const { return path() + u"-wal"_s; }
     Files read() const { return {bytesOf(path()), bytesOf(journalPath())}; }
     QStringList names() const { return QDir(m_folder->path()).entryList(QDir::Files); }
+    bool putBackWal() const;
 
     std::optional<QTemporaryDir> m_folder = std::make_optional<QTemporaryDir>();
     QStringList m_states; ///< what the Ledger held after each line filed
@@ -96,6 +97,13 @@ Bench::Bench()
     clean = {bytesOf(path()), {}};
 }
 
+/// Undoes what becomes of a WAL of another file. False if there was none.
+bool Bench::putBackWal() const
+{
+    const QStringList aside = names().filter(u"-wal-of-another-file-"_s);
+    return !aside.isEmpty() && QFile::rename(m_folder->filePath(aside[0]), journalPath());
+}
+
 void Bench::open(const Files &files)
 {
     m_folder.emplace(); // a new one, since a refused Ledger beside a journal is held to the end
@@ -106,9 +114,14 @@ void Bench::open(const Files &files)
         const auto ledger = Connection::open(path(), Key);
         require(m_states.contains(contentsOf(*ledger)), "an opened Ledger holds what was filed");
     } catch (const RunTimeError &) {
+        putBackWal();
         require(!(files == clean) && !(files == interrupted), "a sound Ledger opens");
         require(read() == files && names() == before, "a refused Ledger is left as it is");
         return;
+    }
+    if (putBackWal()) {
+        require(bytesOf(journalPath()) == files.journal, "a WAL of another file is kept");
+        QFile::remove(journalPath());
     }
     require(names() == QStringList(u"book.ZDB"_s), "a clean end leaves one file");
     require(m_states.contains(contentsOf(*Connection::open(path(), Key))),

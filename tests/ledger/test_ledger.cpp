@@ -4,7 +4,9 @@
 #include "desktop/programfolder.h"
 #include "ledger/ledger.h"
 #include "ledger/schema.h"
+#include "runtime/runtimeerror.h"
 #include "shell/globals.h"
+#include "support/boxscript.h"
 #include "support/outcome.h"
 #include "support/testledger.h"
 
@@ -42,6 +44,7 @@ class LedgerTest : public QObject
 private slots:
     void readOnlyFileIsRefused();
     void openFileIsClosedToOthers();
+    void fileThatIsReplacedWhileOpenIsRescued();
     void fileIsEncryptedAndTheStockToolReadsIt();
     void textNeverBecomesASecondStatement();
     void comboListsKeysInOrder();
@@ -74,6 +77,48 @@ void LedgerTest::openFileIsClosedToOthers()
     const QString other = runStockTool(ledger.path(), u"639417"_s, u"DELETE FROM tblMember;"_s);
     QVERIFY2(other.contains(u"database is locked"_s), qPrintable(other));
     QCOMPARE(ledger.run(u"SELECT Mname FROM tblMember"_s), QStringList({u"-"_s, u"Lek"_s}));
+}
+
+/// As programs do that keep a folder the same on several machines.
+void LedgerTest::fileThatIsReplacedWhileOpenIsRescued()
+{
+#ifdef Q_OS_WIN
+    QSKIP("a file that SQLite has open cannot be replaced there");
+#endif
+    for (const bool atTheEnd : {false, true}) {
+        const TestLedger ledger;
+        CloseLedger();
+        QFile::setPermissions(ledger.path(), QFile::ReadOwner | QFile::WriteOwner);
+        const auto permissions = QFile::permissions(ledger.path());
+        ConnectLedger();
+        ledger.addMember(1, u"Lek"_s, u"0"_s);
+        const QString wal = ledger.path() + u"-wal"_s;
+        const QByteArray before = bytesOf(wal);
+        QVERIFY(QFile::rename(ledger.path(), ledger.path() + u".away"_s));
+        if (atTheEnd)
+            makeEmptyLedger(ledger.path() + u".new"_s);
+        QFile::rename(ledger.path() + u".new"_s, ledger.path());
+        const QByteArray other = bytesOf(ledger.path());
+        const BoxScript script;
+        QString report;
+        if (!atTheEnd)
+            report = errorOf([&] { resumeNext([&] { ledger.addMember(2, u"Not"_s, u"0"_s); }); });
+        QCOMPARE(endStatus([] { CloseLedger(); }).has_value(), atTheEnd);
+        if (atTheEnd)
+            report = script.texts().value(0);
+        const QStringList rescued = ledger.files().filter(u"ztkdata-rescued-"_s);
+        QCOMPARE(rescued.size(), 1);
+        QVERIFY2(report.endsWith(rescued[0]), qPrintable(report));
+        QVERIFY(bytesOf(wal) == before); // closing leaves what lies there now alone
+        QVERIFY(bytesOf(ledger.path()) == other);
+
+        const QString path = QFileInfo(ledger.path()).dir().filePath(rescued[0]);
+        QCOMPARE(QFile::permissions(path), permissions);
+        const auto opened = Connection::open(path);
+        QCOMPARE(opened->run(u"SELECT Mname FROM tblMember"_s).rows.size(), 2);
+        QCOMPARE(opened->run(u"PRAGMA journal_mode"_s).rows[0][0].toString(), u"wal"_s);
+        QCOMPARE(opened->run(u"PRAGMA integrity_check"_s).rows[0][0].toString(), u"ok"_s);
+    }
 }
 
 void LedgerTest::fileIsEncryptedAndTheStockToolReadsIt()

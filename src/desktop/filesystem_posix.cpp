@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#include "desktop/filesystem.h"
+
+#include <cerrno>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/// Nothing where it cannot be found out.
+std::optional<FileId> findFile(const QByteArray &path)
+{
+    struct stat found;
+    if (stat(path.constData(), &found) == 0)
+        return FileId{quint64(found.st_dev), quint64(found.st_ino)};
+    if (errno == ENOENT || errno == ENOTDIR)
+        return FileId{};
+    return std::nullopt;
+}
+
+} // namespace
+
+FileId fileIdAt(const QByteArray &path)
+{
+    return findFile(path).value_or(FileId{});
+}
+
+bool leadsTo(const QByteArray &path, const FileId &id)
+{
+    return findFile(path).value_or(id) == id;
+}
+
+bool mayBeWritten(const QByteArray &path)
+{
+    return faccessat(AT_FDCWD, path.constData(), W_OK, AT_EACCESS) == 0;
+}
+
+void syncFolder(const QByteArray &folder)
+{
+    const int opened = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (opened < 0)
+        return;
+    fsync(opened);
+    close(opened);
+}
