@@ -2,6 +2,7 @@
 #include "cutting/board.h"
 
 #include "ledger/collation.h"
+#include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
@@ -58,7 +59,7 @@ std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name)
     RecordsetA.open(u"SELECT num23, updown, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
                     " WHERE NameFK IN (SELECT MPK FROM tblMember WHERE [Mname] LIKE ?)"
                     " GROUP BY num23, updown, numType, numValue"_s,
-                    {name});
+                    {trimBlanks(name)});
     std::array<BoardLines, ClassCount> boards;
     for (; !RecordsetA.eof(); RecordsetA.moveNext()) {
         if (const int at = classOfCurrentRow(); at >= 0)
@@ -74,34 +75,22 @@ QString customerStatement()
     return u"SELECT tblMember.* FROM tblMember WHERE [Mname] LIKE ? ORDER BY MPK LIMIT 1"_s;
 }
 
-const QStringList &Buyers::names()
+QStringList readBuyers()
 {
-    return m_names.get([this] {
-        QStringList found;
-        RecordsetB.open(u"SELECT Mname FROM tblMember WHERE EXISTS"
-                        " (SELECT 1 FROM tblNumber WHERE NameFK = MPK) ORDER BY MPK"_s);
-        for (; !RecordsetB.eof(); RecordsetB.moveNext())
-            found += RecordsetB.field(0).toString();
-        RecordsetB.close();
-        return sorted(found);
-    });
-}
-
-const QStringList &Buyers::sorted(const QStringList &found)
-{
-    if (found == m_found)
-        return m_sorted;
-    m_found = found;
-    m_sorted = found;
-    const auto before = [](const QString &left, const QString &right) {
+    QStringList names;
+    RecordsetB.open(u"SELECT Mname FROM tblMember WHERE EXISTS"
+                    " (SELECT 1 FROM tblNumber WHERE NameFK = MPK) ORDER BY MPK"_s);
+    for (; !RecordsetB.eof(); RecordsetB.moveNext())
+        names += RecordsetB.field(0).toString();
+    RecordsetB.close();
+    std::stable_sort(names.begin(), names.end(), [](const QString &left, const QString &right) {
         return compareThai(left, right) < 0;
-    };
+    });
     const auto same = [](const QString &left, const QString &right) {
         return compareAnyCase(left, right) == 0;
     };
-    std::stable_sort(m_sorted.begin(), m_sorted.end(), before);
-    m_sorted.erase(std::unique(m_sorted.begin(), m_sorted.end(), same), m_sorted.end());
-    return m_sorted;
+    names.erase(std::unique(names.begin(), names.end(), same), names.end());
+    return names;
 }
 
 Board::Board()
@@ -121,57 +110,28 @@ void Board::SetupSpread(int at)
     setupBetGrid(grids[at], BetClasses[at], SideColumn);
 }
 
-void Board::load(int at, bool filtered, ProgressBar &progress)
-{
-    Shown shown;
-    try {
-        shown = {linesOf(at, filtered),
-                 m_hotNumbers.get([] { return HotNumbers(readHotNumbers()); })};
-    } catch (const RunTimeError &) { // the board is empty, not that of another reading
-        SetupSpread(at);
-        m_shown[at] = {};
-        throw;
-    }
-    // Most changes of the book reach one board of eight.
-    if (shown.lines.empty() || shown != m_shown[at])
-        write(at, shown, progress);
-    else
-        estimate(at); // the rate may be another
-    m_shown[at] = std::move(shown);
-}
-
-void Board::write(int at, const Shown &shown, ProgressBar &progress)
+void Board::load(int at, const BoardLines &lines, const HotNumbers &hotNumbers,
+                 ProgressBar &progress)
 {
     SpreadModel &grid = grids[at];
     const SpreadModel::Rebuild rebuild(grid);
-    m_shown[at] = {}; // an error may leave a half of it
     BoardTotal = 0;
     SetupSpread(at);
-    grid.setRows(int(shown.lines.size()));
-    if (shown.lines.empty()) {
+    grid.setRows(int(lines.size()));
+    if (lines.empty()) {
         estimates[at] = u"0"_s;
         grid.setText(TotalRow, AmountColumn, u"0"_s);
         return;
     }
     progress.start(grid.rows());
-    fillRows(at, shown, progress);
-    estimate(at);
+    fillRows(at, lines, hotNumbers, progress);
+    estimates[at] = formatBaht(CDbl(grid.text(1, AmountColumn)) * classRate(at));
     grid.setText(TotalRow, AmountColumn, formatBaht(BoardTotal));
 }
 
-BoardLines Board::linesOf(int at, bool filtered)
-{
-    if (!filtered)
-        return readBoard(BetClasses[at]);
-    const QString name = trimBlanks(FilterName);
-    if (m_customer != name)
-        m_customerBoards = {};
-    m_customer = name;
-    return m_customerBoards.get([&] { return readCustomerBoards(name); })[at];
-}
-
 /// Writes the rows and sums the money. Halving may send a hot number down the board.
-void Board::fillRows(int at, const Shown &shown, ProgressBar &progress)
+void Board::fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbers,
+                     ProgressBar &progress)
 {
     const BetClass &betClass = BetClasses[at];
     SpreadModel &grid = grids[at];
@@ -181,11 +141,11 @@ void Board::fillRows(int at, const Shown &shown, ProgressBar &progress)
     texts[SideColumn] = betClass.updown ? u"True"_s : u"False"_s;
     bool halved = false;
     int row = 0;
-    for (const auto &[number, money] : shown.lines) {
+    for (const auto &[number, money] : lines) {
         if (!money)
             raiseInvalidUseOfNull();
         BoardTotal = addLong({BoardTotal, CLng(*money)});
-        const bool isHot = shown.hotNumbers.reach(betClass, number);
+        const bool isHot = hotNumbers.reach(betClass, number);
         texts[NumberColumn] = number;
         texts[AmountColumn] = formatBaht(isHot ? *money / 2 : *money);
         grid.setRow(++row, texts);
@@ -198,11 +158,6 @@ void Board::fillRows(int at, const Shown &shown, ProgressBar &progress)
         grid.sortDescending(AmountColumn, [](const QString &text) {
             return text.isEmpty() ? 0 : CDbl(text); // no money has no text
         });
-}
-
-void Board::estimate(int at)
-{
-    estimates[at] = formatBaht(CDbl(grids[at].text(1, AmountColumn)) * classRate(at));
 }
 
 void Board::takeTotal(int at)

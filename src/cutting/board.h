@@ -5,7 +5,6 @@
 
 #include "entry/betgrid.h"
 #include "entry/hotnumbers.h"
-#include "ledger/ledgermemo.h"
 #include "widgets/progressbar.h"
 
 #include <optional>
@@ -22,8 +21,6 @@ struct NumberMoney
 {
     QString number;
     std::optional<double> money; ///< whole baht; nothing if none of its lines holds any
-
-    bool operator==(const NumberMoney &) const = default;
 };
 
 /// Numbers with their money, the most money first, equal money by number.
@@ -32,8 +29,8 @@ using BoardLines = std::vector<NumberMoney>;
 /// Numbers of the whole book in one class.
 BoardLines readBoard(const BetClass &betClass);
 
-/// Numbers of one customer in all classes; wild cards in the name count. All eight boards of a
-/// filter come from this one statement.
+/// Numbers of one customer in all classes. Blanks around the name are ignored; wild cards in it
+/// count. All eight boards of a filter come from this one statement. Uses RecordsetA.
 std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
 
 /// The customer whom a name keyed in part finds: the one with the lowest key. Takes the name
@@ -41,19 +38,7 @@ std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
 QString customerStatement();
 
 /// Names of the customers who hold a bet in the draw, in Thai order, each once.
-class Buyers
-{
-public:
-    /// Reads them if the Ledger has changed. Uses RecordsetB.
-    const QStringList &names();
-
-private:
-    const QStringList &sorted(const QStringList &found);
-
-    LedgerMemo<QStringList> m_names;
-    QStringList m_found; ///< as the Ledger gave them last: sorting Thai names is dear
-    QStringList m_sorted;
-};
+QStringList readBuyers();
 
 /// The eight boards, what their heaviest numbers would cost, and the totals of the book.
 struct Board
@@ -77,12 +62,11 @@ struct Board
     /// Empties a board.
     void SetupSpread(int at);
 
-    /// Loads a board, of the whole book or of the filter's customer. A hot number shows half its
-    /// money, which may send it down the board; the total in the header counts it in full. Raises
-    /// "Overflow" when that total leaves 32 bits and "Invalid use of Null" for a number without
-    /// money; the rows above it stand. Shows the progress unless there is nothing to load. Uses
-    /// RecordsetA and RecordsetB.
-    void load(int at, bool filtered, ProgressBar &progress);
+    /// Fills a board with @p lines. A hot number shows half its money, which may send it down the
+    /// board; the total in the header counts it in full. Raises "Overflow" when that total leaves
+    /// 32 bits and "Invalid use of Null" for a number without money; the rows above it stay. Shows
+    /// the progress unless there is nothing to load.
+    void load(int at, const BoardLines &lines, const HotNumbers &hotNumbers, ProgressBar &progress);
 
     /// Reads SavedTicketTotal; 0 without a discount. Uses RecordsetA.
     void readSavedTicketTotal();
@@ -91,23 +75,8 @@ struct Board
     void takeTotal(int at);
 
 private:
-    /// What a board was written from last.
-    struct Shown
-    {
-        BoardLines lines;
-        HotNumbers hotNumbers;
-
-        bool operator==(const Shown &) const = default;
-    };
-
-    BoardLines linesOf(int at, bool filtered);
-    void write(int at, const Shown &shown, ProgressBar &progress);
-    void estimate(int at); ///< takes the money of the top row as it is shown
-    void fillRows(int at, const Shown &shown, ProgressBar &progress);
+    void fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbers,
+                  ProgressBar &progress);
 
     qint32 BoardTotal = 0; ///< of the board being loaded
-    QString m_customer;    ///< whose boards are kept below
-    LedgerMemo<std::array<BoardLines, ClassCount>> m_customerBoards;
-    LedgerMemo<HotNumbers> m_hotNumbers;
-    std::array<Shown, ClassCount> m_shown;
 };

@@ -7,6 +7,7 @@
 #include "runtime/values.h"
 
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -91,31 +92,28 @@ void CutOut::LoadNumrunup()
                     " WHERE [num23] = ? AND [numType] = ? AND [updown] = ? AND [numValue] = ?"
                     " ORDER BY numBuy DESC"_s,
                     {SelNum23, SelNumType, SelUpDown, trimBlanks(SelNumValue)});
-    m_lines = RecordsetA.takeRows();
-    sortEqualMoneyByKey(m_lines);
-    if (m_lines.isEmpty())
+    QList<QVariantList> lines = RecordsetA.takeRows();
+    sortEqualMoneyByKey(lines);
+    if (lines.isEmpty())
         return;
-    qint32 CutTotal = 0; // first, so that no line is told whose money is none
-    for (const QVariantList &line : std::as_const(m_lines))
+    qint32 CutTotal = 0; // Sum first: a NULL amount must throw before any row is shown.
+    for (const QVariantList &line : std::as_const(lines))
         CutTotal = addLong({CutTotal, CLng(numberOf(field(line, Read::Money)))});
-    grid.setToldRows(int(m_lines.size()), [this, label = twoPartLabel(SelNumType, SelUpDown),
-                                           number = trimBlanks(SelNumValue)](int row, auto texts) {
-        texts[CutColumn::Label] = label;
-        texts[CutColumn::Number] = number;
-        tellRow(row, texts);
-    });
+    grid.setRows(int(lines.size()));
+    std::array<QString, CutColumn::User + 1> texts;
+    texts[CutColumn::Label] = twoPartLabel(SelNumType, SelUpDown);
+    texts[CutColumn::Number] = trimBlanks(SelNumValue);
+    int row = 0;
+    for (const QVariantList &line : std::as_const(lines)) {
+        texts[CutColumn::Key] = field(line, Read::Key).toString();
+        texts[CutColumn::Place] = QString::number(++row);
+        texts[CutColumn::Customer] = u' ' + field(line, Read::Name).toString();
+        texts[CutColumn::Amount] = formatBaht(numberOf(field(line, Read::Money))) + u' ';
+        texts[CutColumn::Buyer] = field(line, Read::Buyer).toString();
+        texts[CutColumn::User] = field(line, Read::User).toString();
+        grid.setRow(row, texts);
+    }
     grid.setText(TotalRow, CutColumn::Amount, formatBaht(CutTotal) + u" บาท"_s);
-}
-
-void CutOut::tellRow(int row, std::span<QString> texts) const
-{
-    const QVariantList &line = m_lines[row - 1];
-    texts[CutColumn::Key] = field(line, Read::Key).toString();
-    texts[CutColumn::Place] = QString::number(row);
-    texts[CutColumn::Customer] = u' ' + field(line, Read::Name).toString();
-    texts[CutColumn::Amount] = formatBaht(numberOf(field(line, Read::Money))) + u' ';
-    texts[CutColumn::Buyer] = field(line, Read::Buyer).toString();
-    texts[CutColumn::User] = field(line, Read::User).toString();
 }
 
 CutLine CutOut::lineAt(int row) const

@@ -49,10 +49,7 @@ public:
 
 private:
     void SetupSpread();
-    void tellRow(int row, std::span<QString> texts) const;
     void SetupNewData8();
-
-    QList<QVariantList> m_lines; ///< as the list's statement reads them
 
     qint32 NextCutKey = 0;
 };

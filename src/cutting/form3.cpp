@@ -12,6 +12,7 @@
 #include "entry/sidetabs.h"
 #include "fields/fieldguard.h"
 #include "fields/filters.h"
+#include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
@@ -19,7 +20,6 @@
 
 #include <QApplication>
 #include <QFocusEvent>
-#include <QScopeGuard>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -101,25 +101,35 @@ void Form3::Form_KeyDown()
 void Form3::FReLoad()
 {
     SelUpDown = true;
-    loadAll([this](int at) { load(at, false); });
-}
-
-/// Loads board by board; the tabs are laid out once, at the end.
-void Form3::loadAll(const std::function<void(int at)> &loadOne)
-{
-    const TabStrip::OneClick once(*m_ui->SSTab1);
-    m_captionsHeld = true;
-    const auto show = qScopeGuard([this] {
-        m_captionsHeld = false;
-        showCaptions();
-    });
+    const HotNumbers hotNumbers(readHotNumbers());
     for (int at = 0; at < ClassCount; ++at)
-        loadOne(at);
+        load(at, readBoard(BetClasses[at]), hotNumbers);
+    resumeNext([this] { LoadMember(readBuyers()); });
 }
 
-void Form3::load(int at, bool filtered)
+/// Loads all boards with the bets of the filter's customer. A board that fails is empty.
+void Form3::loadCustomer()
 {
-    m_board.load(at, filtered, m_progress);
+    std::array<BoardLines, ClassCount> boards;
+    HotNumbers hotNumbers;
+    bool isRead = false;
+    resumeNext([&] {
+        hotNumbers = HotNumbers(readHotNumbers());
+        boards = readCustomerBoards(m_board.FilterName);
+        isRead = true;
+    });
+    for (int at = 0; at < ClassCount; ++at) {
+        if (isRead)
+            resumeNext([&] { load(at, boards[at], hotNumbers); });
+        else
+            m_board.SetupSpread(at);
+    }
+    resumeNext([this] { LoadMember(readBuyers()); });
+}
+
+void Form3::load(int at, const BoardLines &lines, const HotNumbers &hotNumbers)
+{
+    m_board.load(at, lines, hotNumbers, m_progress);
     m_estimates[at]->setText(m_board.estimates[at]);
     m_board.takeTotal(at);
     if (at < TopClassCount)
@@ -128,9 +138,15 @@ void Form3::load(int at, bool filtered)
         Nubyod0();
 }
 
+/// Loads one board of the whole book, for a cut reaches no other.
+void Form3::loadClass(int at)
+{
+    load(at, readBoard(BetClasses[at]), HotNumbers(readHotNumbers()));
+    resumeNext([this] { LoadMember(readBuyers()); });
+}
+
 void Form3::Nubyod()
 {
-    resumeNext([this] { LoadMember(); });
     m_progress.finish();
     m_ui->SSTab1->setTab(TopTab);
     showSum(TopTab, u"   บน ( ยอดรวม "_s, m_board.TopSum);
@@ -140,29 +156,19 @@ void Form3::Nubyod()
 /// Like Nubyod() for the bottom. The board ends on the side that is being cut.
 void Form3::Nubyod0()
 {
-    resumeNext([this] { LoadMember(); });
     m_progress.finish();
     m_ui->SSTab1->setTab(SelUpDown ? TopTab : BottomTab);
     showSum(BottomTab, u"   ล่าง ( ยอดรวม "_s, m_board.BottomSum);
     showGrandTotal();
 }
 
-/// Writes a tab's caption and takes its sum. A sum of nothing has no text, which is no number: the
-/// caption then shows nothing and @p sum stays.
+/// Writes a tab's caption and sets @p sum. `formatBaht(0)` is empty and `CLng` rejects it, so @p sum
+/// keeps its value.
 void Form3::showSum(int tab, const QString &caption, qint32 &sum)
 {
-    resumeNext([&] { m_captions[tab] = caption + formatBaht(sideTotal(tab)) + u" )"_s; });
+    resumeNext(
+        [&] { m_ui->SSTab1->setTabText(tab, caption + formatBaht(sideTotal(tab)) + u" )"_s); });
     resumeNext([&] { sum = CLng(formatBaht(sideTotal(tab))); });
-    if (!m_captionsHeld)
-        showCaptions();
-}
-
-void Form3::showCaptions()
-{
-    for (const int tab : {BottomTab, TopTab}) {
-        if (m_ui->SSTab1->tabText(tab) != m_captions[tab])
-            m_ui->SSTab1->setTabText(tab, m_captions[tab]);
-    }
 }
 
 qint32 Form3::sideTotal(int tab) const
@@ -179,15 +185,12 @@ void Form3::showGrandTotal()
     });
 }
 
-/// Lists the customers who hold a bet. While nobody does, the old list stays.
-void Form3::LoadMember()
+/// Lists the customers who hold a bet. While there are none, the old list stays.
+void Form3::LoadMember(const QStringList &buyers)
 {
-    const QStringList &names = m_buyers.names();
-    if (names.isEmpty())
+    if (buyers.isEmpty())
         return;
-    if (m_listed != names)
-        m_ui->Combo1->setList(names);
-    m_listed = names;
+    m_ui->Combo1->setList(buyers);
     m_ui->Combo1->setCurrentIndex(-1);
     m_ui->Combo1->clearEditText();
 }
@@ -217,7 +220,7 @@ void Form3::filterToCustomer()
         m_ui->Combo1->setFocus();
         return;
     }
-    loadAll([this](int at) { resumeNext([&] { load(at, true); }); });
+    loadCustomer();
     resumeNext([this] {
         const double percent = CDbl(m_strip.text2.text());
         m_strip.text3.setText(formatBaht(percent * sumTotal(m_board.BoardSums) / 100));
@@ -342,7 +345,7 @@ void Form3::closeCut(const std::function<void()> &scanAgain)
     if (MemberFilterOn)
         FReLoad();
     else if (const int at = selectedClass(); at >= 0)
-        load(at, false);
+        loadClass(at);
     if (scanAgain)
         scanAgain();
     showWholeBook(); // last, so that the total was not written while the strip was still shown

@@ -61,14 +61,14 @@ private:
     bool readCustomer();
     void showFilter(bool on);
     void showWholeBook();
-    void LoadMember();
+    void LoadMember(const QStringList &buyers);
 
-    void load(int at, bool filtered);
-    void loadAll(const std::function<void(int at)> &loadOne);
+    void loadCustomer();
+    void loadClass(int at);
+    void load(int at, const BoardLines &lines, const HotNumbers &hotNumbers);
     void Nubyod();
     void Nubyod0();
     void showSum(int tab, const QString &caption, qint32 &sum);
-    void showCaptions();
     void showGrandTotal();
     qint32 sideTotal(int tab) const;
 
@@ -89,10 +89,6 @@ private:
     BoardOpeners m_openers;
     FocusTracker m_focus;
     Board m_board;
-    Buyers m_buyers;
-    QStringList m_listed;              ///< what stands in the list of customers
-    std::array<QString, 2> m_captions; ///< of the tabs, by tab
-    bool m_captionsHeld = false;
     std::array<Spread *, ClassCount> m_spreads{};
     std::array<QLabel *, ClassCount> m_estimates{};
 };

@@ -179,7 +179,6 @@ void Form1::Tnumber_KeyPress()
         break;
     }
     resumeNext([&] { runBuilder(m_ticket, kind); });
-    const TabStrip::OneClick once(*m_ui->SSTab1);
     resumeNext([this] { Nubyod(); });
     m_ui->Tnumber->clear();
     if (m_ui->Tname->text() == noCustomer())
@@ -301,8 +300,7 @@ void Form1::lvButtons_H2_Click()
              BoxIcon::Exclamation, BoxAnswer::Cancel))
         return;
     m_ticket.SetupSpread();
-    showTab(BottomTab, u"   ล่าง ( ยอดรวม 0  )"_s); // its own two blanks
-    showTab(TopTab, u"   บน ( ยอดรวม 0 )"_s);
+    showTabs(u"   ล่าง ( ยอดรวม 0  )"_s, u"   บน ( ยอดรวม 0 )"_s); // two blanks in the first
 }
 
 void Form1::SSTab1_Click()
@@ -314,23 +312,22 @@ void Form1::SSTab1_Click()
 void Form1::Nubyod()
 {
     const GridTotals totals = m_ticket.totalGrids();
-    const TabStrip::OneClick once(*m_ui->SSTab1);
-    showTab(BottomTab, u"   ล่าง ( ยอดรวม "_s + formatBaht(bottomTotal(totals)) + u" )"_s);
-    showTab(TopTab, u"   บน ( ยอดรวม "_s + formatBaht(topTotal(totals)) + u" )"_s);
+    showTabs(u"   ล่าง ( ยอดรวม "_s + formatBaht(bottomTotal(totals)) + u" )"_s,
+             u"   บน ( ยอดรวม "_s + formatBaht(topTotal(totals)) + u" )"_s);
     m_ui->text1->setText(formatBaht(sumTotal(totals)));
 }
 
-void Form1::showTab(int tab, const QString &caption)
+/// Writes both captions and ends on the top tab.
+void Form1::showTabs(const QString &bottom, const QString &top)
 {
-    m_ui->SSTab1->setTab(tab);
-    m_ui->SSTab1->setTabText(tab, caption);
+    m_ui->SSTab1->setTabText(BottomTab, bottom);
+    m_ui->SSTab1->setTabText(TopTab, top);
+    m_ui->SSTab1->setTab(TopTab);
 }
 
 void Form1::showZeroTabs()
 {
-    const TabStrip::OneClick once(*m_ui->SSTab1);
-    showTab(BottomTab, u"   ล่าง ( ยอดรวม 0 )"_s);
-    showTab(TopTab, u"   บน ( ยอดรวม 0 )"_s);
+    showTabs(u"   ล่าง ( ยอดรวม 0 )"_s, u"   บน ( ยอดรวม 0 )"_s);
 }
 
 void Form1::showDiscount(const QString &total)

@@ -57,7 +57,7 @@ private:
 
     void Nubyod();
     void showDiscount(const QString &total);
-    void showTab(int tab, const QString &caption);
+    void showTabs(const QString &bottom, const QString &top);
     void showZeroTabs();
     bool confirmSave();
     void resetAfterSave();

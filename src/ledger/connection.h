@@ -42,10 +42,6 @@ public:
     /// QString, NULL as an invalid QVariant.
     ResultRows run(const QString &sql, const QVariantList &values = {});
 
-    /// How many rows statements have written or removed since the file was opened. As long as it
-    /// stays the same, what was read before still holds.
-    int changes() const { return m_database.changes(); }
-
     /// Moves the WAL into the file, where deleted rows are overwritten only then.
     void moveWalIntoFile();
 

@@ -246,11 +246,6 @@ bool Database::isReadOnly() const
     return sqlite3_db_readonly(m_handle, "main") != 0;
 }
 
-int Database::changes() const
-{
-    return sqlite3_total_changes(m_handle);
-}
-
 void Database::leaveOpen()
 {
     finalizeAll();

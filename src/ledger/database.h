@@ -72,7 +72,6 @@ public:
     void copyTo(Database &target) const;
 
     bool isReadOnly() const;
-    int changes() const;
 
     /// Has the file stay open, WAL and all, to the end of the process. Closing would move the WAL
     /// into the file and delete what lies at the WAL's path.

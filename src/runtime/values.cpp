@@ -5,9 +5,7 @@
 
 #include <QByteArray>
 
-#include <array>
 #include <cmath>
-#include <cstdlib>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -60,44 +58,6 @@ QByteArray plainNumber(QStringView text)
     return at == text.size() ? plain : QByteArray();
 }
 
-/// Amounts below this are whole numbers of 64 bits as well as doubles. Boards are made of them.
-constexpr double LongestWhole = 1e15;
-
-/// Of an amount below LongestWhole.
-QString groupedDigits(qint64 amount)
-{
-    std::array<char16_t, 24> digits{}; // room for 15 digits, their commas and the sign
-    auto *const end = digits.data() + digits.size();
-    auto *first = end;
-    int count = 0;
-    for (auto rest = quint64(std::abs(amount)); rest > 0; rest /= 10) {
-        if (count > 0 && count % 3 == 0)
-            *--first = u',';
-        *--first = char16_t(u'0' + rest % 10);
-        ++count;
-    }
-    if (amount < 0)
-        *--first = u'-';
-    return QString(reinterpret_cast<const QChar *>(first), end - first);
-}
-
-/// The value of a text of the form "#,##" without a sign, or a negative number for any other.
-double plainAmount(QStringView text)
-{
-    if (text.isEmpty() || !isDigit(text[0]) || text.size() > 19)
-        return -1;
-    qint64 amount = 0;
-    for (const QChar c : text) {
-        if (isDigit(c))
-            amount = amount * 10 + (c.unicode() - u'0');
-        else if (c != u',')
-            return -1;
-        if (amount >= qint64(LongestWhole)) // one digit more could overflow
-            return -1;
-    }
-    return double(amount);
-}
-
 template<typename Whole>
 Whole roundedTo(double value)
 {
@@ -128,8 +88,6 @@ QString formatBaht(double amount)
     const double rounded = std::round(amount); // a half goes away from zero
     if (rounded == 0.0)
         return QString();
-    if (std::fabs(rounded) < LongestWhole)
-        return groupedDigits(qint64(rounded));
     QString text = QString::number(std::fabs(rounded), 'f', 0);
     for (qsizetype at = text.size() - 3; at > 0; at -= 3)
         text.insert(at, u',');
@@ -138,8 +96,6 @@ QString formatBaht(double amount)
 
 double CDbl(QStringView text)
 {
-    if (const double amount = plainAmount(text); amount >= 0)
-        return amount;
     const QByteArray plain = plainNumber(trimBlanks(text));
     if (plain.isEmpty())
         raiseTypeMismatch();

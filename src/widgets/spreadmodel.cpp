@@ -38,7 +38,6 @@ void SpreadModel::setup(int columns, int headers)
 {
     const Rebuild rebuild(*this);
     m_rows.clear();
-    m_tellRow = {};
     m_columns = QList<Qt::Alignment>(columns + 1, Qt::AlignLeft | Qt::AlignVCenter);
     m_headers = QList<QList<HeaderCell>>(headers, QList<HeaderCell>(columns + 1));
 }
@@ -58,36 +57,8 @@ void SpreadModel::setRows(int rows)
     }
 }
 
-void SpreadModel::setToldRows(int rows, RowTeller tellRow)
-{
-    const Rebuild rebuild(*this);
-    m_rows = QList<Row>(rows);
-    m_tellRow = std::move(tellRow);
-}
-
-const SpreadModel::Row &SpreadModel::toldRow(int row) const
-{
-    Row &cells = m_rows[row - 1];
-    if (cells.isEmpty()) {
-        QList<QString> texts(m_columns.size());
-        m_tellRow(row, texts);
-        cells.reserve(texts.size());
-        for (QString &text : texts)
-            cells += {std::move(text), {}};
-    }
-    return cells;
-}
-
-/// Rows that change their place have to be told while they have it.
-void SpreadModel::tellAll()
-{
-    for (int row = 1; m_tellRow && row <= rows(); ++row)
-        toldRow(row);
-}
-
 void SpreadModel::insertRow(int row)
 {
-    tellAll();
     beginInsertRows({}, row - 1, row - 1);
     m_rows.insert(row - 1, Row(m_columns.size()));
     endInsertRows();
@@ -95,7 +66,6 @@ void SpreadModel::insertRow(int row)
 
 void SpreadModel::removeRow(int row)
 {
-    tellAll();
     beginRemoveRows({}, row - 1, row - 1);
     m_rows.removeAt(row - 1);
     endRemoveRows();
@@ -109,7 +79,6 @@ bool SpreadModel::holds(int row, int column) const
 SpreadModel::Cell &SpreadModel::cell(int row, int column)
 {
     Q_ASSERT(holds(row, column));
-    toldRow(row);
     return m_rows[row - 1][column];
 }
 
@@ -131,7 +100,7 @@ QString SpreadModel::text(int row, int column) const
 {
     if (row < 0)
         return header(row, column).text;
-    return holds(row, column) ? toldRow(row)[column].text : QString();
+    return holds(row, column) ? m_rows[row - 1][column].text : QString();
 }
 
 void SpreadModel::setText(int row, int column, const QString &text)
@@ -148,7 +117,6 @@ void SpreadModel::setText(int row, int column, const QString &text)
 void SpreadModel::setRow(int row, std::span<const QString> texts)
 {
     Q_ASSERT(holds(row, int(texts.size()) - 1));
-    toldRow(row);
     Row &cells = m_rows[row - 1];
     auto cell = cells.begin();
     for (const QString &text : texts)
@@ -159,7 +127,7 @@ void SpreadModel::setRow(int row, std::span<const QString> texts)
 
 QColor SpreadModel::color(int row, int column) const
 {
-    return holds(row, column) ? toldRow(row)[column].color : QColor();
+    return holds(row, column) ? m_rows[row - 1][column].color : QColor();
 }
 
 void SpreadModel::setColor(int row, int column, const QColor &color)
@@ -200,7 +168,6 @@ void SpreadModel::setTitles(int row, std::span<const GridColumn> columns, bool b
 void SpreadModel::sortDescending(int column,
                                  const std::function<double(const QString &text)> &valueOf)
 {
-    tellAll();
     std::vector<std::pair<double, qsizetype>> order;
     order.reserve(size_t(m_rows.size()));
     for (const Row &row : std::as_const(m_rows))
@@ -220,7 +187,7 @@ void SpreadModel::sortDescending(int column,
 int SpreadModel::searchColumn(int column, const QString &text) const
 {
     for (int row = 1; row <= rows(); ++row) {
-        if (toldRow(row)[column].text == text)
+        if (m_rows[row - 1][column].text == text)
             return row;
     }
     return -1;
@@ -240,7 +207,7 @@ QVariant SpreadModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
         return {};
-    const Cell &shown = toldRow(index.row() + 1)[index.column()];
+    const Cell &shown = m_rows[index.row()][index.column()];
     switch (role) {
     case Qt::DisplayRole:
         return shown.text;

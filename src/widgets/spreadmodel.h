@@ -56,12 +56,6 @@ public:
     /// Sets the number of rows: new ones are blank and stand last, surplus ones fall off the end.
     void setRows(int rows);
 
-    /// Writes the texts of a row, from column 0 on.
-    using RowTeller = std::function<void(int row, std::span<QString> texts)>;
-
-    /// Replaces all rows by @p rows new ones, each told by @p tellRow once it is asked for: of a
-    /// list of thousands few rows are ever looked at. The teller serves until setup().
-    void setToldRows(int rows, RowTeller tellRow);
     void insertRow(int row); ///< a blank row at @p row; those from there on move down
     void removeRow(int row);
 
@@ -106,16 +100,13 @@ private:
     using Row = QList<Cell>;
 
     bool holds(int row, int column) const;
-    const Row &toldRow(int row) const;
-    void tellAll();
     Cell &cell(int row, int column);
     void changed(int row, int column);
     void headerChanged(int column);
 
     QList<Qt::Alignment> m_columns;
     QList<QList<HeaderCell>> m_headers;
-    mutable QList<Row> m_rows; ///< empty ones are still to be told
-    RowTeller m_tellRow;
+    QList<Row> m_rows;
     int m_rebuilds = 0; ///< how many Rebuilds are at work
 };
 

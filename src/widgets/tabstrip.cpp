@@ -7,8 +7,6 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
-#include <utility>
-
 TabStrip::TabStrip(QWidget *parent) : QTabBar(parent)
 {
     setExpanding(false);
@@ -23,10 +21,7 @@ void TabStrip::setTab(int tab)
         setCurrentIndex(tab);
     }
     update(); // what the blocked signals would have brought about
-    if (m_holds > 0)
-        m_clickDue = true;
-    else
-        emit clicked();
+    emit clicked();
 }
 
 void TabStrip::tabLayoutChange()
@@ -46,10 +41,4 @@ void TabStrip::tabLayoutChange()
     const QFont type = narrowedFont(full, captions, room);
     if (type.stretch() != font().stretch())
         setFont(type);
-}
-
-TabStrip::OneClick::~OneClick()
-{
-    if (--m_tabs.m_holds == 0 && std::exchange(m_tabs.m_clickDue, false))
-        emit m_tabs.clicked();
 }

@@ -17,19 +17,6 @@ public:
     /// Shows a tab and emits clicked() inside the call.
     void setTab(int tab);
 
-    /// While it lives, settings of the tab emit nothing; its end emits one clicked() for them all.
-    /// Totals are written through both tabs, and what each tab shows would be laid out every time.
-    class OneClick
-    {
-    public:
-        explicit OneClick(TabStrip &tabs) : m_tabs(tabs) { ++m_tabs.m_holds; }
-        ~OneClick();
-        Q_DISABLE_COPY_MOVE(OneClick)
-
-    private:
-        TabStrip &m_tabs;
-    };
-
 signals:
     void clicked(); ///< a tab was set, by hand or by the program
 
@@ -37,8 +24,6 @@ protected:
     void tabLayoutChange() override;
 
 private:
-    int m_holds = 0;
-    bool m_clickDue = false;
     int m_padding = -1;     ///< around each caption, once it is known
     bool m_fitting = false; ///< the type is being narrowed, which lays the tabs out again
 };

@@ -223,10 +223,15 @@ void LawTest::compareTables() const
 void LawTest::compareBoards(int customer)
 {
     Board board;
-    board.FilterName = customer == 0 ? QString() : Customers[customer - 1];
     const int whose = customer == 4 ? 3 : customer;
+    const HotNumbers hotNumbers(readHotNumbers());
+    std::array<BoardLines, ClassCount> boards;
+    if (customer == 0)
+        std::transform(BetClasses.begin(), BetClasses.end(), boards.begin(), readBoard);
+    else
+        boards = readCustomerBoards(Customers[customer - 1]);
     for (int at = 0; at < ClassCount; ++at) {
-        board.load(at, customer != 0, m_progress);
+        board.load(at, boards[size_t(at)], hotNumbers, m_progress);
         const auto column = size_t(at);
         const QStringList rows = m_book.board(column, m_draw.hot, whose);
         const SpreadModel &grid = board.grids[column];
