@@ -24,13 +24,13 @@ build   pkg-config        tells the build where the libraries below are
 build   qt6-base-dev      windows, widgets and the X11 platform plugin
 build   libgl-dev         OpenGL headers, without which Qt is not found by CMake
 build   libsqlcipher-dev  the encrypted database that holds the book
+build   libssl-dev        derives the key of the book where the password does not do
 build   libx11-dev        the keyboard state of the X server
 build   libsdl2-mixer-dev plays sounds
 build   fonts-noto-core   draws Thai and Latin text
 screen  xvfb              a virtual screen
 screen  xauth             admits programs to the virtual screen
 test    sqlcipher         reads the book independently of the program
-test    libssl-dev        decrypts the book independently of the program
 test    libfreexl-dev     reads sheets independently of the program
 test    poppler-utils     reads PDF files independently of the program
 bench   libbenchmark-dev  measures the benchmarks

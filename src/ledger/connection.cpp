@@ -145,7 +145,7 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
         // would fail later, in the middle of a ticket.
         if (file.isReadOnly())
             raiseDatabaseFailure(Refusal::ReadOnly);
-        if (!isLedger(*ledger))
+        if (!isLedger(file))
             raiseDatabaseFailure(Refusal::NotALedger);
         auto wal = std::make_unique<WalKeeper>(file, left, password);
         refuseDamaged(file, *wal, real, walExists, left.holdsPages);

@@ -9,8 +9,6 @@
 
 class WalKeeper;
 
-/// The marks by which a file is known as a Ledger of this program.
-inline constexpr int LedgerApplicationId = 0x4d444c31; // "MDL1"
 inline constexpr const char *LedgerPassword = "639417";
 
 /// An object that exists is an open, working Ledger. Every member raises RunTimeError

@@ -10,8 +10,8 @@
 using namespace Qt::StringLiterals;
 
 std::unique_ptr<Connection> LedgerConnection;
-Recordset RecordsetA;
-Recordset RecordsetB;
+Recordset RecordsetA(LedgerConnection);
+Recordset RecordsetB(LedgerConnection);
 QString CurrentUser;
 
 void ConnectLedger()

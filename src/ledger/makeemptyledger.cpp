@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Program of the build: makes the empty Ledger that ships beside the program. It links only
 // desk_core, the proof that the logic stands without windows.
-#include "ledger/schema.h"
+#include "ledger/emptyledger.h"
 #include "runtime/runtimeerror.h"
 
 #include <QCoreApplication>

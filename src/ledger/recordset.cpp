@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "ledger/recordset.h"
 
-#include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
 
 #include <algorithm>
@@ -18,10 +17,15 @@ namespace {
 
 } // namespace
 
+ResultRows Recordset::run(const QString &sql, const QVariantList &values) const
+{
+    return (*m_connection)->run(sql, values);
+}
+
 void Recordset::open(const QString &sql, const QVariantList &values)
 {
     close();
-    m_read = LedgerConnection->run(sql, values);
+    m_read = run(sql, values);
 }
 
 void Recordset::openTable(const QString &table)
@@ -79,13 +83,13 @@ void Recordset::set(const QString &column, const QVariant &value)
 void Recordset::update()
 {
     if (!m_editKey.isEmpty()) {
-        LedgerConnection->run(u"UPDATE %1 SET %2 = ? WHERE %3 = ?"_s.arg(
-                                  m_table, m_columns.join(u" = ?, "_s), m_editKey),
-                              m_values + QVariantList{m_editValue});
+        run(u"UPDATE %1 SET %2 = ? WHERE %3 = ?"_s.arg(m_table, m_columns.join(u" = ?, "_s),
+                                                       m_editKey),
+            m_values + QVariantList{m_editValue});
         return;
     }
     const QStringList marks(m_columns.size(), u"?"_s);
-    LedgerConnection->run(u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(m_table, m_columns.join(u", "_s),
-                                                                   marks.join(u", "_s)),
-                          m_values);
+    run(u"INSERT INTO %1 (%2) VALUES (%3)"_s.arg(m_table, m_columns.join(u", "_s),
+                                                 marks.join(u", "_s)),
+        m_values);
 }

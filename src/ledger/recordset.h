@@ -5,11 +5,16 @@
 
 #include "ledger/connection.h"
 
-/// One slot. Opening it anew drops what it held. All operations work on LedgerConnection and
-/// raise RunTimeError DatabaseFailure when the engine fails.
+#include <memory>
+
+/// One slot. Opening it again drops what it held. All operations raise RunTimeError DatabaseFailure
+/// when SQLite fails.
 class Recordset
 {
 public:
+    /// Works on what @p connection points to when an operation is called; it may change meanwhile.
+    explicit Recordset(const std::unique_ptr<Connection> &connection) : m_connection(&connection) {}
+
     /// Runs a reading statement; the first of its rows becomes the current one.
     void open(const QString &sql, const QVariantList &values = {});
 
@@ -46,9 +51,12 @@ public:
     void update();
 
     /// Lets go of everything.
-    void close() { *this = {}; }
+    void close() { *this = Recordset(*m_connection); }
 
 private:
+    ResultRows run(const QString &sql, const QVariantList &values) const;
+
+    const std::unique_ptr<Connection> *m_connection;
     ResultRows m_read;
     int m_current = 0;
     QString m_table;

@@ -1,33 +1,21 @@
 // SPDX-License-Identifier: MIT
 #include "ledger/salt.h"
 
-#include <QMessageAuthenticationCode>
+#include <openssl/evp.h>
 
 namespace {
 
-/// SQLCipher's way from a password to a key: PBKDF2 with HMAC-SHA1.
+/// The key that SQLCipher 3 derives from a password: PBKDF2 with HMAC-SHA1.
 QByteArray derivedKey(const QByteArray &password, const QByteArray &salt)
 {
-    constexpr qsizetype KeySize = 32;
-    constexpr int Turns = 64'000;
-    QMessageAuthenticationCode code(QCryptographicHash::Sha1, password);
-    const auto turned = [&code](const QByteArray &bytes) {
-        code.reset();
-        code.addData(bytes);
-        return code.result();
-    };
-    QByteArray key;
-    for (char block = 1; key.size() < KeySize; ++block) {
-        QByteArray turn = turned(salt + QByteArray(3, '\0') + block);
-        QByteArray sum = turn;
-        for (int at = 1; at < Turns; ++at) {
-            turn = turned(turn);
-            for (qsizetype place = 0; place < sum.size(); ++place)
-                sum[place] = char(sum[place] ^ turn[place]);
-        }
-        key += sum;
-    }
-    return key.first(KeySize);
+    constexpr int KeySize = 32;
+    constexpr int Rounds = 64'000;
+    QByteArray key(KeySize, '\0');
+    PKCS5_PBKDF2_HMAC_SHA1(password.constData(), int(password.size()),
+                           reinterpret_cast<const unsigned char *>(salt.constData()),
+                           int(salt.size()), Rounds, KeySize,
+                           reinterpret_cast<unsigned char *>(key.data()));
+    return key;
 }
 
 } // namespace

@@ -1,15 +1,23 @@
 // SPDX-License-Identifier: MIT
-// The Ledger's tables. The program works on a ready-made file; only the maker of the empty
-// Ledger, a program of the build, creates tables.
+// The tables of a Ledger.
 #pragma once
 
-#include <QString>
+#include <array>
+#include <span>
 
-class Connection;
+class Database;
 
-/// True if the open file carries the mark and the eight tables of a Ledger.
-bool isLedger(Connection &file);
+/// Marks a file as a Ledger of this program, in PRAGMA application_id.
+inline constexpr int LedgerApplicationId = 0x4d444c31; // "MDL1"
 
-/// Makes an empty Ledger at @p path: eight tables, default rates, the customer "-". Raises
-/// RunTimeError when the file exists or cannot be written.
-void makeEmptyLedger(const QString &path);
+struct LedgerTable
+{
+    const char *name;
+    const char *columns; ///< as CREATE TABLE takes them
+};
+
+/// The eight tables.
+std::span<const LedgerTable> ledgerTables();
+
+/// True if the open file has the mark and the eight tables of a Ledger.
+bool isLedger(Database &file);

@@ -10,7 +10,7 @@
 #include "faults/rawpages.h"
 #include "faults/victim.h"
 #include "ledger/ledger.h"
-#include "ledger/schema.h"
+#include "ledger/emptyledger.h"
 
 #include <QElapsedTimer>
 #include <QThread>

@@ -3,7 +3,7 @@
 // refused and left as it is, or it opens and holds what was once filed, to the letter.
 #include "fuzz/require.h"
 #include "ledger/connection.h"
-#include "ledger/schema.h"
+#include "ledger/emptyledger.h"
 #include "runtime/runtimeerror.h"
 
 #include <QDir>

@@ -3,7 +3,7 @@
 // helpers that all rooms share. Damage is done to it among the faults.
 #include "desktop/programfolder.h"
 #include "ledger/ledger.h"
-#include "ledger/schema.h"
+#include "ledger/emptyledger.h"
 #include "runtime/runtimeerror.h"
 #include "shell/globals.h"
 #include "support/boxscript.h"

@@ -7,7 +7,7 @@
 #include "desktop/region.h"
 #include "desktop/singleinstance.h"
 #include "ledger/ledger.h"
-#include "ledger/schema.h"
+#include "ledger/emptyledger.h"
 #include "program.h"
 #include "shell/globals.h"
 #include "support/hands.h"

@@ -3,7 +3,7 @@
 
 #include "desktop/programfolder.h"
 #include "ledger/ledger.h"
-#include "ledger/schema.h"
+#include "ledger/emptyledger.h"
 
 #include <QDir>
 #include <QProcess>

@@ -5,7 +5,7 @@
 #include "desktop/programfolder.h"
 #include "desktop/singleinstance.h"
 #include "ledger/ledger.h"
-#include "ledger/schema.h"
+#include "ledger/emptyledger.h"
 #include "program.h"
 #include "support/testledger.h"
 #include "tour/ending.h"
