@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "entry/builders.h"
 
+#include "entry/digitorders.h"
 #include "entry/keyedline.h"
 #include "runtime/values.h"
-
-#include <vector>
 
 using namespace Qt::StringLiterals;
 
@@ -59,31 +58,6 @@ void addSingleLine(Ticket &ticket, const SingleLine &builder)
         ticket.AddLine(targets.second, ticket.KeyedNumber, ticket.KeyedAmount, 1);
 }
 
-/// The orders of a number's digits that one line bets on: searched in this order, each into the
-/// slot of its place, and written in the order of the slots named. Slot 0 is the number as keyed.
-struct TurnOrders
-{
-    std::vector<const char *> searched;
-    std::vector<int> written;
-};
-
-const TurnOrders &turnOrders(const QString &number)
-{
-    static const TurnOrders twoDigits{{"01", "10"}, {0, 1}};
-    static const TurnOrders allDiffer{{"012", "021", "102", "120", "201", "210"},
-                                      {0, 5, 4, 3, 2, 1}};
-    static const TurnOrders firstPair{{"012", "021", "210"}, {0, 2, 1}};
-    static const TurnOrders outerPair{{"012", "021", "102"}, {0, 2, 1}};
-    static const TurnOrders lastPair{{"012", "201", "120"}, {0, 2, 1}};
-    if (number.size() == 2)
-        return twoDigits;
-    if (number[0] == number[1])
-        return firstPair;
-    if (number[0] == number[2])
-        return outerPair;
-    return number[1] == number[2] ? lastPair : allDiffer;
-}
-
 void addTurned(Ticket &ticket, bool top)
 {
     if (!passesChecks(ticket, Multi | DigitsDiffer | TryAmountGood))
@@ -93,14 +67,12 @@ void addTurned(Ticket &ticket, bool top)
     if (number.size() != 2 && number.size() != 3)
         return;
     const Grid grid = number.size() == 3 ? (top ? Top3 : Bottom3) : (top ? Top2 : Bottom2);
-    const TurnOrders &orders = turnOrders(number);
-    for (size_t slot = 0; slot < orders.searched.size(); ++slot)
-        ticket.FoundRow[slot] = ticket.grids[grid].searchColumn(
-            NumberColumn, rearranged(number, orders.searched[slot]));
-    for (const int slot : orders.written)
-        ticket.writeLine(grid, ticket.FoundRow[size_t(slot)],
-                         rearranged(number, orders.searched[size_t(slot)]),
-                         slot == 0 ? ticket.KeyedAmount : ticket.KeyedTryAmount);
+    const QStringList orders = turnedOrders(number);
+    for (qsizetype at = 0; at < orders.size(); ++at)
+        ticket.FoundRow[size_t(at)] = ticket.grids[grid].searchColumn(NumberColumn, orders[at]);
+    for (qsizetype at = 0; at < orders.size(); ++at)
+        ticket.writeLine(grid, ticket.FoundRow[size_t(at)], orders[at],
+                         at == 0 ? ticket.KeyedAmount : ticket.KeyedTryAmount);
 }
 
 } // namespace

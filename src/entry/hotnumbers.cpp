@@ -1,30 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "entry/hotnumbers.h"
 
+#include "entry/digitorders.h"
 #include "ledger/ledger.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// The orders of the first three digits, each once, and the number itself. Of a number of two
-/// digits the third drops out of each order, and two are left.
-QStringList todOrders(const QString &number)
-{
-    const QString one = number.mid(0, 1);
-    const QString two = number.mid(1, 1);
-    const QString three = number.mid(2, 1);
-    QStringList orders{number,
-                       two + three + one,
-                       two + one + three,
-                       one + three + two,
-                       three + one + two,
-                       three + two + one};
-    orders.removeDuplicates();
-    return orders;
-}
-
-} // namespace
 
 QStringList readHotNumbers()
 {
@@ -41,8 +23,9 @@ HotNumbers::HotNumbers(const QStringList &numbers)
 {
     for (const QString &number : numbers) {
         ++m_straight[number];
-        const QStringList orders = todOrders(number);
-        for (const QString &order : orders)
+        QStringList orders = QStringList(number) + otherOrders(number);
+        orders.removeDuplicates(); // equal digits
+        for (const QString &order : std::as_const(orders))
             ++m_tod[order];
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "entry/save.h"
 
+#include "entry/digitorders.h"
 #include "ledger/ledger.h"
 #include "runtime/values.h"
 
@@ -12,19 +13,6 @@ namespace {
 
 /// Grids in the order of saving: the tod grid of two digits goes before its straight one.
 constexpr std::array<int, ClassCount> SaveOrder{0, 1, 3, 2, 4, 5, 6, 7};
-
-/// The other orders of a tod number's digits, given as places in the number.
-constexpr std::array<const char *, 5> ThreeDigitOrders{"021", "120", "102", "201", "210"};
-constexpr std::array<const char *, 1> TwoDigitOrders{"10"};
-
-template<typename Orders>
-QVariantList allRearranged(const QString &number, const Orders &orders)
-{
-    QVariantList numbers;
-    for (const char *order : orders)
-        numbers += rearranged(number, order);
-    return numbers;
-}
 
 /// Next key of a bet line.
 qint32 SetupNewData2()
@@ -52,8 +40,7 @@ QString todSpelling(const QString &number)
 {
     const QString keyed = trimBlanks(number);
     Q_ASSERT(keyed.size() == 3 || keyed.size() == 2);
-    const QVariantList others = keyed.size() == 3 ? allRearranged(keyed, ThreeDigitOrders)
-                                                  : allRearranged(keyed, TwoDigitOrders);
+    const QStringList others = otherOrders(keyed);
     const QStringList marks(others.size(), u"?"_s);
     // The first row in text order is all that is wanted, so the engine stops at it.
     RecordsetA.open(u"SELECT tblNumber.numValue"
@@ -61,7 +48,7 @@ QString todSpelling(const QString &number)
                     " WHERE [num23] = %1 AND [updown] = -1 AND [numType] = 2"
                     " AND [numValue] IN (%2) ORDER BY numValue LIMIT 1"_s.arg(
                         QString::number(keyed.size()), marks.join(u", "_s)),
-                    others);
+                    QVariantList(others.begin(), others.end()));
     const QString spelling =
         RecordsetA.recordCount() < 1 ? keyed : RecordsetA.field(u"numValue"_s).toString();
     RecordsetA.close();

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "settings/hotnumberlist.h"
 
-#include "entry/vocabulary.h"
+#include "entry/digitorders.h"
 #include "ledger/ledger.h"
 #include "runtime/values.h"
 
@@ -15,20 +15,6 @@ constexpr std::array Columns{
     GridColumn{HotTodColumn, u"เลขโต๊ด"},
     GridColumn{HotTodColumn + 1, u" ", Qt::AlignLeft},
 };
-
-/// Orders of a number's digits as this screen lists them, given as places in the number.
-QList<const char *> listedOrders(const QString &digits)
-{
-    if (digits.size() == 2)
-        return {"01", "10"};
-    if (digits[0] == digits[1])
-        return {"012", "210", "021"};
-    if (digits[0] == digits[2])
-        return {"012", "102", "021"};
-    if (digits[1] == digits[2])
-        return {"012", "102", "120"};
-    return {"012", "021", "102", "120", "201", "210"};
-}
 
 /// The key of the next hot number; raises "Overflow" beyond 16 bits. Uses RecordsetB.
 qint16 SetupNewData3()
@@ -45,10 +31,7 @@ QString hotTodForm(const QString &number)
         return QString();
     if (digits.count(digits.front()) == digits.size())
         return u"-"_s;
-    QStringList forms;
-    for (const char *order : listedOrders(digits))
-        forms += rearranged(digits, order);
-    return forms.join(u" , "_s);
+    return listedOrders(digits).join(u" , "_s);
 }
 
 void listHotNumbers(SpreadModel &list)
