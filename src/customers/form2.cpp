@@ -145,14 +145,14 @@ void Form2::lvButtons_H0_Click()
 void Form2::lvButtons_H1_Click()
 {
     change({m_ui->Tber, u"กรุณาระบุ ( เบอร์ติดต่อ ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s,
-            u"คุณแน่ใจว่าต้องการแก้ไขเบอร์ ของ "_s, QString::fromUtf16(TelephoneField)});
+            u"คุณแน่ใจว่าต้องการแก้ไขเบอร์ ของ "_s, TelephoneField});
 }
 
 /// "แก้ไขส่วนลด": changes the discount of the active row's customer.
 void Form2::lvButtons_H3_Click()
 {
     change({m_ui->Tpercen, u"กรุณาระบุ ( ส่วนลด ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s,
-            u"คุณแน่ใจว่าต้องการแก้ไขส่วนลด ของ "_s, QString::fromUtf16(PercentField)});
+            u"คุณแน่ใจว่าต้องการแก้ไขส่วนลด ของ "_s, PercentField});
 }
 
 void Form2::change(const Change &what)

@@ -20,8 +20,8 @@ struct Customer
 };
 
 /// Columns of tblMember that can be changed for a customer.
-inline constexpr const char16_t *TelephoneField = u"Mber";
-inline constexpr const char16_t *PercentField = u"MPercen";
+inline constexpr QLatin1StringView TelephoneField("Mber");
+inline constexpr QLatin1StringView PercentField("MPercen");
 
 /// Fills the list, in Thai order, with the customers whose name holds @p part; "" lists all. Gives
 /// their number. Uses RecordsetA.

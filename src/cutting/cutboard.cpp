@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array<const char16_t *, 2> Captions{u"(  บน  )", u"(  ล่าง  )"};
+constexpr std::array<QStringView, 2> Captions{u"(  บน  )", u"(  ล่าง  )"};
 
 constexpr std::array Columns{
     GridColumn{CutTypeColumn, u"ประเภท"},
@@ -40,7 +40,7 @@ void CutBoard::SetupSpread()
         const SpreadModel::Rebuild rebuild(grid);
         grid.setup(CutAmountColumn, 3);
         grid.setHeader(CaptionRow, CutTypeColumn,
-                       {QString::fromUtf16(Captions[list]), Qt::AlignCenter, true, 3});
+                       {Captions[list].toString(), Qt::AlignCenter, true, 3});
         grid.setHeader(TotalRow, CutTypeColumn, {u"รวมเงิน"_s});
         grid.setHeader(TotalRow, CutTotalColumn,
                        {u"0"_s, Qt::AlignRight | Qt::AlignVCenter, false, 2});

@@ -42,7 +42,7 @@ Form3::Form3(const Frame &frame, BoardOpeners openers, QWidget *parent)
     for (int at = 0; at < ClassCount; ++at) {
         m_spreads[at]->setSpreadModel(&m_board.grids[at]);
         m_spreads[at]->hideColumns({DigitsColumn, SideColumn});
-        m_spreads[at]->setAccessibleName(BetClasses[at].captionText());
+        m_spreads[at]->setAccessibleName(BetClasses[at].caption.toString());
     }
     m_ui->SSTab1->addTab(QString());
     m_ui->SSTab1->addTab(QString());

@@ -8,7 +8,7 @@
 #include <functional>
 
 /// The program's own title: of the main window's boxes and of boxes that name none.
-inline constexpr const char16_t *ProgramTitle = u"Mirakla Desk";
+inline constexpr QStringView ProgramTitle = u"Mirakla Desk";
 
 enum class BoxButtons { Ok, OkCancel };
 enum class BoxIcon { None, Critical, Question, Exclamation, Information };
@@ -38,7 +38,7 @@ BoxShower setBoxShower(BoxShower shower);
 
 /// Shows a modal box and waits for its answer. Closing a question without an answer is Cancel.
 BoxAnswer MsgBox(const QString &text, const BoxStyle &style = {},
-                 const QString &title = QString::fromUtf16(ProgramTitle));
+                 const QString &title = ProgramTitle.toString());
 
 /// A refusal or status box: one OK button, warning icon, titled "รายงานสถานะ".
 void refuse(const QString &text);

@@ -18,7 +18,8 @@ void setupBetGrid(SpreadModel &grid, const BetClass &betClass, int columns)
 {
     const SpreadModel::Rebuild rebuild(grid);
     grid.setup(columns, 3);
-    grid.setHeader(CaptionRow, NumberColumn, {betClass.captionText(), Qt::AlignCenter, true, 2});
+    grid.setHeader(CaptionRow, NumberColumn,
+                   {betClass.caption.toString(), Qt::AlignCenter, true, 2});
     grid.setHeader(TotalRow, NumberColumn, {u"รวมเงิน"_s});
     grid.setHeader(TotalRow, AmountColumn, {u"0"_s, Qt::AlignRight | Qt::AlignVCenter});
     grid.setTitles(TitleRow, Columns);

@@ -44,12 +44,12 @@ Form1::Form1(ProgressBar &progress, QWidget *parent)
                  m_ui->fpSpread5, m_ui->fpSpread6, m_ui->fpSpread7, m_ui->fpSpread8};
     for (int at = 0; at < ClassCount; ++at) {
         m_spreads[at]->setSpreadModel(&m_ticket.grids[at]);
-        m_spreads[at]->setAccessibleName(BetClasses[at].captionText());
+        m_spreads[at]->setAccessibleName(BetClasses[at].caption.toString());
     }
     m_ui->SSTab1->addTab(QString());
     m_ui->SSTab1->addTab(QString());
     for (const KindEntry &kind : KindEntries)
-        m_ui->Combo2->addItem(QString::fromUtf16(kind.entry));
+        m_ui->Combo2->addItem(kind.entry.toString());
     setBackground(m_ui->Combo1, KeyingColor);
     setFocusProxy(m_ui->Tnumber);
     connectControls();
@@ -118,8 +118,9 @@ void Form1::Form_KeyDown(int code)
         ReadKey(mmcAudio, kind->file);
     m_ui->Tnumber->clear();
     m_ui->Tnumber->setFocus();
-    m_ui->Label3->setText(QString::fromUtf16(KindEntries[size_t(kind->listIndex)].caption));
-    m_ui->Combo2->setListIndex(kind->listIndex);
+    const int place = placeOfKind(kind->kind);
+    m_ui->Label3->setText(KindEntries[size_t(place)].caption.toString());
+    m_ui->Combo2->setListIndex(place);
 }
 
 /// " เปิด / ปิด เสียงพูด": a word still sounding is cut off when the voice is turned off.
@@ -191,7 +192,7 @@ void Form1::Tnumber_KeyPress()
 void Form1::Combo2_Click()
 {
     const KindEntry &entry = KindEntries[size_t(m_ui->Combo2->listIndex())];
-    m_ui->Label3->setText(QString::fromUtf16(entry.caption));
+    m_ui->Label3->setText(entry.caption.toString());
     if (entry.kind != BetKind::NoKind)
         m_ui->Tnumber->setFocus();
 }

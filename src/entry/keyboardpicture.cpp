@@ -77,7 +77,7 @@ const KindEntry *kindOfKey(const QString &name)
     for (const KindKey &key : KindKeys) {
         for (const char *known : key.keys) {
             if (known && name == QString::fromUtf8(known))
-                return &KindEntries[size_t(key.listIndex)];
+                return &KindEntries[size_t(placeOfKind(key.kind))];
         }
     }
     return nullptr;
@@ -86,9 +86,8 @@ const KindEntry *kindOfKey(const QString &name)
 /// Kinds of one side share a colour: the eye finds the side before it reads.
 QColor kindColor(const KindEntry &kind)
 {
-    const QString caption = QString::fromUtf16(kind.caption);
-    const bool top = caption.contains(u"บน"_s);
-    const bool bottom = caption.contains(u"ล่าง"_s);
+    const bool top = kind.caption.contains(u"บน");
+    const bool bottom = kind.caption.contains(u"ล่าง");
     if (top && !bottom)
         return {0xCF, 0xE6, 0xF5};
     if (bottom && !top)
@@ -119,7 +118,7 @@ void drawKey(QPainter &painter, const DrawnKey &key, double unit)
         type.setPixelSize(int(unit * 0.27));
         painter.setFont(type);
         painter.drawText(text, int(Qt::AlignHCenter) | Qt::AlignBottom | Qt::TextWordWrap,
-                         QString::fromUtf16(kind->caption));
+                         kind->caption.toString());
     }
 }
 

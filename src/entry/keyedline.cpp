@@ -22,7 +22,7 @@ struct NumberCheck
 {
     FieldCheck check;
     bool (*fails)(const QString &number);
-    const char16_t *refusal;
+    QStringView refusal;
 };
 
 constexpr std::array NumberChecks{
@@ -88,7 +88,7 @@ bool passesChecks(const Ticket &ticket, unsigned checks)
     const QString number = trimBlanks(ticket.KeyedNumber);
     for (const NumberCheck &rule : NumberChecks) {
         if ((checks & rule.check) != 0 && rule.fails(number)) {
-            refuse(QString::fromUtf16(rule.refusal));
+            refuse(rule.refusal.toString());
             return false;
         }
     }

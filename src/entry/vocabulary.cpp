@@ -15,10 +15,16 @@ int classOf(int num23, bool updown, int numType)
     return -1;
 }
 
+int placeOfKind(BetKind kind)
+{
+    const auto *found = std::ranges::find(KindEntries, kind, &KindEntry::kind);
+    return int(found - KindEntries.begin());
+}
+
 BetKind kindOfCaption(const QString &caption)
 {
     for (const KindEntry &entry : KindEntries) {
-        if (caption == QStringView(entry.caption))
+        if (caption == entry.caption)
             return entry.kind;
     }
     return BetKind::NoKind;
@@ -27,14 +33,6 @@ BetKind kindOfCaption(const QString &caption)
 bool isTurnKind(BetKind kind)
 {
     return kind == BetKind::TurnTop || kind == BetKind::TurnBottom;
-}
-
-QString rearranged(const QString &number, const char *order)
-{
-    QString other;
-    for (const char *place = order; *place != '\0'; ++place)
-        other += number[*place - '0'];
-    return other;
 }
 
 QString oneWordLabel(int numType)

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringView>
 
 #include <array>
 
@@ -14,9 +15,7 @@ struct BetClass
     int num23;   ///< digits of the number
     bool updown; ///< true = top (บน), false = bottom (ล่าง)
     int numType; ///< 1 straight (ตรง), 2 tod (โต๊ด), 3 run (วิ่ง)
-    const char16_t *caption;
-
-    QString captionText() const { return QString::fromUtf16(caption); }
+    QStringView caption;
 };
 
 inline constexpr int Straight = 1;
@@ -60,11 +59,11 @@ enum class BetKind {
 struct KindEntry
 {
     BetKind kind;
-    const char16_t *entry;
-    const char16_t *caption;
+    QStringView entry;
+    QStringView caption;
 };
 
-inline constexpr const char16_t *NoKindCaption = u"ประเภท";
+inline constexpr QStringView NoKindCaption = u"ประเภท";
 inline constexpr KindEntry KindSeparator{BetKind::NoKind, u"-----------------------------",
                                          NoKindCaption};
 
@@ -88,11 +87,11 @@ inline constexpr std::array KindEntries{
     KindEntry{BetKind::SweepBottom, u"- 00-99 (ล่าง)", u"00-99 (ล่าง)"},
 };
 
+/// Place of the entry of @p kind in KindEntries.
+int placeOfKind(BetKind kind);
+
 /// The kind that a caption names; the caption is the one place that holds the chosen kind.
 BetKind kindOfCaption(const QString &caption);
-
-/// The digits of a number in another order, given as places in it: "120" turns "abc" to "bca".
-QString rearranged(const QString &number, const char *order);
 
 /// What a class is called in a narrow column of a list of both sides, "ตรง-บน"; "" for a
 /// combination that is no class. It does not tell the digits: the number beside it does.

@@ -34,29 +34,29 @@ inline constexpr std::array<EchoKey, 11> EchoKeys{{
     {{109, 189}, "money.mp3"},
 }};
 
-/// A key that chooses a kind: its recording, and the kind's place in KindEntries.
+/// A key that chooses a kind, with its recording.
 struct KindKey
 {
     KeyCodes codes;
     std::array<const char *, 2> keys; ///< names of the keys, as they stand on a keyboard
     const char *file;
-    int listIndex;
+    BetKind kind;
 };
 
 inline constexpr std::array KindKeys{
-    KindKey{{112, 38}, {"F1", "↑"}, "up.mp3", 1},
-    KindKey{{113, 37}, {"F2", "←"}, "runup.mp3", 4},
-    KindKey{{117, 39}, {"F6", "→"}, "rundown.mp3", 5},
-    KindKey{{116, 40}, {"F5", "↓"}, "down.mp3", 3},
-    KindKey{{17, 35}, {"Ctrl", "End"}, "tod.mp3", 2},
-    KindKey{{114, 33}, {"F3", "PgUp"}, "kup.mp3", 6},
-    KindKey{{118, 34}, {"F7", "PgDn"}, "kdown.mp3", 7},
-    KindKey{{120, 46}, {"F9", "Delete"}, "tongtod.mp3", 9},
-    KindKey{{121, 36}, {"F10", "Home"}, "updown.mp3", 10},
-    KindKey{{115, 0}, {"F4", nullptr}, "19up.mp3", 12},
-    KindKey{{119, 0}, {"F8", nullptr}, "19down.mp3", 15},
-    KindKey{{122, 0}, {"F11", nullptr}, "0099up.mp3", 13},
-    KindKey{{123, 0}, {"F12", nullptr}, "0099down.mp3", 16},
+    KindKey{{112, 38}, {"F1", "↑"}, "up.mp3", BetKind::Top},
+    KindKey{{113, 37}, {"F2", "←"}, "runup.mp3", BetKind::RunTop},
+    KindKey{{117, 39}, {"F6", "→"}, "rundown.mp3", BetKind::RunBottom},
+    KindKey{{116, 40}, {"F5", "↓"}, "down.mp3", BetKind::Bottom},
+    KindKey{{17, 35}, {"Ctrl", "End"}, "tod.mp3", BetKind::TodKind},
+    KindKey{{114, 33}, {"F3", "PgUp"}, "kup.mp3", BetKind::TurnTop},
+    KindKey{{118, 34}, {"F7", "PgDn"}, "kdown.mp3", BetKind::TurnBottom},
+    KindKey{{120, 46}, {"F9", "Delete"}, "tongtod.mp3", BetKind::StraightAndTod},
+    KindKey{{121, 36}, {"F10", "Home"}, "updown.mp3", BetKind::TopAndBottom},
+    KindKey{{115, 0}, {"F4", nullptr}, "19up.mp3", BetKind::DoorsTop},
+    KindKey{{119, 0}, {"F8", nullptr}, "19down.mp3", BetKind::DoorsBottom},
+    KindKey{{122, 0}, {"F11", nullptr}, "0099up.mp3", BetKind::SweepTop},
+    KindKey{{123, 0}, {"F12", nullptr}, "0099down.mp3", BetKind::SweepBottom},
 };
 
 /// Entry of a table of keys that has @p code, or nothing.

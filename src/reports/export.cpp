@@ -23,9 +23,9 @@ QByteArray excelOf(const ReportPages &report)
 
 struct FormatEntry
 {
-    const char16_t *title;
-    const char16_t *extension; ///< as the dialog gets it
-    const char16_t *ending;    ///< as the file gets it
+    QStringView title;
+    QStringView extension; ///< as the dialog gets it
+    QStringView ending;    ///< as the file gets it
     QByteArray (*bytesOf)(const ReportPages &report);
 };
 
@@ -47,12 +47,12 @@ bool mayReplace(const QString &path, const QString &title)
 void exportReport(ExportFormat format, const ReportPages &report)
 {
     const FormatEntry &entry = FormatEntries[size_t(format)];
-    const QString title = QString::fromUtf16(entry.title);
+    const QString title = entry.title.toString();
     const QString stamp = currentDateTime().toString(u"dd-MM-yy-HH-mm-ss"_s);
-    const QString picked = askForFileName({title, QString::fromUtf16(entry.extension), stamp});
+    const QString picked = askForFileName({title, entry.extension.toString(), stamp});
     if (picked.isEmpty())
         return;
-    const QString path = picked + QString::fromUtf16(entry.ending);
+    const QString path = picked + entry.ending.toString();
     if (mayReplace(path, title))
         saveFile(path, entry.bytesOf(report));
 }

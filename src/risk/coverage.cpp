@@ -5,9 +5,7 @@ using namespace Qt::StringLiterals;
 
 QString coverageText(const CoverageBar &bar, int bought)
 {
-    return u"%1 : เสี่ยงถูก ( %2 / %3 )"_s.arg(QString::fromUtf16(bar.words))
-        .arg(bought)
-        .arg(bar.numbers);
+    return u"%1 : เสี่ยงถูก ( %2 / %3 )"_s.arg(bar.words).arg(bought).arg(bar.numbers);
 }
 
 int coverageValue(const CoverageBar &bar, int bought)

@@ -10,7 +10,7 @@ struct CoverageBar
 {
     const char *bar;
     const char *label;
-    const char16_t *words;
+    QStringView words;
     int numbers;
 };
 

@@ -27,7 +27,7 @@ namespace {
 struct Navigation
 {
     quint8 cutOrigin;
-    const char16_t *statusText;
+    QStringView statusText;
 };
 
 constexpr std::array<Navigation, PageCount> NavigationTable{{
@@ -114,7 +114,7 @@ void MDIForm1::openPage(int page)
     m_page->show();
     if (!m_page->isAncestorOf(QApplication::focusWidget()))
         m_page->setFocus(); // the pressed button is disabled and can keep no focus
-    m_ui->StatusBar->setPageName(QString::fromUtf16(NavigationTable[page].statusText));
+    m_ui->StatusBar->setPageName(NavigationTable[page].statusText.toString());
 }
 
 void MDIForm1::closeEvent(QCloseEvent *event)

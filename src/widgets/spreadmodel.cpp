@@ -158,9 +158,8 @@ void SpreadModel::setHeader(int row, int column, const HeaderCell &cell)
 void SpreadModel::setTitles(int row, std::span<const GridColumn> columns, bool bold)
 {
     for (const GridColumn &column : columns) {
-        setHeader(
-            row, column.column,
-            {QString::fromUtf16(column.title), column.titleAlignment | Qt::AlignVCenter, bold});
+        setHeader(row, column.column,
+                  {column.title.toString(), column.titleAlignment | Qt::AlignVCenter, bold});
         setAlignment(column.column, column.alignment);
     }
 }

@@ -18,7 +18,7 @@ inline constexpr int FirstHeaderRow = -1000;
 struct GridColumn
 {
     int column;
-    const char16_t *title;
+    QStringView title;
     Qt::Alignment alignment = Qt::AlignHCenter;
     Qt::Alignment titleAlignment = alignment;
 };

@@ -54,7 +54,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         if (line.isEmpty())
             continue;
         const KindEntry &kind = KindEntries[uchar(line[0] - 'a') % KindEntries.size()];
-        const QString caption = QString::fromUtf16(kind.caption);
+        const QString caption = kind.caption.toString();
         const QString text = keyedText(line.mid(1));
         boxesShown = 0;
         keyLine(ticket, caption, text);

@@ -147,7 +147,7 @@ void LawTest::keyTicket()
     PencilSlip slip;
     for (int lines = 1 + upTo(upTo(30)); lines > 0; --lines) {
         const KindEntry &kind = KindEntries[size_t(upTo(int(KindEntries.size()) - 1))];
-        const QString caption = QString::fromUtf16(kind.caption);
+        const QString caption = kind.caption.toString();
         const QString line = throwLine(kind);
         const auto boxes = m_boxes.boxes().size();
         keyLine(ticket, caption, line);
@@ -296,7 +296,7 @@ void LawTest::everythingWasMet() const
     qInfo() << m_met;
     for (const KindEntry &kind : KindEntries) {
         if (kind.kind != BetKind::NoKind)
-            QVERIFY2(m_met[QString::fromUtf16(kind.caption)] > 50, "each kind was keyed");
+            QVERIFY2(m_met[kind.caption.toString()] > 50, "each kind was keyed");
     }
     QVERIFY(m_met[u"lines"_s] >= 2 * LinesInARow && m_met[u"refused"_s] > 100
             && m_met[u"cut in full"_s] > 20 && m_met[u"cut in part"_s] > 50

@@ -74,9 +74,8 @@ void Player::chooseKind(const QString &caption)
 {
     if (control<QLabel>("Label3")->text() == caption)
         return;
-    const auto entry = std::find_if(KindEntries.begin(), KindEntries.end(), [&](const auto &kind) {
-        return caption == QStringView(kind.caption);
-    });
+    const auto entry = std::find_if(KindEntries.begin(), KindEntries.end(),
+                                    [&](const auto &kind) { return caption == kind.caption; });
     const int index = int(entry - KindEntries.begin());
     if (m_kinds == Kinds::ByKey)
         chooseByKey(index);
@@ -103,7 +102,7 @@ void Player::chooseByKey(int index)
 {
     constexpr int F1 = 112;
     for (const KindKey &key : KindKeys) {
-        if (key.listIndex == index)
+        if (placeOfKind(key.kind) == index)
             Hands::press(key.codes[0] >= F1 ? Qt::Key(Qt::Key_F1 + key.codes[0] - F1)
                                             : Qt::Key_End);
     }
