@@ -5,20 +5,16 @@
 
 namespace {
 
-Clock &installedClock()
-{
-    static Clock clock;
-    return clock;
-}
+Clock installedClock;
 
 } // namespace
 
 Clock setClock(Clock clock)
 {
-    return std::exchange(installedClock(), std::move(clock));
+    return std::exchange(installedClock, std::move(clock));
 }
 
 QDateTime currentDateTime()
 {
-    return installedClock() ? installedClock()() : QDateTime::currentDateTime();
+    return installedClock ? installedClock() : QDateTime::currentDateTime();
 }

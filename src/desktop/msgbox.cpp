@@ -7,23 +7,19 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-BoxShower &boxShower()
-{
-    static BoxShower shower;
-    return shower;
-}
+BoxShower boxShower;
 
 } // namespace
 
 BoxShower setBoxShower(BoxShower shower)
 {
-    return std::exchange(boxShower(), std::move(shower));
+    return std::exchange(boxShower, std::move(shower));
 }
 
 BoxAnswer MsgBox(const QString &text, const BoxStyle &style, const QString &title)
 {
-    Q_ASSERT_X(boxShower(), "MsgBox", "a program that asks must set who shows boxes");
-    return boxShower()({text, style, title});
+    Q_ASSERT_X(boxShower, "MsgBox", "a program that asks must set who shows boxes");
+    return boxShower({text, style, title});
 }
 
 void refuse(const QString &text)

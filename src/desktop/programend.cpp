@@ -9,39 +9,31 @@
 
 namespace {
 
-std::vector<std::function<void()>> &closers()
-{
-    static std::vector<std::function<void()>> list;
-    return list;
-}
+std::vector<std::function<void()>> closers;
 
-ProgramEnder &programEnder()
-{
-    // Not std::exit(): the toolkit's globals would be torn down under the living windows.
-    static ProgramEnder ender = [](int status) { std::_Exit(status); };
-    return ender;
-}
+// Not std::exit(): Qt's globals would be destroyed under the living windows.
+ProgramEnder programEnder = [](int status) { std::_Exit(status); };
 
 } // namespace
 
 void atProgramEnd(std::function<void()> closer)
 {
-    closers().push_back(std::move(closer));
+    closers.push_back(std::move(closer));
 }
 
 ProgramEnder setProgramEnder(ProgramEnder ender)
 {
-    return std::exchange(programEnder(), std::move(ender));
+    return std::exchange(programEnder, std::move(ender));
 }
 
 void endProgram(int status)
 {
-    while (!closers().empty()) {
-        const auto closer = std::move(closers().back());
-        closers().pop_back();
+    while (!closers.empty()) {
+        const auto closer = std::move(closers.back());
+        closers.pop_back();
         resumeNext(closer);
     }
-    programEnder()(status);
+    programEnder(status);
     std::abort(); // an ender that returns would let a half-done handler go on
 }
 

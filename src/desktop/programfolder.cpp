@@ -5,22 +5,18 @@
 
 namespace {
 
-QString &folderOfTests()
-{
-    static QString folder;
-    return folder;
-}
+QString folderOfTests;
 
 } // namespace
 
 QString programFolder()
 {
-    return folderOfTests().isEmpty() ? QCoreApplication::applicationDirPath() : folderOfTests();
+    return folderOfTests.isEmpty() ? QCoreApplication::applicationDirPath() : folderOfTests;
 }
 
 void setProgramFolder(const QString &folder)
 {
-    folderOfTests() = folder;
+    folderOfTests = folder;
 }
 
 QString programFile(const QString &relativePath)

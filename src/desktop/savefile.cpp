@@ -7,23 +7,19 @@
 
 namespace {
 
-SaveDialog &installedDialog()
-{
-    static SaveDialog dialog;
-    return dialog;
-}
+SaveDialog saveDialog;
 
 } // namespace
 
 SaveDialog setSaveDialog(SaveDialog dialog)
 {
-    return std::exchange(installedDialog(), std::move(dialog));
+    return std::exchange(saveDialog, std::move(dialog));
 }
 
 QString askForFileName(const SaveRequest &request)
 {
-    Q_ASSERT_X(installedDialog(), "askForFileName", "a program that saves must set who asks");
-    return installedDialog()(request);
+    Q_ASSERT_X(saveDialog, "askForFileName", "a program that saves must set who asks");
+    return saveDialog(request);
 }
 
 bool saveFile(const QString &path, const QByteArray &bytes)
