@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int TotalRow = FirstHeaderRow;
-constexpr int TitleRow = FirstHeaderRow + 1;
+constexpr int SumRow = FirstHeaderRow;
+constexpr int ColumnTitleRow = FirstHeaderRow + 1;
 
 constexpr std::array Columns{
     GridColumn{CutColumn::Place, u"ลำดับ"},
@@ -77,9 +77,9 @@ void CutOut::SetupSpread()
 {
     const SpreadModel::Rebuild rebuild(grid);
     grid.setup(CutColumn::User, 2);
-    grid.setHeader(TotalRow, CutColumn::Number, {u"ยอดรวม"_s, Qt::AlignCenter, true});
-    grid.setHeader(TotalRow, CutColumn::Amount, {{}, Qt::AlignRight | Qt::AlignVCenter, true});
-    grid.setTitles(TitleRow, Columns);
+    grid.setHeader(SumRow, CutColumn::Number, {u"ยอดรวม"_s, Qt::AlignCenter, true});
+    grid.setHeader(SumRow, CutColumn::Amount, {{}, Qt::AlignRight | Qt::AlignVCenter, true});
+    grid.setTitles(ColumnTitleRow, Columns);
 }
 
 void CutOut::LoadNumrunup()
@@ -113,7 +113,7 @@ void CutOut::LoadNumrunup()
         texts[CutColumn::User] = field(line, Read::User).toString();
         grid.setRow(row, texts);
     }
-    grid.setText(TotalRow, CutColumn::Amount, formatBaht(CutTotal) + u" บาท"_s);
+    grid.setText(SumRow, CutColumn::Amount, formatBaht(CutTotal) + u" บาท"_s);
 }
 
 CutLine CutOut::lineAt(int row) const
