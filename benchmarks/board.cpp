@@ -130,7 +130,9 @@ public:
     double bareFilter()
     {
         BareStatements statements = boards({Buyer});
-        statements.push_back({customerStatement().toUtf8(), {u'%' + Buyer + u'%'}});
+        statements.push_back(
+            {"SELECT tblMember.* FROM tblMember WHERE [Mname] LIKE ? ORDER BY MPK LIMIT 1",
+             {u'%' + Buyer + u'%'}});
         const double taken = m_bare->read(statements);
         m_bare->read(boards({}));
         return taken;

@@ -13,8 +13,6 @@
 #include "risk/vikoc.h"
 #include "settings/setting.h"
 
-#include <algorithm>
-
 namespace {
 
 BoardsOnScreen onScreen(Form3 &board, const CustomerStrip &strip)
@@ -64,9 +62,7 @@ void showSettings(const Frame &frame, QWidget *window)
     const auto boardShowsRows = [&] {
         if (!open && !unseen)
             unseen = std::make_unique<Form3>(frame, BoardOpeners{}, nullptr);
-        const auto &grids = (open ? open : unseen.get())->board().grids;
-        return std::any_of(grids.begin(), grids.end(),
-                           [](const SpreadModel &grid) { return grid.rows() > 0; });
+        return !(open ? open : unseen.get())->board().isEmpty();
     };
     Setting dialog(window, boardShowsRows);
     runDialog(dialog);

@@ -70,9 +70,18 @@ std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name)
     return boards;
 }
 
-QString customerStatement()
+std::optional<QString> customerPercent(const QString &name)
 {
-    return u"SELECT tblMember.* FROM tblMember WHERE [Mname] LIKE ? ORDER BY MPK LIMIT 1"_s;
+    resumeNext([&] {
+        RecordsetA.open(u"SELECT tblMember.* FROM tblMember WHERE [Mname] LIKE ?"
+                        " ORDER BY MPK LIMIT 1"_s,
+                        {u'%' + trimBlanks(name) + u'%'});
+    });
+    std::optional<QString> percent;
+    if (RecordsetA.recordCount() > 0)
+        percent = RecordsetA.field(u"Mpercen"_s).toString();
+    RecordsetA.close();
+    return percent;
 }
 
 QStringList readBuyers()
@@ -101,8 +110,7 @@ Board::Board()
 
 bool Board::isEmpty() const
 {
-    return std::all_of(grids.begin(), grids.end(),
-                       [](const SpreadModel &grid) { return grid.rows() == 0; });
+    return allEmpty(grids);
 }
 
 void Board::SetupSpread(int at)
@@ -163,12 +171,4 @@ void Board::fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbe
 void Board::takeTotal(int at)
 {
     BoardSums[at] = CLng(grids[at].text(TotalRow, AmountColumn));
-}
-
-void Board::readSavedTicketTotal()
-{
-    RecordsetA.open(u" SELECT  sum(rMoney) as iTotalB  FROM tblRMoney "_s);
-    const QVariant sum = RecordsetA.field(u"iTotalB"_s);
-    SavedTicketTotal = trimBlanks(sum.toString()).isEmpty() ? 0 : CLng(numberOf(sum));
-    RecordsetA.close();
 }

@@ -33,9 +33,9 @@ BoardLines readBoard(const BetClass &betClass);
 /// count. All eight boards of a filter come from this one statement. Uses RecordsetA.
 std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
 
-/// The customer whom a name keyed in part finds: the one with the lowest key. Takes the name
-/// between two "%".
-QString customerStatement();
+/// Discount percent of the customer whom a name keyed in part finds: the one with the lowest key.
+/// Nothing if there is none or the Ledger cannot be read.
+std::optional<QString> customerPercent(const QString &name);
 
 /// Names of the customers who hold a bet in the draw, in Thai order, each once.
 QStringList readBuyers();
@@ -67,9 +67,6 @@ struct Board
     /// 32 bits and "Invalid use of Null" for a number without money; the rows above it stay. Shows
     /// the progress unless there is nothing to load.
     void load(int at, const BoardLines &lines, const HotNumbers &hotNumbers, ProgressBar &progress);
-
-    /// Reads SavedTicketTotal; 0 without a discount. Uses RecordsetA.
-    void readSavedTicketTotal();
 
     /// Takes a board's total from its header into BoardSums.
     void takeTotal(int at);

@@ -6,8 +6,6 @@
 #include "ledger/ledger.h"
 #include "runtime/values.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -29,8 +27,7 @@ CutBoard::CutBoard()
 
 bool CutBoard::isEmpty() const
 {
-    return std::all_of(grids.begin(), grids.end(),
-                       [](const SpreadModel &grid) { return grid.rows() == 0; });
+    return allEmpty(grids);
 }
 
 void CutBoard::SetupSpread()

@@ -7,12 +7,11 @@
 #include "cutting/numcut.h"
 #include "cutting/selection.h"
 #include "desktop/dialogplace.h"
-#include "desktop/keycodes.h"
 #include "desktop/msgbox.h"
+#include "entry/namecombo.h"
+#include "entry/save.h"
 #include "entry/sidetabs.h"
 #include "fields/fieldguard.h"
-#include "fields/filters.h"
-#include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 #include "shell/globals.h"
@@ -23,12 +22,6 @@
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr qsizetype LongestName = 50;
-
-} // namespace
 
 Form3::Form3(const Frame &frame, BoardOpeners openers, QWidget *parent)
     : QWidget(parent), m_ui(std::make_unique<Ui::Form3>()), m_progress(frame.progress),
@@ -87,7 +80,7 @@ void Form3::connectControls()
 
 void Form3::Form_Load()
 {
-    resumeNext([this] { m_board.readSavedTicketTotal(); });
+    resumeNext([this] { m_board.SavedTicketTotal = savedDiscounts(); });
     FReLoad();
 }
 
@@ -197,12 +190,7 @@ void Form3::LoadMember(const QStringList &buyers)
 
 int Form3::Combo1_KeyPress(int code)
 {
-    if (code == EnterCode) {
-        filterToCustomer();
-        return 0;
-    }
-    const int passed = MaxLengthFilter(m_ui->Combo1->currentText().size(), LongestName, code);
-    return ComboAutoComplete(*m_ui->Combo1, passed);
+    return nameKeyPress(*m_ui->Combo1, code, [this] { filterToCustomer(); });
 }
 
 /// Enter in the names: narrows the boards to one customer. The boards take the whole name, the
@@ -235,14 +223,10 @@ void Form3::filterToCustomer()
 /// Shows the customer of the filter in the strip; false if there is none.
 bool Form3::readCustomer()
 {
-    const QString part = u'%' + trimBlanks(m_board.FilterName) + u'%';
-    resumeNext([&] { RecordsetA.open(customerStatement(), {part}); });
-    if (RecordsetA.recordCount() < 1) {
-        RecordsetA.close();
+    const auto percent = customerPercent(m_board.FilterName);
+    if (!percent)
         return false;
-    }
-    m_strip.text2.setText(RecordsetA.field(u"Mpercen"_s).toString());
-    RecordsetA.close();
+    m_strip.text2.setText(*percent);
     m_strip.Tname.setText(m_board.FilterName);
     m_strip.show();
     return true;
@@ -291,18 +275,12 @@ QString Form3::selectTab(int tab)
 /// Finds a number in all boards of its length, on both tabs. A hit is marked, a miss is silent.
 void Form3::lvButtons_H3_Click()
 {
-    const QString number = m_ui->text1->text();
-    if (trimBlanks(number).isEmpty()) {
-        m_ui->text1->setFocus();
-        return;
-    }
+    QList<Spread *> boards;
     for (int at = 0; at < ClassCount; ++at) {
-        if (BetClasses[at].num23 != number.size())
-            continue;
-        const int row = m_board.grids[at].searchColumn(NumberColumn, number);
-        if (row > 0)
-            m_spreads[at]->setActiveRow(row);
+        if (BetClasses[at].num23 == m_ui->text1->text().size())
+            boards += m_spreads[at];
     }
+    searchNumber(*m_ui->text1, NumberColumn, boards);
 }
 
 /// A double click on a number, or Enter: hands it to the cut-out.

@@ -6,7 +6,6 @@
 #include "desktop/dialogplace.h"
 #include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
-#include "runtime/values.h"
 #include "widgets/searchicon.h"
 
 using namespace Qt::StringLiterals;
@@ -43,16 +42,7 @@ void Numcut::Form_Load()
 /// Finds a number in both lists. A hit is marked, a miss is silent.
 void Numcut::lvButtons_H3_Click()
 {
-    const QString number = m_ui->text1->text();
-    if (trimBlanks(number).isEmpty()) {
-        m_ui->text1->setFocus();
-        return;
-    }
-    for (size_t list = 0; list < m_spreads.size(); ++list) {
-        const int row = m_cutBoard.grids[list].searchColumn(CutNumberColumn, number);
-        if (row > 0)
-            m_spreads[list]->setActiveRow(row);
-    }
+    searchNumber(*m_ui->text1, CutNumberColumn, {m_spreads.begin(), m_spreads.end()});
 }
 
 /// " &ปริ้นข้อมูล": the lists as they are shown.

@@ -2,6 +2,7 @@
 #include "drawcheck/settlement.h"
 
 #include "desktop/clock.h"
+#include "entry/save.h"
 #include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
@@ -34,13 +35,7 @@ void writeTrue(const ResultDigits &digits, double profit, double payout)
 void DrawCheck::readDiscounts()
 {
     iTotalB = 0;
-    resumeNext([] { RecordsetA.open(u" SELECT  sum(rMoney) as iTotalB  FROM tblRMoney "_s); });
-    resumeNext([this] {
-        const QVariant sum = RecordsetA.field(u"iTotalB"_s);
-        if (!sum.isNull())
-            iTotalB = CLng(numberOf(sum));
-    });
-    RecordsetA.close();
+    resumeNext([this] { iTotalB = savedDiscounts(); });
 }
 
 void DrawCheck::zeroAmounts()

@@ -8,12 +8,12 @@
 #include "desktop/msgbox.h"
 #include "entry/builders.h"
 #include "entry/keyedline.h"
+#include "entry/namecombo.h"
 #include "entry/save.h"
 #include "entry/showkey.h"
 #include "entry/sidetabs.h"
 #include "entry/voice.h"
 #include "fields/fieldguard.h"
-#include "fields/filters.h"
 #include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
@@ -23,8 +23,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr qsizetype LongestName = 50;
 
 constexpr QRgb KeyingColor = 0xDBE2E0;
 constexpr QRgb AwayColor = 0xFFC0C0;
@@ -199,12 +197,7 @@ void Form1::Combo2_Click()
 
 int Form1::Combo1_KeyPress(int code)
 {
-    if (code == EnterCode) {
-        m_ui->Tnumber->setFocus();
-        return 0;
-    }
-    const int passed = MaxLengthFilter(m_ui->Combo1->currentText().size(), LongestName, code);
-    return ComboAutoComplete(*m_ui->Combo1, passed);
+    return nameKeyPress(*m_ui->Combo1, code, [this] { m_ui->Tnumber->setFocus(); });
 }
 
 /// Takes the customer for the ticket. Numbers come first: without a line he is not taken.
@@ -212,23 +205,12 @@ void Form1::Combo1_Click()
 {
     if (m_ticket.isEmpty())
         return;
-    const bool read = resumeNext([this] {
-        // "_" in a name stands for any letter here. The customer whom the ticket will be filed for
-        // comes first.
-        RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE [Mname] Like ?1"
-                        " ORDER BY [Mname] = ?1 COLLATE AnyCase DESC, [MPK]"_s,
-                        {trimBlanks(m_ui->Combo1->currentText())});
-    });
-    if (!read)
+    const auto customer = ticketCustomer(m_ui->Combo1->currentText());
+    if (!customer)
         return;
-    const bool known = RecordsetA.recordCount() > 0;
-    if (known) {
-        m_ui->Tname->setText(RecordsetA.field(u"Mname"_s).toString());
-        m_ui->text2->setText(RecordsetA.field(u"MPercen"_s).toString());
-    }
-    RecordsetA.close();
-    if (known)
-        resumeNext([this] { showDiscount(m_ui->text1->text()); });
+    m_ui->Tname->setText(customer->name);
+    m_ui->text2->setText(customer->percent);
+    resumeNext([this] { showDiscount(m_ui->text1->text()); });
 }
 
 /// " &บันทึก": files the ticket in the Ledger.

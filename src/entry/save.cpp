@@ -3,9 +3,8 @@
 
 #include "entry/digitorders.h"
 #include "ledger/ledger.h"
+#include "runtime/runtimeerror.h"
 #include "runtime/values.h"
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +34,22 @@ void addBetLine(const BetClass &betClass, qint16 customer, const QString &number
 }
 
 } // namespace
+
+std::optional<TicketCustomer> ticketCustomer(const QString &name)
+{
+    // The customer of that very name comes first.
+    const bool read = resumeNext([&] {
+        RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE [Mname] Like ?1"
+                        " ORDER BY [Mname] = ?1 COLLATE AnyCase DESC, [MPK]"_s,
+                        {trimBlanks(name)});
+    });
+    std::optional<TicketCustomer> customer;
+    if (read && RecordsetA.recordCount() > 0)
+        customer = {RecordsetA.field(u"Mname"_s).toString(),
+                    RecordsetA.field(u"MPercen"_s).toString()};
+    RecordsetA.close();
+    return customer;
+}
 
 QString todSpelling(const QString &number)
 {
@@ -87,4 +102,12 @@ void saveDiscount(const QString &discount)
     RecordsetB.set(u"rMoney"_s, CDbl(discount));
     RecordsetB.update();
     RecordsetB.close();
+}
+
+qint32 savedDiscounts()
+{
+    RecordsetA.open(u" SELECT  sum(rMoney) as iTotalB  FROM tblRMoney "_s);
+    const QVariant sum = RecordsetA.field(u"iTotalB"_s);
+    RecordsetA.close();
+    return sum.isNull() ? 0 : CLng(numberOf(sum));
 }

@@ -5,6 +5,19 @@
 #include "entry/ticket.h"
 #include "widgets/progressbar.h"
 
+#include <optional>
+
+/// The customer of a ticket as the page shows him.
+struct TicketCustomer
+{
+    QString name;
+    QString percent;
+};
+
+/// The customer whom a ticket will be filed for that is saved with @p name; nothing if there is
+/// none or the Ledger cannot be read. "_" in a name stands for any letter.
+std::optional<TicketCustomer> ticketCustomer(const QString &name);
+
 /// The spelling under which a tod number of 3 or 2 digits is filed: the lowest rearrangement of
 /// its digits that the Ledger holds in that class, since a tod bet pays on any order and all
 /// bets of a family should stand together; else the number as keyed. Lines of customers that no
@@ -18,3 +31,6 @@ void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progr
 
 /// Writes the ticket's discount money, given as its "#,##" text. An empty text writes nothing.
 void saveDiscount(const QString &discount);
+
+/// Discount money of all tickets of the draw, in baht. Raises "Overflow" beyond 32 bits.
+qint32 savedDiscounts();

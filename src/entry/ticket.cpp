@@ -3,8 +3,6 @@
 
 #include "runtime/values.h"
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 Ticket::Ticket()
@@ -14,8 +12,7 @@ Ticket::Ticket()
 
 bool Ticket::isEmpty() const
 {
-    return std::all_of(grids.begin(), grids.end(),
-                       [](const SpreadModel &grid) { return grid.rows() == 0; });
+    return allEmpty(grids);
 }
 
 void Ticket::SetupSpread()

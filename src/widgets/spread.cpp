@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "widgets/spread.h"
 
+#include "runtime/values.h"
 #include "widgets/narrowedfont.h"
 #include "widgets/spreadheader.h"
 
 #include <QEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QMouseEvent>
 #include <QStyledItemDelegate>
 
@@ -224,4 +226,17 @@ void Spread::fitRowHeights()
     constexpr double PointsPerInch = 72;
     const int least = int(m_rowPoints * logicalDpiY() / PointsPerInch);
     verticalHeader()->setDefaultSectionSize(std::max(least, SpreadHeader::rowHeight(font())));
+}
+
+void searchNumber(QLineEdit &field, int column, const QList<Spread *> &grids)
+{
+    if (trimBlanks(field.text()).isEmpty()) {
+        field.setFocus();
+        return;
+    }
+    for (Spread *grid : grids) {
+        const int row = grid->spreadModel()->searchColumn(column, field.text());
+        if (row > 0)
+            grid->setActiveRow(row);
+    }
 }

@@ -8,6 +8,8 @@
 #include <QMap>
 #include <QTableView>
 
+class QLineEdit;
+
 /// One row is active at a time and shown whole; column 0 is hidden, and so may be others that carry
 /// what code wants to know of a row. Rows and columns count from 1, header rows from
 /// FirstHeaderRow, for automation as for code.
@@ -72,3 +74,7 @@ private:
     bool m_picking = true;     ///< false while code sets the active row
     bool m_rowPressed = false; ///< the mouse button went down on a row and is held
 };
+
+/// Makes the row of the number in @p field active in each of @p grids that has it; a miss is
+/// silent. An empty field gets the focus instead.
+void searchNumber(QLineEdit &field, int column, const QList<Spread *> &grids);

@@ -227,3 +227,9 @@ QVariant SpreadModel::headerData(int section, Qt::Orientation orientation, int r
         return {};
     return m_headers.last()[section].text; // what a screen reader says of the column
 }
+
+bool allEmpty(std::span<const SpreadModel> grids)
+{
+    return std::all_of(grids.begin(), grids.end(),
+                       [](const SpreadModel &grid) { return grid.rows() == 0; });
+}

@@ -110,6 +110,9 @@ private:
     int m_rebuilds = 0; ///< how many Rebuilds are at work
 };
 
+/// True while none of the grids has a row.
+bool allEmpty(std::span<const SpreadModel> grids);
+
 /// Writes a grid anew: views hear of it once, when this goes, also when an error ends the work half
 /// way; a grid that keeps its shape keeps its active row. Without it they hear of each cell.
 class SpreadModel::Rebuild
