@@ -136,7 +136,7 @@ qint32 addLong(std::span<const qint32> amounts)
 {
     qint32 sum = 0;
     for (const qint32 amount : amounts) {
-        if (__builtin_add_overflow(sum, amount, &sum))
+        if (qAddOverflow(sum, amount, &sum))
             raiseOverflow();
     }
     return sum;
