@@ -49,6 +49,15 @@ QString oneWordLabel(int numType)
     }
 }
 
+int numTypeOf(const QString &oneWord)
+{
+    for (const int numType : {Straight, Tod, Run}) {
+        if (oneWordLabel(numType) == oneWord)
+            return numType;
+    }
+    return 0;
+}
+
 QString twoPartLabel(int numType, bool updown)
 {
     const bool known = std::any_of(BetClasses.begin(), BetClasses.end(), [&](const BetClass &each) {

@@ -97,8 +97,9 @@ BetKind kindOfCaption(const QString &caption);
 /// combination that is no class. It does not tell the digits: the number beside it does.
 QString twoPartLabel(int numType, bool updown);
 
-/// The same where top and bottom stand in lists of their own, "ตรง".
+/// The same where top and bottom stand in lists of their own, "ตรง", and back; 0 for another word.
 QString oneWordLabel(int numType);
+int numTypeOf(const QString &oneWord);
 
 /// True for the kinds that also bet on the other orders of the digits; their lines carry two
 /// amounts.

@@ -11,29 +11,15 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ScanRate
+/// Payout per baht of a row's class; nothing for a class that no scan lists.
+std::optional<qint16> rateOf(const QString &number, const QString &type)
 {
-    quint8 cutOrigin;
-    int length;
-    int numType;
-    const qint16 *rate;
-};
-
-/// Payout per baht of the classes that a scan lists.
-constexpr std::array ScanRates{
-    ScanRate{FromTopScan, 3, Tod, &Rate3tod},       ScanRate{FromTopScan, 2, Straight, &Rate2up},
-    ScanRate{FromTopScan, 2, Tod, &Rate2tod},       ScanRate{FromTopScan, 1, Run, &Raterunup},
-    ScanRate{FromBottomScan, 1, Run, &Raterundown},
-};
-
-const qint16 *rateOf(const QString &number, const QString &type)
-{
-    for (const ScanRate &each : ScanRates) {
-        if (each.cutOrigin == CutOrigin && each.length == number.size()
-            && oneWordLabel(each.numType) == type)
-            return each.rate;
-    }
-    return nullptr;
+    const bool top = CutOrigin == FromTopScan;
+    const int numType = numTypeOf(type);
+    const int num23 = int(number.size());
+    if ((!top && CutOrigin != FromBottomScan) || !isScanned(top, num23, numType))
+        return std::nullopt;
+    return classRate(classOf(num23, top, numType));
 }
 
 } // namespace
@@ -48,7 +34,7 @@ Inspection inspect(const SpreadModel &scan, int row)
                      {},
                      cell(ScanColumn::Risk),
                      cell(ScanColumn::Related)};
-    if (const qint16 *rate = rateOf(number, type))
+    if (const auto rate = rateOf(number, type))
         resumeNext([&] { shown.loss = formatBaht(CDbl(shown.bought) * *rate); });
     return shown;
 }

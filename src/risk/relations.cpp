@@ -55,16 +55,21 @@ bool isTied(Tie tie, const QString &number, const QString &longer)
     return false;
 }
 
-const Relation *relationOf(bool updown, const ScanLine &line)
+const Relation *relationOf(bool updown, int num23, int numType)
 {
     for (const Relation &each : Relations) {
-        if (each.updown == updown && each.num23 == line.num23 && each.numType == line.numType)
+        if (each.updown == updown && each.num23 == num23 && each.numType == numType)
             return &each;
     }
     return nullptr;
 }
 
 } // namespace
+
+bool isScanned(bool updown, int num23, int numType)
+{
+    return relationOf(updown, num23, numType) != nullptr;
+}
 
 RelatedLines::RelatedLines(bool updown, QList<ScanLine> lines)
     : m_updown(updown), m_lines(std::move(lines))
@@ -77,7 +82,7 @@ RelatedLines::RelatedLines(bool updown, QList<ScanLine> lines)
 
 QList<ScanLine> RelatedLines::of(const ScanLine &line) const
 {
-    const Relation *relation = relationOf(m_updown, line);
+    const Relation *relation = relationOf(m_updown, line.num23, line.numType);
     QList<ScanLine> related;
     if (!relation || line.numValue.isEmpty())
         return related;

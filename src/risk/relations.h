@@ -15,6 +15,9 @@ struct ScanLine
     QString nMoney; ///< whole baht, unformatted; "" for none
 };
 
+/// True for the classes whose numbers can have related lines on a side: a scan lists no others.
+bool isScanned(bool updown, int num23, int numType);
+
 /// The lines of one side, each number of a class once, ready to be searched.
 class RelatedLines
 {

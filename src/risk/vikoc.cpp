@@ -77,15 +77,18 @@ void ViKoC::analyse(bool updown)
 /// Shows how much of each class of a side is bought, by what the board shows at this moment.
 void ViKoC::showCoverage(bool updown)
 {
+    const std::array bars{m_ui->pb31,    m_ui->pb32, m_ui->pb21, m_ui->pb22,
+                          m_ui->pbrunup, m_ui->pd1,  m_ui->pd2,  m_ui->pd3};
+    const std::array labels{m_ui->Label1, m_ui->Label2, m_ui->Label3, m_ui->Label4,
+                            m_ui->Label5, m_ui->Label6, m_ui->Label7, m_ui->Label8};
     for (size_t at = 0; at < CoverageBars.size(); ++at) {
         if (BetClasses[at].updown != updown)
             continue;
         const CoverageBar &coverage = CoverageBars[at];
         const int bought = m_board.grids[at].rows();
-        auto *bar = findChild<QProgressBar *>(QLatin1String(coverage.bar));
-        bar->setRange(0, coverage.numbers);
-        bar->setValue(coverageValue(coverage, bought));
-        findChild<QLabel *>(QLatin1String(coverage.label))->setText(coverageText(coverage, bought));
+        bars[at]->setRange(0, coverage.numbers);
+        bars[at]->setValue(coverageValue(coverage, bought));
+        labels[at]->setText(coverageText(coverage, bought));
     }
     m_ui->topCoverage->setVisible(updown);
     m_ui->bottomCoverage->setVisible(!updown);
@@ -110,11 +113,7 @@ void ViKoC::inspectRow(int row)
 /// "คัดออก" in a row: hands its number to the cut-out, which re-runs the scan as it closes.
 void ViKoC::cutRow(int row)
 {
-    const QString type = m_scan.grid.text(row, ScanColumn::Type);
-    for (const int numType : {Straight, Tod, Run}) {
-        if (oneWordLabel(numType) == type)
-            SelNumType = quint8(numType);
-    }
+    SelNumType = quint8(numTypeOf(m_scan.grid.text(row, ScanColumn::Type)));
     SelNumValue = m_scan.grid.text(row, ScanColumn::Number);
     SelNum23 = quint8(SelNumValue.size());
     SelUpDown = CutOrigin == FromTopScan;
