@@ -12,6 +12,7 @@
 #include "reports/viewers.h"
 #include "risk/vikoc.h"
 #include "settings/setting.h"
+#include "shell/globals.h"
 
 namespace {
 
@@ -54,19 +55,21 @@ void printWinners(const DrawCheck &check, QWidget *opener)
 }
 
 /// The settings. What the board shows decides whether a draw can be closed; where the board is not
-/// the open page it is loaded, unseen, and goes with the settings.
-void showSettings(const Frame &frame, QWidget *window)
+/// the open page it is loaded, unseen, and goes with the settings. An open board is loaded anew when
+/// they close; a filter's controls stay as they are.
+void showSettings(const Frame &frame, MDIForm1 *window)
 {
-    const auto *open = window->findChild<Form3 *>();
+    const QPointer open = qobject_cast<Form3 *>(window->page());
     std::unique_ptr<Form3> unseen;
     const auto boardShowsRows = [&] {
         if (!open && !unseen)
             unseen = std::make_unique<Form3>(frame, BoardOpeners{}, nullptr);
-        return !(open ? open : unseen.get())->board().isEmpty();
+        return !(open ? open.data() : unseen.get())->board().isEmpty();
     };
     Setting dialog(window, boardShowsRows);
     runDialog(dialog);
-    reloadCurrentBoard(*window);
+    if (open && CutOrigin == FromBoard)
+        open->FReLoad();
 }
 
 } // namespace

@@ -41,7 +41,9 @@ Form2::~Form2() = default;
 
 void Form2::connectControls()
 {
-    new FieldGuard(this, &m_focus); // of Tber and Tpercen
+    new FieldGuard(this, &m_focus,
+                   {{.field = m_ui->Tber, .longest = 10, .enterFocuses = m_ui->Tpercen},
+                    {.field = m_ui->Tpercen, .longest = 2, .enterFocuses = m_ui->Tname}});
     connect(m_ui->fpSpread1, &Spread::rowPicked, this, &Form2::fpSpread1_RowPicked);
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Form2::lvButtons_H0_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form2::lvButtons_H1_Click);

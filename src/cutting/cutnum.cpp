@@ -24,7 +24,8 @@ CutNum::CutNum(std::function<void()> unload, QWidget *parent)
     m_ui->fpSpread1->setColumnDigits(CutColumn::Label, 9);
     m_ui->fpSpread1->setColumnDigits(CutColumn::Number, 16);
     m_ui->fpSpread1->setColumnDigits(CutColumn::Amount, 17);
-    new FieldGuard(this, &m_focus);
+    new FieldGuard(this, &m_focus,
+                   {{.field = m_ui->text1, .longest = 5, .enterClicks = m_ui->lvButtons_H3}});
     connect(m_ui->fpSpread1, &Spread::rowClicked, this, &CutNum::fpSpread1_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &CutNum::lvButtons_H1_Click);
     connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &CutNum::lvButtons_H3_Click);

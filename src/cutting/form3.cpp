@@ -14,7 +14,6 @@
 #include "fields/fieldguard.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
-#include "shell/globals.h"
 #include "widgets/searchicon.h"
 
 #include <QApplication>
@@ -60,7 +59,8 @@ void Form3::focusInEvent(QFocusEvent *event)
 
 void Form3::connectControls()
 {
-    new FieldGuard(this, &m_focus);
+    new FieldGuard(this, &m_focus,
+                   {{.field = m_ui->text1, .longest = 3, .enterClicks = m_ui->lvButtons_H3}});
     for (int at = 0; at < ClassCount; ++at)
         connect(m_spreads[at], &Spread::rowOpened, this, [this, at] { fpSpread_DblClick(at); });
     m_ui->Combo1->keyPress = [this](int code) { return Combo1_KeyPress(code); };
@@ -352,11 +352,4 @@ void Form3::showBar(bool shown)
 {
     m_ui->Frame3->setVisible(shown);
     m_ui->Frame2->setVisible(!shown);
-}
-
-void reloadCurrentBoard(const QWidget &window)
-{
-    auto *board = window.findChild<Form3 *>();
-    if (board && CutOrigin == FromBoard)
-        board->FReLoad();
 }

@@ -92,7 +92,3 @@ private:
     std::array<Spread *, ClassCount> m_spreads{};
     std::array<QLabel *, ClassCount> m_estimates{};
 };
-
-/// The rule of the settings when they close: the board is loaded anew if it is the page in
-/// @p window and no scan is shown. A filter's controls stay as they are.
-void reloadCurrentBoard(const QWidget &window);

@@ -21,7 +21,8 @@ Numcut::Numcut(std::function<void(Numcut &)> print, QWidget *parent)
     for (Spread *spread : m_spreads)
         spread->setColumnDigits(CutTypeColumn, 12); // less than its share
     m_ui->lvButtons_H3->setIcon(searchIcon());
-    new FieldGuard(this, &m_focus);
+    new FieldGuard(this, &m_focus,
+                   {{.field = m_ui->text1, .longest = 3, .enterClicks = m_ui->lvButtons_H3}});
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Numcut::lvButtons_H3_Click);
     connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Numcut::lvButtons_H5_Click);

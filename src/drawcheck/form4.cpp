@@ -6,7 +6,6 @@
 #include "desktop/background.h"
 #include "desktop/msgbox.h"
 #include "entry/hotnumbers.h"
-#include "fields/fieldguard.h"
 #include "runtime/values.h"
 
 #include <QMouseEvent>
@@ -48,7 +47,7 @@ Form4::~Form4() = default;
 
 void Form4::connectControls()
 {
-    new FieldGuard(this, &m_focus);
+    new FieldGuard(this, &m_focus, digitRules());
     for (QLineEdit *box : m_boxes)
         box->installEventFilter(this);
     connect(&m_focus, &FocusTracker::gotFocus, this, [this](QWidget *control) {
@@ -67,6 +66,23 @@ void Form4::connectControls()
     connect(m_ui->Command18, &QPushButton::clicked, this, &Form4::Command18_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form4::lvButtons_H1_Click);
     connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form4::lvButtons_H5_Click);
+}
+
+/// The focus moves on with each key, so that the seventeen digits are typed in one run. Enter moves
+/// it on too, but stops at the end of a prize.
+QList<FieldRule> Form4::digitRules() const
+{
+    QList<FieldRule> rules;
+    for (size_t at = 0; at < m_boxes.size(); ++at) {
+        QLineEdit *next = at + 1 < m_boxes.size() ? m_boxes[at + 1] : nullptr;
+        const bool endsPrize = std::ranges::any_of(
+            PrizePlaces, [&](QByteArrayView places) { return places.back() == char('a' + at); });
+        rules += {.field = m_boxes[at],
+                  .longest = 1,
+                  .enterFocuses = endsPrize ? nullptr : next,
+                  .keyFocuses = next};
+    }
+    return rules;
 }
 
 void Form4::Form_Load()

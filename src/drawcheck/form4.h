@@ -5,13 +5,12 @@
 
 #include "desktop/focustracker.h"
 #include "drawcheck/settlement.h"
+#include "fields/fieldguard.h"
 
 #include <QWidget>
 
 #include <functional>
 #include <memory>
-
-class QLineEdit;
 
 namespace Ui {
 class Form4;
@@ -35,6 +34,7 @@ protected:
 
 private:
     void connectControls();
+    QList<FieldRule> digitRules() const;
     void Form_Load();
 
     void Command18_Click();

@@ -12,18 +12,9 @@
 inline constexpr int DigitCount = 17;
 using ResultDigits = std::array<QString, DigitCount>;
 
-/// One prize of a result: the column of tblTrue and tblNumLog that keeps it, and the places of its
-/// digits. Places are lettered "a" to "q" in reading order.
-struct Prize
-{
-    const char *column;
-    const char *places;
-};
-
-inline constexpr std::array Prizes{
-    Prize{"num3up", "abc"},    Prize{"num3down1", "def"}, Prize{"num3down2", "ghi"},
-    Prize{"num3down3", "jkl"}, Prize{"num3down4", "mno"}, Prize{"num2down", "pq"},
-};
+/// The digits of each prize, in the order of ResultColumns, which begins with the prizes. Places of
+/// digits are lettered "a" to "q" in reading order.
+inline constexpr std::array PrizePlaces{"abc", "def", "ghi", "jkl", "mno", "pq"};
 
 /// What wins in each class, in the order of BetClasses: places of digits, numbers parted by a
 /// blank. A bet of two digits on top wins straight on the last two alone, in any order on any two.

@@ -4,6 +4,7 @@
 #include "desktop/clock.h"
 #include "entry/save.h"
 #include "ledger/ledger.h"
+#include "ledger/schema.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 
@@ -21,8 +22,9 @@ double storedAmount(const QString &shown)
 void writeTrue(const ResultDigits &digits, double profit, double payout)
 {
     RecordsetA.openRow(u"tblTrue"_s, u"PK"_s, 1);
-    for (const Prize &prize : Prizes)
-        RecordsetA.set(QString::fromLatin1(prize.column), resultNumber(digits, prize.places));
+    for (size_t at = 0; at < PrizePlaces.size(); ++at)
+        RecordsetA.set(QLatin1String(ResultColumns[at].name),
+                       resultNumber(digits, PrizePlaces[at]));
     RecordsetA.set(u"numdate"_s, currentDateTime().date().toString(Qt::ISODate));
     RecordsetA.set(u"moneyup"_s, profit);
     RecordsetA.set(u"moneydown"_s, payout);

@@ -58,7 +58,8 @@ Form1::~Form1() = default;
 
 void Form1::connectControls()
 {
-    const auto *guard = new FieldGuard(this, &m_focus);
+    const auto *guard = new FieldGuard(
+        this, &m_focus, {{.field = m_ui->Tnumber, .longest = 50, .filter = FieldFilter::Line}});
     m_ui->Tnumber->installEventFilter(this); // behind the guard's, so it sees a key before it
     connect(guard, &FieldGuard::entered, this, &Form1::Tnumber_KeyPress);
     connect(&m_focus, &FocusTracker::gotFocus, this, &Form1::controlGotFocus);

@@ -5,7 +5,6 @@
 #include "desktop/keycodes.h"
 #include "fields/filters.h"
 
-#include <QAbstractButton>
 #include <QKeyEvent>
 #include <QMouseEvent>
 
@@ -19,16 +18,28 @@ bool bringsTextBack(const QKeyEvent &key)
            || key.matches(QKeySequence::Redo);
 }
 
+/// True for the buttons that do more than place the cursor. Answers the right one with a box.
+bool isForbidden(const FieldRule &rule, Qt::MouseButton button)
+{
+    if (button == Qt::RightButton && rule.filter == FieldFilter::Line)
+        refuseRightClickInLine();
+    else if (button == Qt::RightButton)
+        refuseRightClick();
+    return button == Qt::RightButton || button == Qt::MiddleButton;
+}
+
 } // namespace
 
-FieldGuard::FieldGuard(QWidget *form, const FocusTracker *focus) : QObject(form), m_form(form)
+FieldGuard::FieldGuard(QWidget *form, const FocusTracker *focus, const QList<FieldRule> &rules)
+    : QObject(form)
 {
-    for (const FieldRule &rule : FieldTable) {
-        if (form->objectName() != QLatin1String(rule.form))
-            continue;
-        auto *field = form->findChild<QLineEdit *>(QLatin1String(rule.field));
-        Q_ASSERT_X(field, "FieldGuard", rule.field);
-        guard(field, &rule);
+    for (const FieldRule &rule : rules) {
+        m_rules.insert(rule.field, rule);
+        rule.field->installEventFilter(this);
+        rule.field->setAcceptDrops(false);
+        rule.field->setDragEnabled(false);
+        rule.field->setAttribute(Qt::WA_InputMethodEnabled, false);
+        rule.field->setContextMenuPolicy(Qt::PreventContextMenu);
     }
     connect(focus, &FocusTracker::gotFocus, this, [this](QWidget *control) {
         if (m_rules.contains(control))
@@ -36,25 +47,21 @@ FieldGuard::FieldGuard(QWidget *form, const FocusTracker *focus) : QObject(form)
     });
 }
 
-void FieldGuard::guard(QLineEdit *field, const FieldRule *rule)
-{
-    m_rules.insert(field, rule);
-    field->installEventFilter(this);
-    field->setAcceptDrops(false);
-    field->setDragEnabled(false);
-    field->setAttribute(Qt::WA_InputMethodEnabled, false);
-    field->setContextMenuPolicy(Qt::PreventContextMenu);
-}
-
 bool FieldGuard::eventFilter(QObject *object, QEvent *event)
 {
-    const FieldRule &rule = *m_rules.value(object);
+    const FieldRule rule = m_rules.value(object);
     switch (event->type()) {
-    case QEvent::KeyPress:
-        return keyPressed(static_cast<QLineEdit *>(object), *static_cast<QKeyEvent *>(event));
+    case QEvent::KeyPress: {
+        const auto &key = *static_cast<QKeyEvent *>(event);
+        const int code = characterCode(key);
+        if (code == 0)
+            return isStrayText(key) || bringsTextBack(key);
+        keyPressed(rule, code);
+        return true;
+    }
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        return mousePressed(rule, *static_cast<QMouseEvent *>(event));
+        return isForbidden(rule, static_cast<QMouseEvent *>(event)->button());
     case QEvent::MouseButtonRelease: // the middle button pastes when it is let go
         return static_cast<QMouseEvent *>(event)->button() == Qt::MiddleButton;
     case QEvent::ContextMenu:
@@ -65,56 +72,23 @@ bool FieldGuard::eventFilter(QObject *object, QEvent *event)
     }
 }
 
-bool FieldGuard::keyPressed(QLineEdit *field, const QKeyEvent &key)
+void FieldGuard::keyPressed(const FieldRule &rule, int code)
 {
-    const FieldRule &rule = *m_rules.value(field);
-    const int code = characterCode(key);
-    if (code == 0)
-        return isStrayText(key) || bringsTextBack(key);
+    QLineEdit &field = *rule.field;
     if (code == EnterCode) {
-        pressEnter(rule);
-        return true;
+        if (rule.enterFocuses)
+            rule.enterFocuses->setFocus();
+        else if (rule.enterClicks)
+            rule.enterClicks->click();
+        else
+            emit entered();
+        return;
     }
     const int passed = rule.filter == FieldFilter::Line ? LineFilter(code) : DigitFilter(code);
     if (passed == BackspaceCode)
-        field->backspace();
-    else if (passed != 0 && field->text().size() - field->selectedText().size() < rule.longest)
-        field->insert(QChar(passed));
-    moveFocusTo(rule.movesOnTo);
-    return true;
-}
-
-bool FieldGuard::mousePressed(const FieldRule &rule, const QMouseEvent &mouse)
-{
-    if (mouse.button() == Qt::RightButton) {
-        if (rule.filter == FieldFilter::Line)
-            refuseRightClickInLine();
-        else
-            refuseRightClick();
-        return true;
-    }
-    return mouse.button() == Qt::MiddleButton;
-}
-
-void FieldGuard::pressEnter(const FieldRule &rule)
-{
-    switch (rule.enter) {
-    case FieldEnter::Stays:
-        break;
-    case FieldEnter::Focuses:
-        moveFocusTo(rule.target);
-        break;
-    case FieldEnter::Clicks:
-        m_form->findChild<QAbstractButton *>(QLatin1String(rule.target))->click();
-        break;
-    case FieldEnter::Handled:
-        emit entered();
-        break;
-    }
-}
-
-void FieldGuard::moveFocusTo(const char *control)
-{
-    if (control)
-        m_form->findChild<QWidget *>(QLatin1String(control))->setFocus();
+        field.backspace();
+    else if (passed != 0 && field.text().size() - field.selectedText().size() < rule.longest)
+        field.insert(QChar(passed));
+    if (rule.keyFocuses)
+        rule.keyFocuses->setFocus();
 }

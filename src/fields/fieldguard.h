@@ -3,39 +3,47 @@
 // only what its filter passes.
 #pragma once
 
-#include "fields/fieldtable.h"
-
+#include <QAbstractButton>
 #include <QHash>
 #include <QLineEdit>
 #include <QObject>
 
 class FocusTracker;
-class QKeyEvent;
-class QMouseEvent;
+
+enum class FieldFilter { Digits, Line };
+
+/// One guarded field and what keys do in it.
+struct FieldRule
+{
+    QLineEdit *field = nullptr;
+    int longest = 0; ///< characters that can be typed; text set by code may be longer
+    FieldFilter filter = FieldFilter::Digits;
+    QWidget *enterFocuses = nullptr;        ///< where Enter moves the focus
+    QAbstractButton *enterClicks = nullptr; ///< the button that Enter presses
+    QWidget *keyFocuses = nullptr;          ///< where any other key moves it, after the filter
+};
 
 class FieldGuard : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Guards all fields that the field table names for the form of this object name. The
-    /// keyboard is switched to English when one of them gets the focus.
-    FieldGuard(QWidget *form, const FocusTracker *focus);
+    /// Guards fields of a form, its owner. The keyboard is switched to English when one of them gets the
+    /// focus.
+    FieldGuard(QWidget *form, const FocusTracker *focus, const QList<FieldRule> &rules);
+
+    /// The rule of a field, or one without a field.
+    FieldRule rule(const QLineEdit *field) const { return m_rules.value(field); }
 
 signals:
-    /// Enter in a field whose rule leaves the rest to the form.
+    /// Enter in a field whose rule has neither a target nor a button for it.
     void entered();
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    void guard(QLineEdit *field, const FieldRule *rule);
-    bool keyPressed(QLineEdit *field, const QKeyEvent &key);
-    static bool mousePressed(const FieldRule &rule, const QMouseEvent &mouse);
-    void pressEnter(const FieldRule &rule);
-    void moveFocusTo(const char *control);
+    void keyPressed(const FieldRule &rule, int code);
 
-    QWidget *m_form;
-    QHash<const QObject *, const FieldRule *> m_rules;
+    QHash<const QObject *, FieldRule> m_rules;
 };

@@ -25,9 +25,13 @@ void makeEmptyLedger(const QString &path)
     const auto file = Connection::create(path);
     file->run(u"PRAGMA journal_mode = WAL"_s);
     file->run(u"PRAGMA application_id = %1"_s.arg(LedgerApplicationId));
-    for (const LedgerTable &table : ledgerTables())
-        file->run(
-            u"CREATE TABLE %1 (%2)"_s.arg(QLatin1String(table.name), QLatin1String(table.columns)));
+    for (const LedgerTable &table : ledgerTables()) {
+        QString columns = QString::fromLatin1(table.columns);
+        for (const TableColumn &column : table.listed)
+            columns +=
+                u", [%1] %2"_s.arg(QLatin1String(column.name), QLatin1String(column.declaration));
+        file->run(u"CREATE TABLE %1 (%2)"_s.arg(QLatin1String(table.name), columns));
+    }
     for (const char *index : Indexes) {
         for (const QString &table : {u"tblNumber"_s, u"tblNumberCut"_s})
             file->run(QString::fromLatin1(index).arg(table));

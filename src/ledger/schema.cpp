@@ -15,14 +15,6 @@ constexpr const char *BetLineColumns =
     "NPK INTEGER PRIMARY KEY, NameFK INTEGER, num23 INTEGER, updown INTEGER, "
     "numType INTEGER, numValue TEXT, numBuy INTEGER, nuser TEXT";
 
-// moneyup is the agent's profit and moneydown the payout, whatever their names say. numdate is
-// a day as "2026-11-22", which sorts by the calendar.
-constexpr const char *ResultColumns =
-    "PK INTEGER PRIMARY KEY, num3up TEXT DEFAULT '', num3down1 TEXT DEFAULT '', "
-    "num3down2 TEXT DEFAULT '', num3down3 TEXT DEFAULT '', num3down4 TEXT DEFAULT '', "
-    "num2down TEXT DEFAULT '', numdate TEXT DEFAULT '', moneyup NUMERIC DEFAULT 0, "
-    "moneydown NUMERIC DEFAULT 0";
-
 constexpr std::array Tables{
     // No customer ever has an empty discount: those named only by a ticket get "0" too.
     LedgerTable{"tblMember", "MPK INTEGER PRIMARY KEY, Mname TEXT, Mber TEXT DEFAULT '', "
@@ -30,14 +22,10 @@ constexpr std::array Tables{
     LedgerTable{"tblNumber", BetLineColumns},
     LedgerTable{"tblNumberCut", BetLineColumns},
     LedgerTable{"tblNumberFix", "PK INTEGER PRIMARY KEY, Fnumber TEXT"},
-    LedgerTable{"tblMoney", "PK INTEGER PRIMARY KEY, [3up] INTEGER DEFAULT 500, "
-                            "[3tod] INTEGER DEFAULT 100, [2up] INTEGER DEFAULT 70, "
-                            "[2tod] INTEGER DEFAULT 12, runup INTEGER DEFAULT 3, "
-                            "[3down] INTEGER DEFAULT 100, [2down] INTEGER DEFAULT 70, "
-                            "rundown INTEGER DEFAULT 4"},
+    LedgerTable{"tblMoney", "PK INTEGER PRIMARY KEY", RateColumns},
     LedgerTable{"tblRMoney", "PK INTEGER PRIMARY KEY, rMoney NUMERIC"},
-    LedgerTable{"tblTrue", ResultColumns},
-    LedgerTable{"tblNumLog", ResultColumns},
+    LedgerTable{"tblTrue", "PK INTEGER PRIMARY KEY", ResultColumns},
+    LedgerTable{"tblNumLog", "PK INTEGER PRIMARY KEY", ResultColumns},
 };
 
 } // namespace

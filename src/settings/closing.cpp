@@ -4,9 +4,8 @@
 #include "desktop/msgbox.h"
 #include "desktop/programend.h"
 #include "ledger/ledger.h"
+#include "ledger/schema.h"
 #include "runtime/runtimeerror.h"
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -29,9 +28,6 @@ constexpr std::array WipeStatements{
     "DELETE FROM tblNumLog",
 };
 
-constexpr std::array ResultColumns{"num3up",   "num3down1", "num3down2", "num3down3", "num3down4",
-                                   "num2down", "numdate",   "moneyup",   "moneydown"};
-
 template<typename Statements>
 void runAll(const Statements &statements)
 {
@@ -44,8 +40,8 @@ void logDraw()
 {
     RecordsetA.open(u" SELECT  tblTrue.* FROM tblTrue WHERE [PK] = 1 "_s);
     RecordsetB.openTable(u"tblNumLog"_s);
-    for (const char *column : ResultColumns)
-        RecordsetB.set(QString::fromLatin1(column), RecordsetA.field(QString::fromLatin1(column)));
+    for (const TableColumn &column : ResultColumns)
+        RecordsetB.set(QLatin1String(column.name), RecordsetA.field(QLatin1String(column.name)));
     RecordsetB.update();
     RecordsetA.close();
     RecordsetB.close();

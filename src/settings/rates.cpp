@@ -12,8 +12,8 @@ std::optional<RateTexts> readRates()
     RecordsetA.open(u" SELECT tblMoney.* FROM tblMoney WHERE [PK] = 1 ORDER BY PK"_s);
     if (RecordsetA.recordCount() > 0) {
         rates.emplace();
-        for (size_t at = 0; at < RateFields.size(); ++at)
-            (*rates)[at] = RecordsetA.field(QLatin1String(RateFields[at].column)).toString();
+        for (size_t at = 0; at < RateColumns.size(); ++at)
+            (*rates)[at] = RecordsetA.field(QLatin1String(RateColumns[at].name)).toString();
     }
     RecordsetA.close();
     return rates;
@@ -22,8 +22,8 @@ std::optional<RateTexts> readRates()
 void writeRates(const RateTexts &rates)
 {
     RecordsetA.openRow(u"tblMoney"_s, u"PK"_s, 1);
-    for (size_t at = 0; at < RateFields.size(); ++at)
-        RecordsetA.set(u'[' + QLatin1String(RateFields[at].column) + u']', CInt(rates[at]));
+    for (size_t at = 0; at < RateColumns.size(); ++at)
+        RecordsetA.set(u'[' + QLatin1String(RateColumns[at].name) + u']', CInt(rates[at]));
     RecordsetA.update();
     RecordsetA.close();
 }

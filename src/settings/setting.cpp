@@ -8,7 +8,6 @@
 #include "fields/fieldguard.h"
 #include "runtime/values.h"
 #include "settings/hotnumberlist.h"
-#include "settings/rates.h"
 #include "shell/globals.h"
 
 using namespace Qt::StringLiterals;
@@ -18,6 +17,8 @@ Setting::Setting(QWidget *parent, BoardShowsRows boardShowsRows)
       m_boardShowsRows(std::move(boardShowsRows))
 {
     m_ui->setupUi(this);
+    m_rates = {m_ui->text1, m_ui->text3, m_ui->text2, m_ui->text4,
+               m_ui->text5, m_ui->text6, m_ui->text7, m_ui->text8};
     m_ui->fpSpread1->setSpreadModel(&m_hotNumbers);
     m_ui->fpSpread1->setColumnDigits(HotPlaceColumn, 8);
     m_ui->fpSpread1->setColumnDigits(HotNumberColumn, 19);
@@ -33,7 +34,12 @@ Setting::~Setting() = default;
 
 void Setting::connectControls()
 {
-    new FieldGuard(this, &m_focus);
+    QList<FieldRule> rules{{.field = m_ui->text9, .longest = 3, .enterClicks = m_ui->lvButtons_H3}};
+    for (size_t at = 0; at < m_rates.size(); ++at)
+        rules += {.field = m_rates[at],
+                  .longest = 4,
+                  .enterFocuses = at + 1 < m_rates.size() ? m_rates[at + 1] : nullptr};
+    new FieldGuard(this, &m_focus, rules);
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Setting::lvButtons_H0_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Setting::lvButtons_H1_Click);
     connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Setting::lvButtons_H2_Click);
@@ -58,8 +64,8 @@ void Setting::LoadNumberFix()
 void Setting::LoadMoney()
 {
     const auto rates = readRates();
-    for (size_t at = 0; rates && at < RateFields.size(); ++at)
-        findChild<QLineEdit *>(QLatin1String(RateFields[at].field))->setText((*rates)[at]);
+    for (size_t at = 0; rates && at < m_rates.size(); ++at)
+        m_rates[at]->setText((*rates)[at]);
 }
 
 void Setting::refuseAt(QLineEdit *field, const QString &words)
@@ -84,11 +90,10 @@ void Setting::lvButtons_H1_Click()
 void Setting::lvButtons_H2_Click()
 {
     RateTexts rates;
-    for (size_t at = 0; at < RateFields.size(); ++at) {
-        auto *field = findChild<QLineEdit *>(QLatin1String(RateFields[at].field));
-        rates[at] = trimBlanks(field->text());
+    for (size_t at = 0; at < m_rates.size(); ++at) {
+        rates[at] = trimBlanks(m_rates[at]->text());
         if (rates[at].isEmpty())
-            return refuseAt(field, u"กรุณาระบุ ( อัตราจ่าย ) ให้ครบทุกช่อง ก่อนเริ่มบันทึก"_s);
+            return refuseAt(m_rates[at], u"กรุณาระบุ ( อัตราจ่าย ) ให้ครบทุกช่อง ก่อนเริ่มบันทึก"_s);
     }
     if (!ask(u"คุณแน่ใจว่าต้องการบันทึก ( อัตราจ่ายเงินรางวัล ) ?"_s, u"ยืนยันการบันทึกข้อมูล"_s,
              BoxIcon::Information, BoxAnswer::Cancel))

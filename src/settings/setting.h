@@ -4,6 +4,7 @@
 
 #include "desktop/focustracker.h"
 #include "settings/closing.h"
+#include "settings/rates.h"
 #include "widgets/spreadmodel.h"
 
 #include <QDialog>
@@ -43,4 +44,5 @@ private:
     FocusTracker m_focus;
     SpreadModel m_hotNumbers;
     BoardShowsRows m_boardShowsRows;
+    std::array<QLineEdit *, RateColumns.size()> m_rates{}; ///< in the order of RateColumns
 };

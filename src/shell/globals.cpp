@@ -2,9 +2,8 @@
 #include "shell/globals.h"
 
 #include "ledger/ledger.h"
+#include "ledger/schema.h"
 #include "runtime/values.h"
-
-#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -20,33 +19,23 @@ quint8 CutOrigin = FromOtherPage;
 
 namespace {
 
-struct RateColumn
-{
-    const char *column;
-    qint16 *rate;
-};
-
-/// In the order of BetClasses.
-constexpr std::array RateColumns{
-    RateColumn{"3up", &Rate3up},     RateColumn{"3tod", &Rate3tod},
-    RateColumn{"2up", &Rate2up},     RateColumn{"2tod", &Rate2tod},
-    RateColumn{"runup", &Raterunup}, RateColumn{"3down", &Rate3down},
-    RateColumn{"2down", &Rate2down}, RateColumn{"rundown", &Raterundown},
-};
+/// In the order of RateColumns.
+constexpr std::array Rates{&Rate3up,   &Rate3tod,  &Rate2up,   &Rate2tod,
+                           &Raterunup, &Rate3down, &Rate2down, &Raterundown};
 
 } // namespace
 
 qint16 classRate(int at)
 {
-    return *RateColumns[size_t(at)].rate;
+    return *Rates[size_t(at)];
 }
 
 void LoadMoney()
 {
     RecordsetA.open(u" SELECT tblMoney.* FROM tblMoney WHERE [PK] = 1 ORDER BY PK"_s);
     if (RecordsetA.recordCount() > 0) {
-        for (const RateColumn &entry : RateColumns)
-            *entry.rate = CInt(numberOf(RecordsetA.field(QString::fromLatin1(entry.column))));
+        for (size_t at = 0; at < Rates.size(); ++at)
+            *Rates[at] = CInt(numberOf(RecordsetA.field(QLatin1String(RateColumns[at].name))));
     }
     RecordsetA.close();
 }

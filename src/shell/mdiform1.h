@@ -12,6 +12,7 @@
 #include <functional>
 #include <memory>
 
+class MDIForm1;
 class PushButton;
 class QSessionManager;
 
@@ -36,7 +37,7 @@ inline constexpr int PageCount = 5;
 struct Pages
 {
     std::array<PageMaker, PageCount> makers;
-    std::function<void(const Frame &frame, QWidget *parent)> showSettings;
+    std::function<void(const Frame &frame, MDIForm1 *window)> showSettings;
 };
 
 class MDIForm1 : public QMainWindow

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "access/look.h"
 
-#include "fields/fieldtable.h"
+#include "fields/fieldguard.h"
 #include "widgets/narrowedfont.h"
 #include "widgets/spread.h"
 
@@ -68,10 +68,10 @@ void addField(QList<Words> &all, QLineEdit *field)
                             .adjusted(2, 0, -2, 0);
     all += {field, field->text().isEmpty() ? field->placeholderText() : field->text(), place,
             field->font()};
-    for (const FieldRule &rule : FieldTable) {
-        if (field->objectName() == QLatin1String(rule.field) && rule.filter == FieldFilter::Digits
-            && (field->window()->objectName() == QLatin1String(rule.form)
-                || field->window()->findChild<QWidget *>(QLatin1String(rule.form)))) {
+    const auto guards = field->window()->findChildren<FieldGuard *>();
+    for (const FieldGuard *guard : guards) {
+        const FieldRule rule = guard->rule(field);
+        if (rule.field && rule.filter == FieldFilter::Digits) {
             all += {field, QString(rule.longest, u'8'), place, field->font()};
             all.last().shown = false;
         }

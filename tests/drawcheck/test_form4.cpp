@@ -96,6 +96,9 @@ void Form4Test::filledBoxIsKeyedOver()
     Hands::press(Qt::Key_Backspace); // empties its box and moves on as well
     QCOMPARE(control<QLineEdit>("text8")->text(), QString());
     QCOMPARE(Hands::focus()->objectName(), u"text9"_s);
+    for (int press = 0; press < 2; ++press) // moves on as well, but not past the end of a prize
+        Hands::press(Qt::Key_Return);
+    QCOMPARE(Hands::focus()->objectName(), u"text10"_s);
 }
 
 void Form4Test::otherBookStartsEmpty()
