@@ -36,12 +36,9 @@ ReportPages Report::run()
 
 void Report::setText(const QString &name, const QString &text)
 {
-    control(name).text = text;
-}
-
-void Report::setVisible(const QString &name, bool visible)
-{
-    control(name).visible = visible;
+    const auto found = std::ranges::find(m_layout.controls, name, &ReportControl::name);
+    Q_ASSERT(found != m_layout.controls.end());
+    found->text = text;
 }
 
 void Report::drawPageLine(const QLine &line)
@@ -51,14 +48,7 @@ void Report::drawPageLine(const QLine &line)
         ruling += line;
 }
 
-ReportControl &Report::control(const QString &name)
-{
-    const auto found = std::ranges::find(m_layout.controls, name, &ReportControl::name);
-    Q_ASSERT(found != m_layout.controls.end());
-    return *found;
-}
-
-/// A section reaches down to the lowest edge of its controls, hidden ones included.
+/// A section reaches down to the lowest edge of its controls, those without a text included.
 int Report::sectionHeight(ReportSection section) const
 {
     int height = 0;
@@ -74,7 +64,7 @@ void Report::place(ReportSection section, int top)
     for (const ReportControl &control : std::as_const(m_layout.controls)) {
         const bool empty =
             control.kind == ReportControl::Text && trimBlanks(control.text).isEmpty();
-        if (control.section != section || !control.visible || empty)
+        if (control.section != section || empty)
             continue;
         m_pages.pages.last().items +=
             {section,      control.name,  control.box.translated(PageMargin, top),

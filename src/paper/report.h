@@ -27,16 +27,14 @@ protected:
     virtual void PageFooter_Format() {}
     virtual void ActiveReport_ReportEnd() {}
 
-    /// Sets the text or hides a control. Its name must be in the layout.
+    /// Sets the text of a control. Its name must be in the layout.
     void setText(const QString &name, const QString &text);
-    void setVisible(const QString &name, bool visible);
 
     /// Draws a line on the page at hand, in coordinates of the paper. The same line again on the
     /// same page leaves the page as it is.
     void drawPageLine(const QLine &line);
 
 private:
-    ReportControl &control(const QString &name);
     int sectionHeight(ReportSection section) const;
     void place(ReportSection section, int top);
     void beginPage();

@@ -39,8 +39,7 @@ struct ReportControl
     QRect box;
     Kind kind = Text;
     TextStyle style = {};
-    QString text = {};
-    bool visible = true;
+    QString text = {}; ///< a text control without one is left out
 };
 
 /// The paper and all that stands on it.

@@ -10,8 +10,39 @@
 
 using namespace Qt::StringLiterals;
 
-GridReport::GridReport(ReportLayout layout, RowPlan plan, QList<const SpreadModel *> grids)
-    : Report(std::move(layout)), m_plan(std::move(plan)), m_grids(std::move(grids))
+namespace {
+
+QString fieldName(qsizetype at)
+{
+    return u"text"_s + QString::number(at + 1);
+}
+
+} // namespace
+
+QList<ReportControl> columnControls(const ReportColumn &column, qsizetype at,
+                                    const ColumnLook &look)
+{
+    constexpr int FieldTop = 20;
+    const bool money = column.kind == ReportColumn::Money;
+    const Qt::Alignment alignment = money ? Qt::AlignRight : Qt::AlignHCenter;
+    return {
+        {.section = ReportSection::PageHeader,
+         .name = u"Label"_s + QString::number(column.label),
+         .box = {column.heading.left, look.headingTop, column.heading.width, look.headingHeight},
+         .style = {.points = look.headingPoints, .alignment = alignment, .bold = look.boldHeadings},
+         .text = column.title.toString()},
+        {.section = ReportSection::Detail,
+         .name = fieldName(at),
+         .box = {column.field.left, FieldTop, column.field.width, look.fieldHeight},
+         .style =
+             {.points = look.fieldPoints, .alignment = alignment, .whole = money, .amount = money}},
+    };
+}
+
+GridReport::GridReport(ReportLayout layout, QList<ReportColumn> columns, int rulingFrom,
+                       QList<const SpreadModel *> grids)
+    : Report(std::move(layout)), m_columns(std::move(columns)), m_rulingFrom(rulingFrom),
+      m_grids(std::move(grids))
 {}
 
 void GridReport::takeRowTotal()
@@ -31,11 +62,15 @@ bool GridReport::ActiveReport_FetchData()
 
 void GridReport::Detail_Format()
 {
-    for (const int x : std::as_const(m_plan.rulingAt))
-        drawPageLine({x, m_plan.rulingFrom, x, m_plan.rulingTo});
-    for (const FieldSource &source : std::as_const(m_plan.fields)) {
-        const QString text = grid(source.grid).text(m_row, source.column);
-        setText(source.field, source.blankAhead ? u' ' + text : text);
+    constexpr int RulingTo = 1000;
+    for (qsizetype at = 0; at < m_columns.size(); ++at) {
+        const ReportColumn &column = m_columns[at];
+        for (const int x : {column.rulingBefore, column.rulingBehind}) {
+            if (x > 0)
+                drawPageLine({x, m_rulingFrom, x, RulingTo});
+        }
+        const QString text = grid(column.grid).text(m_row, column.source);
+        setText(fieldName(at), column.kind == ReportColumn::Money ? u' ' + text : text);
     }
 }
 

@@ -25,7 +25,7 @@ protected:
     void ActiveReport_Initialize() override;
 
 private:
-    void showTotals(int firstBlock, int lastBlock);
+    void showTotals(int begin, int end);
 
     BoardsOnScreen m_shown;
 };
