@@ -37,10 +37,10 @@ void CutBoard::SetupSpread()
         const SpreadModel::Rebuild rebuild(grid);
         grid.setup(CutAmountColumn, 3);
         grid.setHeader(CaptionRow, CutTypeColumn,
-                       {Captions[list].toString(), Qt::AlignCenter, true, 3});
+                       {.text = Captions[list].toString(), .bold = true, .span = 3});
         grid.setHeader(TotalRow, CutTypeColumn, {u"รวมเงิน"_s});
         grid.setHeader(TotalRow, CutTotalColumn,
-                       {u"0"_s, Qt::AlignRight | Qt::AlignVCenter, false, 2});
+                       {.text = u"0"_s, .alignment = Qt::AlignRight | Qt::AlignVCenter, .span = 2});
         grid.setTitles(TitleRow, Columns);
     }
 }

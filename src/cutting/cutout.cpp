@@ -77,8 +77,9 @@ void CutOut::SetupSpread()
 {
     const SpreadModel::Rebuild rebuild(grid);
     grid.setup(CutColumn::User, 2);
-    grid.setHeader(SumRow, CutColumn::Number, {u"ยอดรวม"_s, Qt::AlignCenter, true});
-    grid.setHeader(SumRow, CutColumn::Amount, {{}, Qt::AlignRight | Qt::AlignVCenter, true});
+    grid.setHeader(SumRow, CutColumn::Number, {.text = u"ยอดรวม"_s, .bold = true});
+    grid.setHeader(SumRow, CutColumn::Amount,
+                   {.alignment = Qt::AlignRight | Qt::AlignVCenter, .bold = true});
     grid.setTitles(ColumnTitleRow, Columns);
 }
 

@@ -58,11 +58,16 @@ void Spread::setSpreadModel(SpreadModel *model)
 {
     m_model = model;
     setModel(model);
-    connect(model, &SpreadModel::modelAboutToBeReset, this, [this] { m_rowBefore = activeRow(); });
+    connect(model, &SpreadModel::modelAboutToBeReset, this, [this] {
+        m_rowBefore = activeRow();
+        m_rowsBefore = rows();
+    });
     connect(model, &SpreadModel::modelReset, this, [this] {
         fitColumns();
-        if (m_rowBefore > 0 && rows() > 0) // Enter goes on working after a reload
+        setAutoScroll(rows() != m_rowsBefore); // the same rows again stay where they are scrolled
+        if (m_rowBefore > 0 && rows() > 0)     // Enter goes on working after a reload
             setActiveRow(std::min(m_rowBefore, rows()));
+        setAutoScroll(true);
     });
     fitColumns();
 }

@@ -69,7 +69,8 @@ private:
     SpreadModel *m_model = nullptr;
     QMap<int, int> m_columnDigits;
     int m_rowPoints = 18;
-    int m_rowBefore = 0; ///< the active row before the model was reset
+    int m_rowBefore = 0;  ///< the active row before the model was reset
+    int m_rowsBefore = 0; ///< how many rows it had
     QList<int> m_hidden{0};
     bool m_picking = true;     ///< false while code sets the active row
     bool m_rowPressed = false; ///< the mouse button went down on a row and is held

@@ -10,28 +10,16 @@ SpreadModel::SpreadModel(QObject *parent) : QAbstractTableModel(parent)
     setup(0, 0);
 }
 
-SpreadModel::Rebuild::Rebuild(SpreadModel &grid)
-    : m_grid(grid), m_columns(grid.columns()), m_headers(grid.m_headers), m_rows(grid.rows())
+SpreadModel::Rebuild::Rebuild(SpreadModel &grid) : m_grid(grid)
 {
-    ++m_grid.m_rebuilds;
+    if (m_grid.m_rebuilds++ == 0)
+        m_grid.beginResetModel();
 }
 
 SpreadModel::Rebuild::~Rebuild()
 {
-    if (--m_grid.m_rebuilds > 0)
-        return;
-    if (m_columns != m_grid.columns() || m_headers.size() != m_grid.m_headers.size()
-        || m_rows != m_grid.rows()) {
-        m_grid.beginResetModel();
+    if (--m_grid.m_rebuilds == 0)
         m_grid.endResetModel();
-        return;
-    }
-    // A board that is loaded again mostly has the rows that it had.
-    if (m_headers != m_grid.m_headers)
-        emit m_grid.headerDataChanged(Qt::Horizontal, 0, m_grid.columns());
-    if (m_grid.rows() > 0)
-        emit m_grid.dataChanged(m_grid.index(0, 0),
-                                m_grid.index(m_grid.rows() - 1, m_grid.columns()));
 }
 
 void SpreadModel::setup(int columns, int headers)

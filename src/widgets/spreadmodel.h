@@ -33,12 +33,10 @@ public:
     /// One cell of a header row, with the number of columns it spans.
     struct HeaderCell
     {
-        QString text;
+        QString text = {};
         Qt::Alignment alignment = Qt::AlignCenter;
         bool bold = false;
         int span = 1;
-
-        bool operator==(const HeaderCell &) const = default;
     };
 
     class Rebuild;
@@ -114,7 +112,7 @@ private:
 bool allEmpty(std::span<const SpreadModel> grids);
 
 /// Writes a grid anew: views hear of it once, when this goes, also when an error ends the work half
-/// way; a grid that keeps its shape keeps its active row. Without it they hear of each cell.
+/// way. Without it they hear of each cell.
 class SpreadModel::Rebuild
 {
 public:
@@ -124,7 +122,4 @@ public:
 
 private:
     SpreadModel &m_grid;
-    int m_columns; ///< as they were before
-    QList<QList<HeaderCell>> m_headers;
-    int m_rows;
 };

@@ -8,6 +8,7 @@
 #include "widgets/workprogress.h"
 
 #include <QLabel>
+#include <QScrollBar>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +25,7 @@ private slots:
     void failedLoaderIsAbandonedAlone();
     void percentThatIsNoNumberKeepsTheMoney();
     void numberIsFoundOnBothTabs();
+    void reloadKeepsThePlace();
     void cutReloadsItsBoardAlone();
     void cutUnderTheFilterShowsTheWholeBook();
     void scanRunsBeforeTheStripGoes();
@@ -192,6 +194,20 @@ void Form3Test::numberIsFoundOnBothTabs()
     control<QLineEdit>("text1")->setText(u"  "_s);
     Hands::click(control<PushButton>("lvButtons_H3"));
     QCOMPARE(Hands::focus()->objectName(), u"text1"_s);
+}
+
+void Form3Test::reloadKeepsThePlace()
+{
+    m_ledger->run(u"WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i + 1 FROM n WHERE i < 299)"
+                  " INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy)"
+                  " SELECT 1, 3, -1, 1, i, 1 FROM n"_s);
+    static_cast<Form3 *>(form())->FReLoad();
+    grid(1)->setActiveRow(3);
+    grid(1)->verticalScrollBar()->setValue(100);
+    m_ledger->run(u"UPDATE tblNumber SET numBuy = 2 WHERE numValue = '299'"_s);
+    static_cast<Form3 *>(form())->FReLoad();
+    QCOMPARE(grid(1)->activeRow(), 3);
+    QCOMPARE(grid(1)->verticalScrollBar()->value(), 100);
 }
 
 void Form3Test::cutReloadsItsBoardAlone()

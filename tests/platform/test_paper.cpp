@@ -29,7 +29,7 @@ namespace {
 constexpr int PaperHeight = 16838;
 
 /// A report of as many rows as it is told, with a header of @p header twips and rows of @p row;
-/// a hidden label makes its footer @p footer high.
+/// a label without a text makes its footer @p footer high.
 class PlainReport : public Report
 {
 public:
@@ -39,13 +39,7 @@ public:
                   {{ReportSection::PageHeader, u"title"_s, {0, 0, 900, header}},
                    {ReportSection::Detail, u"field"_s, {0, 0, 900, row - 20}},
                    {ReportSection::Detail, u"rule"_s, {0, row, 900, 0}, ReportControl::Line},
-                   {ReportSection::PageFooter,
-                    u"end"_s,
-                    {0, 10, 900, footer - 10},
-                    ReportControl::Text,
-                    {},
-                    u"end"_s,
-                    false}}}),
+                   {ReportSection::PageFooter, u"end"_s, {0, 10, 900, footer - 10}}}}),
           m_rows(rows)
     {}
 
@@ -138,7 +132,7 @@ void PaperTest::rowsBreakIntoPages_data()
     QTest::newRow("one row") << 1 << 500 << 10 << 1 << 1;
     QTest::newRow("a page filled to the twip") << 10 << room - 4010 << 10 << 1 << 10;
     QTest::newRow("one twip too little") << 10 << room - 4009 << 10 << 2 << 1;
-    QTest::newRow("a hidden footer takes its room") << 10 << room - 4010 << 400 << 2 << 1;
+    QTest::newRow("an empty footer takes its room") << 10 << room - 4010 << 400 << 2 << 1;
     QTest::newRow("many pages") << 1000 << room - 9610 << 10 << 42 << 16;
 }
 
