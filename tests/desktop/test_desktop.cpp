@@ -64,7 +64,7 @@ private:
 } // namespace
 #endif
 
-class PlatformTest : public QObject
+class DesktopTest : public QObject
 {
     Q_OBJECT
 
@@ -79,7 +79,7 @@ private slots:
     void unhandledErrorIsReportedThenAllIsClosed();
 };
 
-void PlatformTest::gridKeepsItsRowsInOrder()
+void DesktopTest::gridKeepsItsRowsInOrder()
 {
     SpreadModel grid;
     const QAbstractItemModelTester tellsViewsTheTruth(
@@ -102,7 +102,7 @@ void PlatformTest::gridKeepsItsRowsInOrder()
     QCOMPARE(grid.text(-999, 2), QString());
 }
 
-void PlatformTest::datesOfTheRegion_data()
+void DesktopTest::datesOfTheRegion_data()
 {
     QTest::addColumn<QString>("region");
     QTest::addColumn<QString>("shortForm");
@@ -115,7 +115,7 @@ void PlatformTest::datesOfTheRegion_data()
         << u"en_US"_s << u"11/22/2026"_s << u"Sunday, November 22, 2026"_s;
 }
 
-void PlatformTest::datesOfTheRegion()
+void DesktopTest::datesOfTheRegion()
 {
     QFETCH(QString, region);
     const QDate day(2026, 11, 22);
@@ -123,7 +123,7 @@ void PlatformTest::datesOfTheRegion()
     QTEST(longDate(day, QLocale(region)), "longForm");
 }
 
-void PlatformTest::regionIsThatOfDates()
+void DesktopTest::regionIsThatOfDates()
 {
 #ifdef Q_OS_WIN
     const QDate day(2026, 11, 2);
@@ -160,7 +160,7 @@ void PlatformTest::regionIsThatOfDates()
 #endif
 }
 
-void PlatformTest::keysAreKnownByTheirPlace_data()
+void DesktopTest::keysAreKnownByTheirPlace_data()
 {
     QTest::addColumn<int>("key");
     QTest::addColumn<quint32>("place");
@@ -197,7 +197,7 @@ void PlatformTest::keysAreKnownByTheirPlace_data()
     row("a letter where it says nothing", Qt::Key_A, 0, 0, 0);
 }
 
-void PlatformTest::keysAreKnownByTheirPlace()
+void DesktopTest::keysAreKnownByTheirPlace()
 {
     QFETCH(int, key);
     QFETCH(quint32, place);
@@ -218,7 +218,7 @@ void PlatformTest::keysAreKnownByTheirPlace()
     QTEST(keyCode(QKeyEvent(QEvent::KeyPress, key, {}, place, symbol, 0)), "code");
 }
 
-void PlatformTest::driveRootGetsNoSecondSlash()
+void DesktopTest::driveRootGetsNoSecondSlash()
 {
     setProgramFolder(u"/srv/desk"_s);
     QCOMPARE(programFile(u"data/x"_s), u"/srv/desk/data/x"_s);
@@ -227,7 +227,7 @@ void PlatformTest::driveRootGetsNoSecondSlash()
     setProgramFolder({});
 }
 
-void PlatformTest::unhandledErrorIsReportedThenAllIsClosed()
+void DesktopTest::unhandledErrorIsReportedThenAllIsClosed()
 {
     const BoxScript script;
     QStringList closed;
@@ -241,5 +241,5 @@ void PlatformTest::unhandledErrorIsReportedThenAllIsClosed()
     QCOMPARE(script.boxes().first().title, u"Mirakla Desk"_s);
 }
 
-QTEST_MAIN(PlatformTest)
-#include "test_platform.moc"
+QTEST_MAIN(DesktopTest)
+#include "test_desktop.moc"
