@@ -9,8 +9,8 @@
 #include "faults/faults.h"
 #include "faults/rawpages.h"
 #include "faults/victim.h"
-#include "ledger/ledger.h"
 #include "ledger/emptyledger.h"
+#include "ledger/ledger.h"
 
 #include <QElapsedTimer>
 #include <QThread>

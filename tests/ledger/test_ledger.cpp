@@ -2,8 +2,8 @@
 // The Ledger file: what it takes to open it, that nothing in it is shown to strangers, and the
 // helpers that all rooms share. Damage is done to it among the faults.
 #include "desktop/programfolder.h"
-#include "ledger/ledger.h"
 #include "ledger/emptyledger.h"
+#include "ledger/ledger.h"
 #include "runtime/runtimeerror.h"
 #include "shell/globals.h"
 #include "support/boxscript.h"
