@@ -2,8 +2,8 @@
 #include "support/testledger.h"
 
 #include "desktop/programfolder.h"
-#include "ledger/ledger.h"
 #include "ledger/emptyledger.h"
+#include "ledger/ledger.h"
 
 #include <QDir>
 #include <QProcess>
