@@ -50,6 +50,8 @@ QString writeInto(const QString &folder, const Database &file, const QFileInfo &
         Database copy(path, Database::Access::Write);
         copy.setKey(password);
         copy.configure();
+        copy.execute(
+            "PRAGMA journal_mode = MEMORY"); // a copy that fails is removed, with nothing left
         file.copyTo(copy);
     } catch (const RunTimeError &) {
         QFile::remove(path);
