@@ -24,21 +24,20 @@ inline constexpr QLatin1StringView TelephoneField("Mber");
 inline constexpr QLatin1StringView PercentField("MPercen");
 
 /// Fills the list, in Thai order, with the customers whose name holds @p part; "" lists all. Gives
-/// their number. Uses RecordsetA.
+/// how many they are.
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress);
 
 /// Number of customers of that name, letters without regard to case. The name goes into the
 /// statement as it stands: an apostrophe in it breaks the statement, which raises DatabaseFailure.
-/// Uses RecordsetA.
 int countCustomersNamed(const QString &name);
 
-/// Adds a customer under the next key. Uses both slots.
+/// Adds a customer under the next key.
 void addCustomer(const Customer &customer);
 
-/// Changes one column of a customer, to the trimmed @p text. Uses RecordsetA.
+/// Changes one column of a customer, to the trimmed @p text.
 void changeCustomer(qint32 key, const QString &column, const QString &text);
 
-/// True if a line of this draw, in the book or laid off, names the customer. Uses RecordsetA.
+/// True if a line of this draw, in the book or laid off, names the customer.
 bool hasLines(qint32 key);
 
 /// Deletes a customer. The caller has to make sure that he has no lines.

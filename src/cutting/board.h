@@ -30,7 +30,7 @@ using BoardLines = std::vector<NumberMoney>;
 BoardLines readBoard(const BetClass &betClass);
 
 /// Numbers of one customer in all classes. Blanks around the name are ignored; wild cards in it
-/// count. All eight boards of a filter come from this one statement. Uses RecordsetA.
+/// count. All eight boards of a filter come from this one statement.
 std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
 
 /// Discount percent of the customer whom a name keyed in part finds: the one with the lowest key.

@@ -27,7 +27,7 @@ public:
     bool isEmpty() const; ///< true while nothing is listed
 
     /// Load one list: straight, tod, run, in each the longer numbers first. Raise "Overflow" when
-    /// a total leaves 32 bits. Use RecordsetA.
+    /// a total leaves 32 bits.
     void LoadNumcutup(ProgressBar &progress) { load(0, true, progress); }
     void LoadNumcutdown(ProgressBar &progress) { load(1, false, progress); }
 

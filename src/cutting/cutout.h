@@ -34,14 +34,14 @@ public:
     SpreadModel grid; ///< its rows are told when they are looked at
 
     /// Lists the lines, the biggest first, with their sum in the header. Raises "Overflow" when
-    /// that leaves 32 bits, "Invalid use of Null" for a line without money. Uses RecordsetA.
+    /// that leaves 32 bits, "Invalid use of Null" for a line without money.
     void LoadNumrunup();
 
     /// The line in a row. Raises "Type mismatch" for one without money.
     CutLine lineAt(int row) const;
 
     /// Moves @p amount, at most the line's own, from tblNumber to tblNumberCut, first out of the
-    /// one and then into the other. What takes the whole line removes it. Uses both recordsets.
+    /// one and then into the other. What takes the whole line removes it.
     void cut(const CutLine &line, qint32 amount);
 
     /// Takes the line in a row out of the book for good, also one without money.

@@ -19,8 +19,7 @@ public:
     QString Label21 = QStringLiteral("0"); ///< profit after it, a loss with a leading minus
     Book book = Book::Ours;
 
-    /// Reads the discounts of all tickets saved up to now. Whatever fails, they count as 0. Uses
-    /// RecordsetA.
+    /// Reads the discounts of all tickets saved up to now. Whatever fails, they count as 0.
     void readDiscounts();
 
     /// Empties the grid.
@@ -33,7 +32,7 @@ public:
     /// a winner the discounts are taken off the profit, with winners they are not. A check of the
     /// lines cut out keeps nothing unless it finds no winner; then it keeps zeros. Raises "Type
     /// mismatch" where a payout of 0 is halved or summed, "Overflow" beyond 32 bits, with what was
-    /// done up to then standing. Uses both slots.
+    /// done up to then standing.
     void LoadnumberT(const ResultDigits &digits, ProgressBar &progress);
 
 private:

@@ -11,7 +11,7 @@
 /// Ground of what pays half because of a hot number: a number on the board, a winner's money.
 inline constexpr QRgb HotColor = 0xD79F9E;
 
-/// The hot numbers, the one entered first in front. Uses RecordsetB.
+/// The hot numbers, the one entered first in front.
 QStringList readHotNumbers();
 
 /// Hot numbers, ready to be asked about any bet.

@@ -21,12 +21,12 @@ std::optional<TicketCustomer> ticketCustomer(const QString &name);
 /// The spelling under which a tod number of 3 or 2 digits is filed: the lowest rearrangement of
 /// its digits that the Ledger holds in that class, since a tod bet pays on any order and all
 /// bets of a family should stand together; else the number as keyed. Lines of customers that no
-/// longer exist do not count. Uses RecordsetA.
+/// longer exist do not count.
 QString todSpelling(const QString &number);
 
 /// Writes one bet line for each row of the grids, for the customer named by @p customer, row by
 /// row: each is durable before the next is begun, and there is no way back. Raises RunTimeError
-/// with the rows written up to then kept. Uses both slots.
+/// with the rows written up to then kept.
 void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progress);
 
 /// Writes the ticket's discount money, given as its "#,##" text. An empty text writes nothing.

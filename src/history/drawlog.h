@@ -14,7 +14,7 @@ inline constexpr int LogPayoutColumn = 5;
 inline constexpr int LogProfitColumn = 6;
 
 /// Lists all closed draws, the newest day first, of one day the one closed last. The money shows
-/// as "#,##", so that no payout is an empty cell. Uses RecordsetA.
+/// as "#,##", so that no payout is an empty cell.
 void Loaddata(SpreadModel &grid, ProgressBar &progress);
 
 /// Takes the draw of this key out of the history.

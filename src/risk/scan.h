@@ -32,8 +32,7 @@ public:
     /// Fills the grid with the risky numbers of a side: those with the most related lines first,
     /// of equal ones that with the most money. The money of hot numbers is halved. If the book
     /// cannot be read the grid stays empty; without the hot numbers nothing is halved. False if
-    /// something is bought on that side and nothing of it is risky. Shows the progress of the
-    /// fill. Uses both recordsets.
+    /// something is bought on that side and nothing of it is risky. Shows the progress.
     bool run(bool updown, ProgressBar &progress);
 
 private:

@@ -13,13 +13,13 @@ inline constexpr int HotTodColumn = 3;    ///< its orders: pay half when bet in 
 /// on this screen. "-" for equal digits, "" for a number that has not two or three digits.
 QString hotTodForm(const QString &number);
 
-/// Fills the list, the newest number first. Uses RecordsetA.
+/// Fills the list, the newest number first.
 void listHotNumbers(SpreadModel &list);
 
-/// True if the list holds exactly that text; 21 may stand beside 12. Uses RecordsetA.
+/// True if the list holds exactly that text; 21 may stand beside 12.
 bool isHotNumber(const QString &number);
 
-/// Puts a number on the list; raises "Overflow" for a key beyond 16 bits. Uses both slots.
+/// Puts a number on the list; raises "Overflow" for a key beyond 16 bits.
 void addHotNumber(const QString &number);
 
 /// Take one number or all from the list.

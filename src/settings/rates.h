@@ -9,9 +9,9 @@
 /// Texts of the eight rates in the order of RateColumns.
 using RateTexts = std::array<QString, RateColumns.size()>;
 
-/// The rates as stored; nothing without their row. Uses RecordsetA.
+/// The rates as stored; nothing without their row.
 std::optional<RateTexts> readRates();
 
 /// Stores the rates. Raises "Type mismatch" for a text that is no number, "Overflow" beyond 16
-/// bits, before anything is written. Uses RecordsetA.
+/// bits, before anything is written.
 void writeRates(const RateTexts &rates);

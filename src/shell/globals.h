@@ -25,5 +25,5 @@ inline constexpr quint8 FromTopScan = 2;
 inline constexpr quint8 FromBottomScan = 3;
 
 /// Reads the eight rates from tblMoney. Without its one row they stay as they were. Raises
-/// "Overflow" for a rate above 32,767. Uses RecordsetA.
+/// "Overflow" for a rate above 32,767.
 void LoadMoney();
