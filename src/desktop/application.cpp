@@ -14,9 +14,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Type that lies beside the program. The portable folder carries it for machines that have no Thai
-/// letters; elsewhere the type is the machine's.
-void takeCarriedType()
+/// Loads the fonts shipped in `fonts/`. The portable folder has them for machines without a Thai
+/// font; elsewhere the folder is missing and the installed fonts are used.
+void loadShippedFonts()
 {
     const QDir folder(programFile(u"fonts"_s));
     const QStringList files = folder.entryList({u"*.ttf"_s}, QDir::Files);
@@ -24,9 +24,9 @@ void takeCarriedType()
         QFontDatabase::addApplicationFont(folder.filePath(file));
 }
 
-/// Chooses the style that the sheet is drawn for. Before the application stands, or it would first
-/// load the desktop's.
-int &withStyle(int &argc)
+/// Selects Fusion, which the style sheet is made for. Called before QApplication is constructed,
+/// since that would first load the desktop's own style.
+int &withFusionStyle(int &argc)
 {
     QApplication::setStyle(u"Fusion"_s);
     return argc;
@@ -34,14 +34,14 @@ int &withStyle(int &argc)
 
 } // namespace
 
-Application::Application(int &argc, char **argv) : QApplication(withStyle(argc), argv)
+Application::Application(int &argc, char **argv) : QApplication(withFusionStyle(argc), argv)
 {
     setApplicationName(u"mirakla-desk"_s);
-    takeCarriedType();
-    // Latin digits and Thai letters of one design; of symbols the arrows on keys.
-    QFont type(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s, u"Noto Sans Symbols"_s});
-    type.setPointSize(11);
-    setFont(type);
+    loadShippedFonts();
+    // Noto Sans matches Noto Sans Thai; the symbols are the arrows in button texts.
+    QFont font(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s, u"Noto Sans Symbols"_s});
+    font.setPointSize(11);
+    setFont(font);
     setBoxShower(showMessageBox);
     setSaveDialog(showSaveDialog);
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The application object: hands out events, and ends the program with a report when a handler
-// lets a run-time error rise.
+// The application object. Ends the program with a report when a handler does not catch a
+// run-time error.
 #pragma once
 
 #include <QApplication>
@@ -10,10 +10,10 @@ class Application : public QApplication
     Q_OBJECT
 
 public:
-    /// Sets the program's name, style and type, and real windows as the message boxes.
+    /// Sets the program's name, style and font, and shows boxes and the save dialog as windows.
     Application(int &argc, char **argv);
 
-    /// Catches run-time errors where events are handed out, nested dialogs included, since none
-    /// may cross the toolkit.
+    /// Delivers an event. Catches run-time errors here, in nested event loops too, since no
+    /// exception may pass through Qt.
     bool notify(QObject *receiver, QEvent *event) override;
 };

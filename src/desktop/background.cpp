@@ -15,5 +15,5 @@ void setBackground(QWidget *widget, QRgb color)
         return;
     widget->setAutoFillBackground(true);
     for (auto *label : widget->findChildren<QLabel *>())
-        label->setPalette(colors); // where a style sheet is set they inherit no colours
+        label->setPalette(colors); // under a style sheet they do not inherit the palette
 }

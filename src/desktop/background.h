@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Fixed colours of fields and boxes, readable on every desktop.
+// Fixed background colours that stay readable on a dark desktop.
 #pragma once
 
 #include <QColor>
 
 class QWidget;
 
-/// Gives a field or a box a fixed background, and with it a dark text, whatever the desktop's
-/// colours are. Labels in a box take its text colour.
+/// Gives a field or a frame a fixed background and black text, regardless of the desktop's
+/// palette. Labels inside a frame get the same colours.
 void setBackground(QWidget *widget, QRgb color);

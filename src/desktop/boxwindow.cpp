@@ -30,27 +30,27 @@ QMessageBox::Icon iconOf(BoxIcon icon)
     return QMessageBox::NoIcon;
 }
 
-/// A box may come up under the pointer between the two halves of a double click. It takes a press
-/// of the mouse only once the double-click interval has passed since it was painted.
+/// A box may appear under the pointer between the two clicks of a double click. Its buttons ignore
+/// the mouse until the double-click interval has passed since the box was painted.
 class BoxWindow : public QMessageBox
 {
 public:
     using QMessageBox::QMessageBox;
 
-    /// To be called when all buttons are there.
+    /// Call this after all buttons have been added.
     void guardButtons()
     {
         const QList<QAbstractButton *> all = buttons();
         for (QAbstractButton *button : all) {
             button->installEventFilter(this);
-            button->setFocusPolicy(Qt::TabFocus); // a press that is not taken moves no focus either
+            button->setFocusPolicy(Qt::TabFocus); // an ignored click must not move the focus
         }
     }
 
 protected:
     bool event(QEvent *event) override
     {
-        if (event->type() == QEvent::Paint) // queued: painting may be slow, and does not count
+        if (event->type() == QEvent::Paint) // queued, so that slow painting does not count
             QMetaObject::invokeMethod(this, &BoxWindow::appeared, Qt::QueuedConnection);
         return QMessageBox::event(event);
     }
@@ -61,7 +61,7 @@ protected:
         if (!doubled && event->type() != QEvent::MouseButtonPress)
             return QMessageBox::eventFilter(object, event);
         const bool firstPress = !std::exchange(m_pressed, true);
-        return (doubled && firstPress) // the first half went elsewhere, however long ago
+        return (doubled && firstPress) // the first click went to another window
                || !m_sinceShown.isValid()
                || !m_sinceShown.hasExpired(QApplication::doubleClickInterval());
     }
@@ -69,7 +69,7 @@ protected:
 private:
     void appeared()
     {
-        if (!m_sinceShown.isValid()) // painted for the first time
+        if (!m_sinceShown.isValid())
             m_sinceShown.start();
     }
 
@@ -81,7 +81,7 @@ private:
 
 BoxAnswer showMessageBox(const Box &box)
 {
-    // Of two boxes in a row the second comes before the desktop has made their opener active again.
+    // The second of two boxes in a row opens before the window manager has reactivated the parent.
     static QPointer<QWidget> opener;
     if (QWidget *active = QApplication::activeWindow())
         opener = active;
@@ -90,7 +90,7 @@ BoxAnswer showMessageBox(const Box &box)
     window.setWindowModality(Qt::ApplicationModal);
     window.setIcon(iconOf(box.style.icon));
     window.setWindowTitle(box.title);
-    window.setTextFormat(Qt::PlainText); // a name may hold "<"
+    window.setTextFormat(Qt::PlainText); // a name may contain "<"
     window.setText(box.text);
     const bool question = box.style.buttons == BoxButtons::OkCancel;
     window.setStandardButtons(question ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
@@ -99,6 +99,6 @@ BoxAnswer showMessageBox(const Box &box)
     window.guardButtons();
     const bool accepted = window.exec() == QMessageBox::Ok;
     if (opener)
-        opener->activateWindow(); // a desktop without a window manager leaves it without keys
+        opener->activateWindow(); // nothing else does so without a window manager
     return accepted || !question ? BoxAnswer::Ok : BoxAnswer::Cancel;
 }

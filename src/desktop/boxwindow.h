@@ -4,7 +4,7 @@
 
 #include "desktop/msgbox.h"
 
-/// Shows @p box over the active window and waits until it is answered. Esc and closing the
-/// window count as Cancel in a question. A button takes the mouse only if it is pressed later than
-/// the double-click interval after the box appeared; keys work at once.
+/// Shows @p box modally over the active window and returns its answer. Esc and closing the window
+/// count as Cancel in a question. Buttons ignore the mouse during the double-click interval after
+/// the box appeared; keys work at once.
 BoxAnswer showMessageBox(const Box &box);

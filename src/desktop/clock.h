@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Today's date and time, with a seam for tests.
+// The current date and time. Tests can replace the clock.
 #pragma once
 
 #include <QDateTime>
@@ -8,8 +8,8 @@
 
 using Clock = std::function<QDateTime()>;
 
-/// Sets the clock and gives back the one before; an empty one means the machine's own.
+/// Sets the clock and returns the previous one. An empty function means the system clock.
 Clock setClock(Clock clock);
 
-/// What the clock says now, in local time.
+/// Returns the clock's date and time, for the system clock in local time.
 QDateTime currentDateTime();

@@ -7,11 +7,11 @@
 
 namespace {
 
-/// Makes a window that is larger than the screen smaller, and puts the @p share th part of the
-/// free height above it.
+/// Shrinks a window that is larger than the screen and leaves 1/@p share of the free height above
+/// it.
 void place(QWidget &window, int share)
 {
-    constexpr QSize WindowFrame(8, 40); // there is none to ask before the window is shown
+    constexpr QSize WindowFrame(8, 40); // the real one is known only after show()
     const QRect desktop = window.screen()->availableGeometry();
     window.resize(window.size().boundedTo(desktop.size() - WindowFrame));
     const QSize spare = desktop.size() - WindowFrame - window.size();

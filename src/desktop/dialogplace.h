@@ -1,18 +1,17 @@
 // SPDX-License-Identifier: MIT
-// Where the program's windows come up, and where the keys go when a dialog closes.
+// Positions of the program's windows, and the focus after a dialog closes.
 #pragma once
 
 class QDialog;
 class QWidget;
 
-/// Places a window, frame and all, in the middle of the screen. One that is larger than the screen
-/// is made smaller.
+/// Centres a window with its frame on the screen. A window larger than the screen is shrunk.
 void centerWindow(QWidget &window);
 
-/// Places a dialog in the middle of the screen's width, with a third of the free height above it.
-/// One that is larger than the screen is made smaller.
+/// Centres a dialog horizontally, with a third of the free height above it. A dialog larger than
+/// the screen is shrunk.
 void placeDialog(QWidget &dialog);
 
-/// Shows a dialog modally over its parent; gives what it came to. The parent's window has the keys
-/// again afterwards, also on a desktop without a window manager.
+/// Shows a dialog modally and returns its QDialog::exec() result. Activates the parent's window
+/// afterwards, since nothing else does so without a window manager.
 int runDialog(QDialog &dialog);

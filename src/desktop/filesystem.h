@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
-// What Qt does not say of files and folders: whether a path still leads to the same file, and
-// whether a folder may be written to.
+// File system calls that Qt does not offer: whether a path still leads to the same file, write
+// permission, and syncing a folder.
 //
-// Paths are those of QFile::encodeName(), since these functions are called for each row of a save.
+// Paths are encoded by QFile::encodeName(). The caller does that once, since these functions are
+// called for each row of a save.
 #pragma once
 
 #include <QByteArray>
 
-/// A file, whatever its name. Two files that exist at the same time never have the same.
+/// Identifies a file independently of its name. No two existing files have the same id.
 struct FileId
 {
     quint64 volume = 0;
@@ -16,15 +17,17 @@ struct FileId
     bool operator==(const FileId &) const = default;
 };
 
-/// The file that @p path leads to; all 0 if there is none.
+/// Returns the id of the file at @p path, or one of zeros if there is none or it cannot be read.
 FileId fileIdAt(const QByteArray &path);
 
-/// False if @p path leads to another file than @p id or to none. True also where that cannot be
-/// found out, for example on a drive that does not answer: reading and writing will fail there.
+/// Returns false if the file at @p path is missing or is not @p id. Returns true if that cannot be
+/// determined, for example on a drive that does not answer: reading and writing fail there anyway.
 bool leadsTo(const QByteArray &path, const FileId &id);
 
-/// What the permissions of a file or folder say. Windows does not say it of folders.
+/// Checks the write permission of a file or folder. Under Windows folders always count as
+/// writable.
 bool mayBeWritten(const QByteArray &path);
 
-/// Makes new and renamed files of a folder survive a power cut. Windows does that by itself.
+/// Makes new and renamed files in a folder survive a power cut. Does nothing under Windows, which
+/// needs no call for that.
 void syncFolder(const QByteArray &folder);

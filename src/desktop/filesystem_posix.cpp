@@ -10,7 +10,7 @@
 
 namespace {
 
-/// Nothing where it cannot be found out.
+/// Returns a FileId of zeros if there is no file, std::nullopt if that cannot be determined.
 std::optional<FileId> findFile(const QByteArray &path)
 {
     struct stat found;

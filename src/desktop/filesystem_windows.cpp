@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // SQLite opens its files without FILE_SHARE_DELETE, so Windows keeps them from being deleted or
-// replaced while they are open. A server that a shared folder lies on need not.
+// replaced while they are open. The server of a network share may still allow it.
 #include "desktop/filesystem.h"
 
 #include <QFileInfo>
@@ -11,7 +11,7 @@
 
 namespace {
 
-/// Nothing where it cannot be found out.
+/// Returns a FileId of zeros if there is no file, std::nullopt if that cannot be determined.
 std::optional<FileId> findFile(const QByteArray &path)
 {
     const std::wstring name = QFile::decodeName(path).toStdWString();

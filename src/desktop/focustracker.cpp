@@ -10,8 +10,9 @@
 
 namespace {
 
-/// True for windows that stand in front of a form for a moment without taking its place.
-bool isPassing(const QWidget *window)
+/// Returns true for windows that take the focus only for a moment: the control behind them still
+/// counts as focused.
+bool isTransient(const QWidget *window)
 {
     return window->windowType() == Qt::Popup || qobject_cast<const QMessageBox *>(window)
            || qobject_cast<const QFileDialog *>(window);
@@ -27,10 +28,10 @@ FocusTracker::FocusTracker(QObject *parent)
 
 void FocusTracker::focusMoved(QWidget *, QWidget *to)
 {
-    if (!to || to == m_current || isPassing(to->window()))
+    if (!to || to == m_current || isTransient(to->window()))
         return;
-    // Focus also moves with no event being handed out. As an event of its own the move reaches
-    // its handlers where the run-time errors that they raise are caught.
+    // The focus may also change outside of Application::notify(). Sending an event makes sure that
+    // the handlers run inside it, where their run-time errors are caught.
     m_left = std::exchange(m_current, to);
     QEvent moved(QEvent::User);
     QCoreApplication::sendEvent(this, &moved);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The focus as this trade's forms know it: it moves only from one control of the program to
-// another. A message box, a menu or another program's window takes no control's focus away.
+// Tracks the focus as the forms need it: it moves only between controls of the program. A message
+// box, a file dialog, a menu or another program's window does not take it away.
 #pragma once
 
 #include <QObject>
@@ -26,5 +26,5 @@ private:
     void focusMoved(QWidget *from, QWidget *to);
 
     QPointer<QWidget> m_current; ///< has the focus, also while a box or another program is in front
-    QPointer<QWidget> m_left;
+    QPointer<QWidget> m_left;    ///< lost it last
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The desktop's keyboard: which layout is active, and the state of its locks. One file for each
-// kind of desktop.
+// The keyboard of the operating system: active layout, lock keys and native key codes.
+// Implemented once for X11 and once for Windows.
 #pragma once
 
 #include <QByteArray>
@@ -8,19 +8,21 @@
 
 namespace desktop {
 
-/// Id of the active layout as eight hexadecimal characters, "00000409" for US English; empty
-/// where the desktop does not tell.
+/// Returns the id of the active layout as eight hexadecimal digits, such as "00000409" for US
+/// English. Empty if it is unknown.
 QByteArray keyboardLayoutName();
 
-/// Asks the desktop to activate a layout. What became of it, keyboardLayoutName() tells.
+/// Requests a layout. There is no error: check keyboardLayoutName() afterwards.
 void loadKeyboardLayout(const QByteArray &id);
 
-/// State of the lock keys; false where the desktop does not tell.
+/// Returns true while Caps Lock is on; false if its state is unknown.
 bool capsLock();
+
+/// Returns true while Num Lock is on; false if its state is unknown.
 bool numLock();
 
-/// Code of a key, as keyCode() counts them, from what the desktop's event says of it; 0 for a
-/// key that has none there, -1 where the event says nothing.
+/// Returns the code of a key, as listed at keyCode(), from the native values of its event: 0 for a
+/// key without a code, -1 if the event has no native values, as a synthetic one.
 int nativeKeyCode(quint32 scanCode, quint32 virtualKey);
 
 } // namespace desktop

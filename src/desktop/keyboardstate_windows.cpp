@@ -9,7 +9,7 @@
 namespace desktop {
 namespace {
 
-/// The desktop counts its keys as keyCode() does; these are the ones that have a code.
+/// keyCode() uses the virtual-key codes of Windows, but only these.
 struct KeyRange
 {
     quint32 first;

@@ -13,7 +13,7 @@
 namespace desktop {
 namespace {
 
-/// The X server's connection, or nothing under another windowing system.
+/// Returns the connection to the X server, or nullptr on another platform.
 Display *xDisplay()
 {
     const auto *x11 =
@@ -21,12 +21,11 @@ Display *xDisplay()
     return x11 ? x11->display() : nullptr;
 }
 
-/// Layouts of the keymap in the order of its groups, such as "us", "th".
+/// Returns the layouts of the keymap, such as "us", "th", in the order of its XKB groups.
 QByteArrayList keymapLayouts(Display *display)
 {
-    // The server keeps what its keymap was made from as five texts, each ended by a zero:
-    // rules, model, layouts, variants, options.
-    constexpr qsizetype LayoutsText = 2;
+    // The property has five zero-terminated strings: rules, model, layouts, variants, options.
+    constexpr qsizetype LayoutsAt = 2;
     Atom type = None;
     int format = 0;
     unsigned long length = 0;
@@ -41,7 +40,7 @@ QByteArrayList keymapLayouts(Display *display)
         return {};
     const QByteArray all(reinterpret_cast<const char *>(text), qsizetype(length));
     XFree(text);
-    return all.split('\0').value(LayoutsText).split(',');
+    return all.split('\0').value(LayoutsAt).split(',');
 }
 
 struct KnownLayout
@@ -51,9 +50,8 @@ struct KnownLayout
 };
 constexpr std::array KnownLayouts{KnownLayout{"00000409", "us"}, KnownLayout{"0000041E", "th"}};
 
-/// Places of the digit row and its minus on every keyboard, whatever their layout: 1 to 9, then
-/// 0, then minus.
-constexpr quint32 FirstDigitPlace = 10;
+/// The scan codes of the digit row are the same in every layout: 1 to 9, then 0, then minus.
+constexpr quint32 FirstDigitScanCode = 10;
 constexpr std::array DigitRowCodes{49, 50, 51, 52, 53, 54, 55, 56, 57, 48, 189};
 
 struct SymbolCode
@@ -122,10 +120,10 @@ int nativeKeyCode(quint32 scanCode, quint32 virtualKey)
 {
     if (scanCode == 0 && virtualKey == 0)
         return -1;
-    // Symbols of the digit row change with layout and shift, its places do not; the other way
-    // round on the key pad, where Num Lock decides between digits and arrows.
-    if (scanCode >= FirstDigitPlace && scanCode < FirstDigitPlace + DigitRowCodes.size())
-        return DigitRowCodes[scanCode - FirstDigitPlace];
+    // In the digit row, layout and Shift change the symbol, so the scan code decides. On the keypad
+    // Num Lock switches between digits and arrows, so the symbol decides.
+    if (scanCode >= FirstDigitScanCode && scanCode < FirstDigitScanCode + DigitRowCodes.size())
+        return DigitRowCodes[scanCode - FirstDigitScanCode];
     if (virtualKey >= XK_F1 && virtualKey <= XK_F12)
         return int(virtualKey - XK_F1) + 112;
     if (virtualKey >= XK_KP_0 && virtualKey <= XK_KP_9)

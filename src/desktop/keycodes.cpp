@@ -12,7 +12,7 @@ namespace {
 constexpr int CtrlEnter = 10;
 constexpr int CtrlBackspace = 127;
 
-/// Characters of the keys that the toolkit gives no usable text for; -1 for all others.
+/// Returns the character codes of keys whose QKeyEvent::text() cannot be used, -1 for all others.
 int namedKeyCode(int key, bool ctrl)
 {
     switch (key) {
@@ -44,7 +44,7 @@ constexpr std::array NamedKeys{
     NamedKey{Qt::Key_Delete, 46}, NamedKey{Qt::Key_Control, 17},
 };
 
-/// Code of a key by the toolkit's name of it.
+/// Returns the code of a Qt::Key, or 0.
 int codeOfNamedKey(int key)
 {
     if (key >= Qt::Key_0 && key <= Qt::Key_9)
@@ -67,7 +67,7 @@ int characterCode(const QKeyEvent &key)
     const int named = namedKeyCode(key.key(), ctrl);
     if (named >= 0)
         return named;
-    if (ctrl != alt) { // both together are AltGr, which gives plain characters
+    if (ctrl != alt) { // both together are AltGr, which types plain characters
         const bool letter = key.key() >= Qt::Key_A && key.key() <= Qt::Key_Z;
         return ctrl && letter ? key.key() - Qt::Key_A + 1 : 0;
     }

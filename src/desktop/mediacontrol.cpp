@@ -11,13 +11,13 @@
 
 namespace {
 
-// As the recordings are, so that nothing is converted on the way. The buffer is short: an echo
-// that comes later than the next key disturbs.
+// The format of the recordings, so that nothing is converted. The buffer is short, since a word
+// must not come later than the next key.
 constexpr int SamplesPerSecond = 48000;
 constexpr int BufferSamples = 512;
 constexpr int OnlyChannel = 0;
 
-/// The sound device of the process.
+/// The sound device, shared by all controls.
 struct Device
 {
     Device()
@@ -38,15 +38,15 @@ struct Device
     bool open = false;
 };
 
-/// The device, once it could be opened.
+/// Null until the device could be opened.
 std::unique_ptr<Device> device;
 
 } // namespace
 
 struct MediaControl::Sound
 {
-    /// True with an open device. Tries to open it once: a machine without sound must not be
-    /// asked again with each key.
+    /// Returns true if the device is open. Tries to open it only once, since the attempt would
+    /// delay every key on a machine without sound.
     bool haveDevice()
     {
         if (!device && !std::exchange(tried, true)) {
@@ -73,12 +73,12 @@ void MediaControl::Command(MediaCommand command)
     Mix_Chunk *&chunk = m_sound->chunk;
     switch (command) {
     case MediaCommand::Close:
-        Mix_FreeChunk(chunk); // stops it first where it still sounds
+        Mix_FreeChunk(chunk); // stops it if it is still playing
         chunk = nullptr;
         break;
     case MediaCommand::Open:
         if (QFile::exists(FileName) && m_sound->haveDevice())
-            chunk = Mix_LoadWAV(FileName.toUtf8().constData()); // its files are named in UTF-8
+            chunk = Mix_LoadWAV(FileName.toUtf8().constData()); // SDL expects UTF-8
         break;
     case MediaCommand::Play:
         if (chunk)

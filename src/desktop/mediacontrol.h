@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Plays one sound file at a time. A machine without sound, a missing file, a broken one: silence,
-// and never a word about it.
+// Plays one sound file at a time through SDL_mixer. Without a sound device, or with a missing or
+// damaged file, it stays silent and reports nothing.
 #pragma once
 
 #include <QString>
@@ -8,13 +8,13 @@
 #include <memory>
 
 enum class MediaCommand {
-    Close, ///< lets go of the file and cuts off its sound
+    Close, ///< closes the file and stops its sound
     Open,  ///< opens the file named by FileName
-    Play   ///< starts it from its beginning and returns
+    Play   ///< starts it from its beginning and returns at once
 };
 
-/// The sound device is opened with the first file and not before; each new control tries anew
-/// where there was none.
+/// Plays the file named by FileName. The sound device is opened with the first file. A control that
+/// found no device does not try again; a new control does.
 class MediaControl
 {
 public:
@@ -22,14 +22,15 @@ public:
     ~MediaControl(); ///< closes the file
     Q_DISABLE_COPY_MOVE(MediaControl)
 
-    // How commands behave on desktops whose player works in another process: no word when a sound
-    // has ended, each command done when it returns, the device open to others.
+    // Options of a player that runs in another process. They have no effect here: SDL_mixer sends
+    // no notification, completes each command before it returns, and shares the device.
     bool Notify = false;
     bool Wait = true;
     bool Shareable = true;
 
-    QString FileName;
+    QString FileName; ///< path of the file that Open opens
 
+    /// Runs a command; does nothing if it cannot.
     void Command(MediaCommand command);
 
 private:

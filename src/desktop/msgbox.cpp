@@ -18,7 +18,7 @@ BoxShower setBoxShower(BoxShower shower)
 
 BoxAnswer MsgBox(const QString &text, const BoxStyle &style, const QString &title)
 {
-    Q_ASSERT_X(boxShower, "MsgBox", "a program that asks must set who shows boxes");
+    Q_ASSERT_X(boxShower, "MsgBox", "setBoxShower() was not called");
     return boxShower({text, style, title});
 }
 

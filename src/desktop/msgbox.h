@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-// Message boxes, the one way in which the program speaks up. Logic asks here; who shows the box,
-// a real window or a prepared answer of a test, is set from outside.
+// Message boxes. Code without windows calls these functions too: what shows a box, a window or a
+// test with prepared answers, is set by setBoxShower().
 #pragma once
 
 #include <QString>
 
 #include <functional>
 
-/// The program's own title: of the main window's boxes and of boxes that name none.
+/// Title of boxes that are given no other.
 inline constexpr QStringView ProgramTitle = u"Mirakla Desk";
 
 enum class BoxButtons { Ok, OkCancel };
 enum class BoxIcon { None, Critical, Question, Exclamation, Information };
 enum class BoxAnswer { Ok, Cancel };
 
-/// How a box looks: its buttons, its icon, and which button Enter presses.
+/// Buttons and icon of a box, and the button that Enter presses.
 struct BoxStyle
 {
     BoxButtons buttons = BoxButtons::Ok;
@@ -22,7 +22,7 @@ struct BoxStyle
     BoxAnswer preselected = BoxAnswer::Ok;
 };
 
-/// One box as asked for. The text is plain: "<" and "&" in a name stand for themselves.
+/// Content of a box. The text is plain text, so "<" and "&" in a name are shown as they are.
 struct Box
 {
     QString text;
@@ -30,21 +30,21 @@ struct Box
     QString title;
 };
 
-/// Shows a box and gives the button that closed it.
+/// Shows a box and returns the button that closed it.
 using BoxShower = std::function<BoxAnswer(const Box &)>;
 
-/// Sets who shows boxes and gives back who did so before. The program sets real windows.
+/// Sets what shows boxes and returns the previous function. Application sets showMessageBox().
 BoxShower setBoxShower(BoxShower shower);
 
-/// Shows a modal box and waits for its answer. Closing a question without an answer is Cancel.
+/// Shows a modal box and returns its answer. Closing a question without an answer means Cancel.
 BoxAnswer MsgBox(const QString &text, const BoxStyle &style = {},
                  const QString &title = ProgramTitle.toString());
 
-/// A refusal or status box: one OK button, warning icon, titled "รายงานสถานะ".
+/// Shows a refusal or a status with one OK button, the warning icon and the title "รายงานสถานะ".
 void refuse(const QString &text);
 
-/// A status box with the information icon, titled "รายงานสถานะ".
+/// Shows a status with one OK button, the information icon and the title "รายงานสถานะ".
 void inform(const QString &text);
 
-/// A question with OK and Cancel; true on OK. An action starts only on OK.
+/// Asks a question with OK and Cancel. Returns true on OK.
 bool ask(const QString &text, const QString &title, BoxIcon icon, BoxAnswer preselected);

@@ -11,7 +11,7 @@ namespace {
 
 std::vector<std::function<void()>> closers;
 
-// Not std::exit(): Qt's globals would be destroyed under the living windows.
+// Not std::exit(): it would destroy Qt's globals while windows still exist.
 ProgramEnder programEnder = [](int status) { std::_Exit(status); };
 
 } // namespace
@@ -34,7 +34,7 @@ void endProgram(int status)
         resumeNext(closer);
     }
     programEnder(status);
-    std::abort(); // an ender that returns would let a half-done handler go on
+    std::abort(); // if the ender returned, an unfinished handler would go on
 }
 
 void endWithReport(const RunTimeError &error)

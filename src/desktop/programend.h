@@ -1,25 +1,26 @@
 // SPDX-License-Identifier: MIT
-// The end of the program from the middle of its work: everything durable is closed, then the
-// process is gone, with no question and no handler run on the way.
+// Ends the program from inside a handler: closes what has to be closed, then ends the process
+// without asking and without running another handler.
 #pragma once
 
 #include "runtime/runtimeerror.h"
 
 #include <functional>
 
-/// Has @p closer run when the program ends by endProgram(). Closers run newest first.
+/// Registers a function that endProgram() calls, in reverse order of registration. A run-time
+/// error in it is ignored.
 void atProgramEnd(std::function<void()> closer);
 
-/// What takes the process away, given the exit status.
+/// Ends the process with an exit status.
 using ProgramEnder = std::function<void(int status)>;
 
-/// Sets what ends the process and gives back what did so before. Only tests set one; theirs
-/// throws, since code behind endProgram() must not run.
+/// Sets what ends the process and returns the previous function. Only tests set one. It has to
+/// throw, since code after endProgram() must not run.
 ProgramEnder setProgramEnder(ProgramEnder ender);
 
-/// Runs the closers and ends the process at once with @p status.
+/// Calls the registered functions and ends the process with @p status.
 [[noreturn]] void endProgram(int status);
 
-/// Ends the program because of an error that no handler passed over: shows the report with the
-/// critical icon, closes the Ledger and ends with status 1.
+/// Shows the report of an uncaught run-time error with the critical icon, then ends the program
+/// with status 1.
 [[noreturn]] void endWithReport(const RunTimeError &error);

@@ -1,16 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The folder that the program lies in. All its files stand below it, so the data travels with
-// the program.
+// The folder of the executable. All files of the program are below it, so that the folder can be
+// moved or copied as a whole.
 #pragma once
 
 #include <QString>
 
-/// The program's folder, or the one that a test set, without any slash added.
+/// Returns the folder of the executable, or the one that a test has set.
 QString programFolder();
 
-/// Has the program look for its files below @p folder; an empty text undoes that.
+/// Makes the program look for its files below @p folder. An empty text restores the default. For
+/// tests and benchmarks.
 void setProgramFolder(const QString &folder);
 
-/// Path of a file below the program's folder. @p relativePath has no leading slash; a folder
-/// that ends in a slash, a drive's root, gets no second one.
+/// Returns the path of a file below the program's folder. @p relativePath has no leading slash. A
+/// folder that ends in a slash, such as the root of a drive, gets no second one.
 QString programFile(const QString &relativePath);

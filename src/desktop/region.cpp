@@ -13,12 +13,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-std::optional<QLocale> givenRegion;
+std::optional<QLocale> regionOfTests;
 
 bool countsBuddhistEra(const QLocale &region)
 {
 #ifdef Q_OS_WIN
-    // The user of a Thai desktop may have chosen the other calendar.
+    // A Thai user may have chosen the Gregorian calendar.
     DWORD calendar = 0;
     if (region == QLocale::system()
         && GetLocaleInfoEx(LOCALE_NAME_USER_DEFAULT, LOCALE_ICALENDARTYPE | LOCALE_RETURN_NUMBER,
@@ -30,20 +30,20 @@ bool countsBuddhistEra(const QLocale &region)
     return region.territory() == QLocale::Thailand;
 }
 
-/// Stands for the year while the toolkit writes the rest of a date: it knows neither the era nor, in
-/// some regions' short formats, more than two digits of the year.
+/// Placeholder for the year while QLocale formats the rest of a date. QLocale does not know the
+/// Buddhist era, and some short formats have only two digits of the year.
 constexpr QChar YearMark(0xE000);
 
-/// A date format with the mark for its year. Quotes hold words, with any letters in them.
+/// Replaces the year in a date format by the mark. A "y" inside quotes is literal text and stays.
 QString withYearMark(const QString &format)
 {
     QString marked;
     bool quoted = false;
-    for (const QChar sign : format) {
-        if (sign == u'\'')
+    for (const QChar letter : format) {
+        if (letter == u'\'')
             quoted = !quoted;
-        if (quoted || sign != u'y')
-            marked += sign;
+        if (quoted || letter != u'y')
+            marked += letter;
         else if (!marked.endsWith(YearMark))
             marked += YearMark;
     }
@@ -63,10 +63,10 @@ QString dateText(QDate day, const QLocale &region, QLocale::FormatType type)
 
 QLocale machineRegion()
 {
-    if (givenRegion)
-        return *givenRegion;
+    if (regionOfTests)
+        return *regionOfTests;
 #ifndef Q_OS_WIN
-    // The toolkit takes the format from one variable and the territory from another.
+    // QLocale::system() takes the date format and the territory from different variables.
     for (const char *variable : {"LC_ALL", "LC_TIME", "LANG"}) {
         const QString name = qEnvironmentVariable(variable);
         if (!name.isEmpty())
@@ -78,7 +78,7 @@ QLocale machineRegion()
 
 void setMachineRegion(const QLocale &region)
 {
-    givenRegion = region;
+    regionOfTests = region;
 }
 
 QString shortDate(QDate day, const QLocale &region)
@@ -94,6 +94,6 @@ QString longDate(QDate day, const QLocale &region)
 QString shortTime(QTime time, const QLocale &region)
 {
     QString format = region.timeFormat(QLocale::ShortFormat);
-    static const QRegularExpression seconds(u"[.:]s+"_s); // some regions' short format has them
+    static const QRegularExpression seconds(u"[.:]s+"_s); // some short formats have them
     return region.toString(time, format.remove(seconds));
 }

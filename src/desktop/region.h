@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Dates and times as people of the machine's region read them. Under a Thai region the year is
+// Dates and times in the format of the machine's region. Under a Thai region years are those of
 // the Buddhist era (2569 for 2026), as on a Thai desktop.
 #pragma once
 
@@ -8,17 +8,17 @@
 #include <QString>
 #include <QTime>
 
-/// The region that the machine writes dates in.
+/// Returns the region whose date format the machine uses.
 QLocale machineRegion();
 
-/// Has machineRegion() give @p region: for tests.
+/// Makes machineRegion() return @p region. For tests.
 void setMachineRegion(const QLocale &region);
 
-/// Day, month and full year in the region's short order, such as "22/11/2569".
+/// Returns a date in the region's short format with the full year, such as "22/11/2569".
 QString shortDate(QDate day, const QLocale &region = machineRegion());
 
-/// The region's long date, with the name of the month.
+/// Returns a date in the region's long format, with the name of the month.
 QString longDate(QDate day, const QLocale &region = machineRegion());
 
-/// Hours and minutes as the region writes them.
+/// Returns hours and minutes in the region's format.
 QString shortTime(QTime time, const QLocale &region = machineRegion());

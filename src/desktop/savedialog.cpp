@@ -18,7 +18,7 @@ QString showSaveDialog(const SaveRequest &request)
     dialog.setObjectName(u"cd1"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setOption(QFileDialog::DontConfirmOverwrite);
-    // Without the dot: from "*.xls" the dialog of Windows would take an ending and add it.
+    // "*xls" instead of "*.xls", from which the Windows dialog would append ".xls" by itself.
     dialog.setNameFilter(u'*' + request.extension.mid(1));
     dialog.selectFile(request.preset);
     if (runDialog(dialog) != QDialog::Accepted || dialog.selectedFiles().isEmpty())

@@ -4,7 +4,7 @@
 
 #include "desktop/savefile.h"
 
-/// Asks over the active window, first in the user's documents, then in the folder picked last.
-/// It adds no ending and asks about no existing file: both are for the one who knows the file's
-/// final name.
+/// Shows the dialog over the active window and returns the chosen path, or "" on Cancel. Starts in
+/// the user's documents folder, later in the last chosen folder. Neither appends an extension nor
+/// asks before overwriting: the caller does both, since only it knows the final file name.
 QString showSaveDialog(const SaveRequest &request);

@@ -18,7 +18,7 @@ SaveDialog setSaveDialog(SaveDialog dialog)
 
 QString askForFileName(const SaveRequest &request)
 {
-    Q_ASSERT_X(saveDialog, "askForFileName", "a program that saves must set who asks");
+    Q_ASSERT_X(saveDialog, "askForFileName", "setSaveDialog() was not called");
     return saveDialog(request);
 }
 

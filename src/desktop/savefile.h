@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Saving under a name that the user picks: who asks for it, and how bytes get onto the disk.
+// Saving a file under a name that the user chooses.
 #pragma once
 
 #include <QByteArray>
@@ -7,22 +7,24 @@
 
 #include <functional>
 
-/// What a save dialog is asked for.
+/// Parameters of a save dialog.
 struct SaveRequest
 {
     QString title;
-    QString extension; ///< of the files that it lists, with its dot
-    QString preset;    ///< file name to begin with, without an ending
+    QString extension; ///< of the files that it lists, with the dot
+    QString preset;    ///< initial file name, without an extension
 };
 
-/// Asks for a file name; gives it with its folder and as typed, nothing added, or "" on Cancel.
+/// Asks for a file name. Returns the full path as the user typed it, or "" on Cancel.
 using SaveDialog = std::function<QString(const SaveRequest &)>;
 
-/// Sets who asks and gives back who did so before. The program sets a real dialog.
+/// Sets what asks for a file name and returns the previous function. Application sets
+/// showSaveDialog().
 SaveDialog setSaveDialog(SaveDialog dialog);
 
-/// Asks by the dialog that was set.
+/// Asks for a file name with the function set by setSaveDialog().
 QString askForFileName(const SaveRequest &request);
 
-/// Writes a file as a whole or not at all: on failure false, and what stood there stays.
+/// Writes a file completely or not at all. Returns false on failure; an existing file is then
+/// unchanged.
 bool saveFile(const QString &path, const QByteArray &bytes);

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Guard against a second copy of the program on this machine, since two copies would keep two
-// books of one draw.
+// Prevents a second copy of the program on the same machine, since two copies would keep two books
+// of one draw.
 #pragma once
 
-/// Takes the machine's one place for a running copy and keeps it to the end of the process.
-/// False while another copy holds it; a copy that was killed holds nothing. Where the desktop
-/// cannot tell, on a full disk say, true: the lock on the Ledger keeps the book from a second copy
-/// all the same.
+/// Takes the lock of the only running copy until the process ends, also if it is killed. Returns
+/// false while another copy has it. Returns true if the lock cannot be created, for example on a
+/// full disk: the exclusive lock on the Ledger still protects the book.
 bool becomeOnlyInstance();
 
-/// Gives the place up ahead of the end of the process, so that another may have it.
+/// Releases the lock before the process ends.
 void leaveOnlyInstance();

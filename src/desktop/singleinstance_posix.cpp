@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool isOnlyInstance = false;
-int place = -1; ///< the locked file; -1 also where none can be had
+int lockFile = -1; ///< -1 also if it could not be opened
 
 } // namespace
 
@@ -24,24 +24,25 @@ bool becomeOnlyInstance()
 {
     if (isOnlyInstance)
         return true;
-    // The lock is on the open file and goes with the process, so the file itself stays and is
-    // empty. Reading is enough to lock: the file may be another user's.
+    // The lock belongs to the open file and ends with the process; the empty file itself stays.
+    // flock() needs no write access, so the file may belong to another user.
     const QByteArray path = QFile::encodeName(QDir::temp().filePath(u"mirakla-desk.lock"_s));
     constexpr mode_t ReadableByAll = 0444;
-    place = open(path.constData(), O_RDONLY | O_CLOEXEC);
-    if (place < 0) {
-        place = open(path.constData(), O_RDONLY | O_CLOEXEC | O_CREAT, ReadableByAll);
-        fchmod(place, ReadableByAll); // whatever the user's mask takes off
+    lockFile = open(path.constData(), O_RDONLY | O_CLOEXEC);
+    if (lockFile < 0) {
+        lockFile = open(path.constData(), O_RDONLY | O_CLOEXEC | O_CREAT, ReadableByAll);
+        fchmod(lockFile, ReadableByAll); // the umask may have cleared bits
     }
-    isOnlyInstance = place < 0 || flock(place, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    isOnlyInstance =
+        lockFile < 0 || flock(lockFile, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
     if (!isOnlyInstance)
-        close(place);
+        close(lockFile);
     return isOnlyInstance;
 }
 
 void leaveOnlyInstance()
 {
-    if (isOnlyInstance && place >= 0)
-        close(place);
+    if (isOnlyInstance && lockFile >= 0)
+        close(lockFile);
     isOnlyInstance = false;
 }

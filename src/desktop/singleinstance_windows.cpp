@@ -5,30 +5,30 @@
 
 namespace {
 
-HANDLE place = nullptr;
+HANDLE mutex = nullptr;
 
 } // namespace
 
 bool becomeOnlyInstance()
 {
-    if (place)
+    if (mutex)
         return true;
-    // It stands for the whole machine and goes with the process. Where another user's copy holds
-    // it, it may not even be opened.
-    place = CreateMutexW(nullptr, FALSE, L"Global\\mirakla-desk");
+    // "Global\\" makes it visible to all users of the machine. It ends with the process. Opening
+    // one that belongs to another user's copy may be denied.
+    mutex = CreateMutexW(nullptr, FALSE, L"Global\\mirakla-desk");
     const DWORD error = GetLastError();
-    if (!place)
+    if (!mutex)
         return error != ERROR_ACCESS_DENIED;
     if (error != ERROR_ALREADY_EXISTS)
         return true;
-    CloseHandle(place);
-    place = nullptr;
+    CloseHandle(mutex);
+    mutex = nullptr;
     return false;
 }
 
 void leaveOnlyInstance()
 {
-    if (place)
-        CloseHandle(place);
-    place = nullptr;
+    if (mutex)
+        CloseHandle(mutex);
+    mutex = nullptr;
 }
