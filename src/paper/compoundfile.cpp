@@ -11,12 +11,12 @@ namespace {
 
 constexpr qsizetype SectorSize = 512;
 constexpr qsizetype SmallestStream = 4096;
-constexpr qsizetype LinksPerSector = SectorSize / 4;
-constexpr qsizetype TableSectorsInHeader = 109;
+constexpr qsizetype EntriesPerSector = SectorSize / 4;
+constexpr qsizetype FatSectorsInHeader = 109;
 
-// Links that are no sector's number.
-constexpr quint32 ListSector = 0xfffffffc;
-constexpr quint32 TableSector = 0xfffffffd;
+// FAT entries that are not sector numbers.
+constexpr quint32 DifatSector = 0xfffffffc;
+constexpr quint32 FatSector = 0xfffffffd;
 constexpr quint32 EndOfChain = 0xfffffffe;
 constexpr quint32 Unused = 0xffffffff;
 
@@ -25,52 +25,54 @@ qsizetype sectorsFor(qsizetype items, qsizetype itemsPerSector)
     return (items + itemsPerSector - 1) / itemsPerSector;
 }
 
-/// Which sectors hold what: the content, the directory, the table of links, and the list of the
-/// table's sectors as far as the header has no room for it.
+/// Number and order of the sectors: the content, the directory, the FAT, and the DIFAT, which lists
+/// the FAT sectors beyond the 109 that the header lists.
 struct Sectors
 {
     qsizetype content;
-    qsizetype table = 1;
-    qsizetype list = 0;
+    qsizetype fat = 1;
+    qsizetype difat = 0;
 
     explicit Sectors(qsizetype bytes) : content(sectorsFor(bytes, SectorSize))
     {
-        while (table * LinksPerSector < all()) {
-            table = sectorsFor(all(), LinksPerSector);
-            list = sectorsFor(std::max<qsizetype>(0, table - TableSectorsInHeader),
-                              LinksPerSector - 1);
+        while (fat * EntriesPerSector < all()) {
+            fat = sectorsFor(all(), EntriesPerSector);
+            difat =
+                sectorsFor(std::max<qsizetype>(0, fat - FatSectorsInHeader), EntriesPerSector - 1);
         }
     }
 
     qsizetype directory() const { return content; }
-    qsizetype firstTable() const { return content + 1; }
-    qsizetype firstList() const { return firstTable() + table; }
-    qsizetype all() const { return content + 1 + table + list; }
+    qsizetype firstFat() const { return content + 1; }
+    qsizetype firstDifat() const { return firstFat() + fat; }
+    qsizetype all() const { return content + 1 + fat + difat; }
 };
 
-void writeLinks(QDataStream &out, qsizetype count, quint32 link)
+void writeEntries(QDataStream &out, qsizetype count, quint32 value)
 {
     for (qsizetype i = 0; i < count; ++i)
-        out << link;
+        out << value;
 }
 
-/// Numbers of the table's sectors from the @p from-th on, filled up to @p count links.
-void writeTableNumbers(QDataStream &out, const Sectors &sectors, qsizetype from, qsizetype count)
+/// Writes the sector numbers of the FAT from the @p from-th on, padded to @p count entries.
+void writeFatSectorNumbers(QDataStream &out, const Sectors &sectors, qsizetype from,
+                           qsizetype count)
 {
     for (qsizetype at = from; at < from + count; ++at)
-        out << (at < sectors.table ? quint32(sectors.firstTable() + at) : Unused);
+        out << (at < sectors.fat ? quint32(sectors.firstFat() + at) : Unused);
 }
 
 void writeHeader(QDataStream &out, const Sectors &sectors)
 {
-    constexpr quint64 Mark = 0xe11ab1a1e011cfd0;
-    out << Mark << quint64(0) << quint64(0); // no class
+    constexpr quint64 Signature = 0xe11ab1a1e011cfd0;
+    out << Signature << quint64(0) << quint64(0); // no class id
     out << quint16(0x3e) << quint16(3) << quint16(0xfffe) << quint16(9) << quint16(6);
     out << quint16(0) << quint32(0) << quint32(0);
-    out << quint32(sectors.table) << quint32(sectors.directory()) << quint32(0);
+    out << quint32(sectors.fat) << quint32(sectors.directory()) << quint32(0);
     out << quint32(SmallestStream) << EndOfChain << quint32(0);
-    out << (sectors.list > 0 ? quint32(sectors.firstList()) : EndOfChain) << quint32(sectors.list);
-    writeTableNumbers(out, sectors, 0, TableSectorsInHeader);
+    out << (sectors.difat > 0 ? quint32(sectors.firstDifat()) : EndOfChain)
+        << quint32(sectors.difat);
+    writeFatSectorNumbers(out, sectors, 0, FatSectorsInHeader);
 }
 
 void writeEntry(QDataStream &out, const QString &name, quint8 type, quint32 child, quint32 start,
@@ -82,7 +84,7 @@ void writeEntry(QDataStream &out, const QString &name, quint8 type, quint32 chil
         out << (i < name.size() ? name[i].unicode() : char16_t(0));
     const auto nameBytes = quint16(name.isEmpty() ? 0 : (name.size() + 1) * 2);
     out << nameBytes << type << Black << Unused << Unused << child;
-    writeLinks(out, 9, 0); // class, state, times
+    writeEntries(out, 9, 0); // class id, state, times
     out << start << size;
 }
 
@@ -97,22 +99,22 @@ void writeDirectory(QDataStream &out, const QString &name, qsizetype size)
     writeEntry(out, {}, Empty, Unused, 0, 0);
 }
 
-void writeTable(QDataStream &out, const Sectors &sectors)
+void writeFat(QDataStream &out, const Sectors &sectors)
 {
     for (qsizetype at = 1; at < sectors.content; ++at)
-        out << quint32(at);          // each sector of the content is followed by the next
-    out << EndOfChain << EndOfChain; // the content's last, the directory
-    writeLinks(out, sectors.table, TableSector);
-    writeLinks(out, sectors.list, ListSector);
-    writeLinks(out, sectors.table * LinksPerSector - sectors.all(), Unused);
+        out << quint32(at);          // the content is contiguous
+    out << EndOfChain << EndOfChain; // of the content and of the directory
+    writeEntries(out, sectors.fat, FatSector);
+    writeEntries(out, sectors.difat, DifatSector);
+    writeEntries(out, sectors.fat * EntriesPerSector - sectors.all(), Unused);
 }
 
-void writeList(QDataStream &out, const Sectors &sectors)
+void writeDifat(QDataStream &out, const Sectors &sectors)
 {
-    for (qsizetype at = 0; at < sectors.list; ++at) {
-        const qsizetype from = TableSectorsInHeader + at * (LinksPerSector - 1);
-        writeTableNumbers(out, sectors, from, LinksPerSector - 1);
-        out << (at + 1 < sectors.list ? quint32(sectors.firstList() + at + 1) : EndOfChain);
+    for (qsizetype at = 0; at < sectors.difat; ++at) {
+        const qsizetype from = FatSectorsInHeader + at * (EntriesPerSector - 1);
+        writeFatSectorNumbers(out, sectors, from, EntriesPerSector - 1);
+        out << (at + 1 < sectors.difat ? quint32(sectors.firstDifat() + at + 1) : EndOfChain);
     }
 }
 
@@ -130,7 +132,7 @@ QByteArray compoundFile(const QString &name, QByteArray content)
     writeHeader(out, sectors);
     out.writeRawData(content.constData(), int(content.size()));
     writeDirectory(out, name, size);
-    writeTable(out, sectors);
-    writeList(out, sectors);
+    writeFat(out, sectors);
+    writeDifat(out, sectors);
     return file;
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The container that .xls sheets travel in: a file with a table of sectors of its own, like a
-// small disk.
+// Compound files, the container format of .xls sheets: a small file system of 512-byte sectors
+// within a file.
 #pragma once
 
 #include <QByteArray>
 #include <QString>
 
-/// A container with one stream, @p name of at most 31 letters, that holds @p content. Content
-/// below 4096 bytes is filled up with zeros: what is smaller would be kept another way.
+/// Returns a compound file with one stream @p name of at most 31 characters. Content below 4096
+/// bytes is padded with zeros, since smaller streams would need another kind of sector.
 QByteArray compoundFile(const QString &name, QByteArray content);

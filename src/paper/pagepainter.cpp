@@ -13,7 +13,7 @@ namespace {
 
 constexpr int TwipsPerPoint = 20;
 constexpr int RuleWidth = 10;   // lines and frames: half a point
-constexpr int RulingWidth = 15; // lines of the paper: one pixel of an ordinary screen
+constexpr int RulingWidth = 15; // ruling of the paper: one pixel at 96 dpi
 constexpr int Inset = 100;      // between a text and the edge of its control
 constexpr QRgb RulingColor = qRgb(128, 128, 128);
 
@@ -22,7 +22,7 @@ void drawWithPainter(QPainter &painter, QPointF baseline, const QString &text)
     painter.drawText(baseline, text);
 }
 
-/// Where a text of @p width stands in its control.
+/// Returns the left edge of a text of @p width in its control.
 double leftOf(const PageItem &item, double width)
 {
     const double room = item.box.width() - 2 * Inset;
@@ -46,7 +46,7 @@ void drawTextItem(QPainter &painter, const PageItem &item, const TextDrawer &dra
             QRectF(left, item.box.top(), std::min(width, room) + Inset, item.box.height()),
             Qt::white);
     }
-    if (width <= room) { // most do: a clip and a transform for each would double a file's length
+    if (width <= room) { // usual, and a clip for each text would double the size of a PDF
         drawText(painter, {std::round(leftOf(item, width)), baseline}, item.text);
         return;
     }
@@ -69,7 +69,7 @@ QFont reportFont(const TextStyle &style)
     QFont font(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s, u"Leelawadee UI"_s, u"Tahoma"_s});
     font.setPixelSize(style.points * TwipsPerPoint);
     font.setBold(style.bold);
-    font.setHintingPreference(QFont::PreferNoHinting); // lines break alike on every device
+    font.setHintingPreference(QFont::PreferNoHinting); // equal widths on every device
     return font;
 }
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Draws finished pages, the same way on screen, on paper and into a PDF file.
+// Draws finished pages for the screen, the printer and PDF files.
 #pragma once
 
 #include "paper/reportpage.h"
@@ -10,12 +10,12 @@
 
 class QPainter;
 
-/// Type of a report, in a coordinate system of twips.
+/// Returns the font of a text, sized for a coordinate system of twips.
 QFont reportFont(const TextStyle &style);
 
-/// Draws a text with its baseline beginning at a point.
+/// Draws a text whose baseline starts at the given point.
 using TextDrawer = std::function<void(QPainter &, QPointF, const QString &)>;
 
-/// Draws @p page. One unit of the painter's coordinate system is a twip and its origin the corner
-/// of the paper. @p drawText draws the texts where the painter's own way does not do.
+/// Draws @p page. The painter's coordinates are twips from the top left corner of the paper.
+/// @p drawText replaces QPainter::drawText(), for the text of PDF files.
 void drawPage(QPainter &painter, const ReportPage &page, const TextDrawer &drawText = {});

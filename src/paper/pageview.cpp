@@ -17,7 +17,7 @@ namespace {
 
 constexpr double TwipsPerInch = 1440;
 constexpr int Gap = 14;                 // around pages, in pixels
-constexpr int PicturesKept = 64 * 1024; // kilobytes
+constexpr int PicturesKept = 64 * 1024; // cost limit of the cache, in kilobytes
 
 } // namespace
 
@@ -25,7 +25,7 @@ PageView::PageView(QWidget *parent) : QAbstractScrollArea(parent), m_pictures(Pi
 {
     setFocusPolicy(Qt::StrongFocus);
     viewport()->setBackgroundRole(QPalette::Dark);
-    // Without this the width that pages fit would depend on the bar, and the bar on that width.
+    // With FitWidth the page size would depend on the visibility of the bar, and that on the size.
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
 }
 
@@ -70,7 +70,7 @@ int PageView::page() const
 {
     const QScrollBar &bar = *verticalScrollBar();
     if (bar.maximum() > 0 && bar.value() == bar.maximum())
-        return std::max(1, pageCount()); // several may be in sight, and none comes after them
+        return std::max(1, pageCount()); // also if pages before it are still visible
     const int inSight = bar.value() + viewport()->height() / 3;
     return std::clamp(inSight / pageStep() + 1, 1, std::max(1, pageCount()));
 }
@@ -104,7 +104,7 @@ QPixmap PageView::picture(int page) const
         return *kept;
     auto picture = std::make_unique<QPixmap>(pageSize() * devicePixelRatioF());
     picture->setDevicePixelRatio(devicePixelRatioF());
-    picture->fill(Qt::white); // paper is white on a dark desktop, too
+    picture->fill(Qt::white); // also on a dark desktop
     QPainter painter(picture.get());
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     painter.scale(scale(), scale());

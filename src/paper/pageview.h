@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Finished pages on screen, one below the other. Only what is in sight is drawn, so that the
-// first page of a long report is there at once.
+// Shows finished pages one below the other. Only visible pages are drawn, so that a long report
+// opens at once.
 #pragma once
 
 #include "paper/reportpage.h"
@@ -9,45 +9,47 @@
 #include <QCache>
 #include <QPixmap>
 
-/// The pages of one report at one zoom, with the place in it that is in sight.
+/// A scrollable view of the pages of one report.
 class PageView : public QAbstractScrollArea
 {
     Q_OBJECT
 
 public:
-    static constexpr int FitWidth = -1; ///< as a zoom: pages as wide as the view
+    static constexpr int FitWidth = -1; ///< a zoom that makes pages as wide as the view
     static constexpr int Smallest = 25; ///< percent
     static constexpr int Largest = 400; ///< percent
 
     explicit PageView(QWidget *parent = nullptr);
 
+    /// Shows a report from its first page.
     void setReport(const ReportPages &report);
     const ReportPages &report() const { return m_report; }
 
     Q_INVOKABLE int pageCount() const { return int(m_report.pages.size()); }
 
-    /// The page in sight, from 1: the one that reaches into the upper third of the view.
+    /// Returns the current page, from 1: the one at a third of the view's height, or the last page
+    /// if the view is scrolled to the end.
     Q_INVOKABLE int page() const;
 
-    /// Brings a page to the top; the nearest one if there is none of that number.
+    /// Scrolls a page to the top. A number out of range means the first or the last page.
     Q_INVOKABLE void goToPage(int page);
 
-    /// Goes back to the page before, also from the end of the report, where several pages may be in
-    /// sight and the one before the last is there already.
+    /// Goes to the previous page and always scrolls up: at the end of the report page() is the last
+    /// page, while the one before it may be visible already.
     void previousPage();
 
-    /// Percent at which pages are shown now, also while they fit the width.
+    /// Returns the current size in percent, also with FitWidth.
     Q_INVOKABLE int shownPercent() const;
 
-    /// Sets the zoom; the place in the report stays in sight. 25 to 400 percent, or FitWidth.
+    /// Sets the zoom, limited to 25 to 400 percent, or FitWidth. Keeps the position in the report.
     Q_INVOKABLE void setZoom(int percent);
 
-    /// A page as a picture of the size in which it is shown.
+    /// Returns a page as a picture in its current size.
     QPixmap picture(int page) const;
 
 signals:
-    void pageChanged(); ///< another page may be in sight
-    void zoomChanged(); ///< pages are shown at another size
+    void pageChanged(); ///< page() may have changed
+    void zoomChanged(); ///< shownPercent() may have changed
 
 protected:
     void paintEvent(QPaintEvent *event) override;
@@ -55,7 +57,7 @@ protected:
     void scrollContentsBy(int dx, int dy) override;
     void wheelEvent(QWheelEvent *event) override;
 
-    /// Page Up and Page Down turn pages; Home and End go to the first and the last.
+    /// Page Up and Page Down turn pages; Home and End go to the first and the last page.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
@@ -67,6 +69,6 @@ private:
 
     ReportPages m_report;
     int m_zoom = FitWidth;
-    int m_laidOutStep = 0; ///< from page to page when the pages were laid out last
+    int m_laidOutStep = 0; ///< pageStep() when the pages were laid out last
     mutable QCache<int, QPixmap> m_pictures;
 };

@@ -22,22 +22,21 @@ namespace {
 
 constexpr int TwipsPerInch = 1440;
 
-bool joinsTheLetterBefore(QChar letter)
+bool joinsPreviousLetter(QChar letter)
 {
     return letter.category() == QChar::Mark_NonSpacing || letter == QChar(u'ำ');
 }
 
-/// Where the part of @p text that begins at @p from ends: a letter with the marks that it
-/// carries, or as many letters without marks as there are.
+/// Returns the end of the part of @p text that starts at @p from: one letter with its marks, or a
+/// run of letters without marks.
 qsizetype partEnd(const QString &text, qsizetype from)
 {
     const auto marked = [&](qsizetype at) {
-        return at + 1 < text.size() && joinsTheLetterBefore(text[at + 1])
-               && !text[at].isSurrogate();
+        return at + 1 < text.size() && joinsPreviousLetter(text[at + 1]) && !text[at].isSurrogate();
     };
     qsizetype end = from + 1;
     if (marked(from)) {
-        while (end < text.size() && joinsTheLetterBefore(text[end]))
+        while (end < text.size() && joinsPreviousLetter(text[end]))
             ++end;
     } else {
         while (end < text.size() && !marked(end))
@@ -46,10 +45,11 @@ qsizetype partEnd(const QString &text, qsizetype from)
     return end;
 }
 
-/// Draws Thai text so that it can be copied. Thai type has variants of letters and marks for
-/// where they meet, and the writer knows only glyphs that stand for a letter by themselves: a
-/// variant would be copied as nothing. So marks, and variants of letters, are drawn as outlines,
-/// which no reader takes for text, and their letters laid over them unseen.
+/// Draws Thai text so that it can be copied from the PDF. Thai fonts have glyph variants for
+/// letters and marks that meet, but QPdfWriter maps only the glyphs of single characters back to
+/// text, so variants would be missing in a copy. Marks and variants are therefore drawn as outlines,
+/// which readers do not take for text, and the glyphs of the single characters over them,
+/// transparent.
 class CopyableText
 {
 public:
@@ -58,7 +58,7 @@ public:
         for (qsizetype from = 0, end = 0; from < text.size(); from = end) {
             end = partEnd(text, from);
             const Part &part = shaped(painter.font(), text.mid(from, end - from));
-            if (part.letters.isEmpty())
+            if (part.glyphs.isEmpty())
                 painter.drawText(at, text.mid(from, end - from));
             else
                 drawMarked(painter, at, part);
@@ -67,15 +67,15 @@ public:
     }
 
 private:
-    /// A part of a text as it is drawn; letters are told apart only where one carries marks.
+    /// A shaped part of a text. Without glyphs it is drawn as it is.
     struct Part
     {
         double width = 0;
         QRawFont font;
-        QList<quint32> letters; ///< as they stand in the type's table of letters
-        QList<QPointF> places;  ///< of the letters
+        QList<quint32> glyphs;    ///< of the single characters, not variants
+        QList<QPointF> positions; ///< of the glyphs
         QPainterPath outlines;
-        bool plainBase = false; ///< the first letter is drawn as text, not as an outline
+        bool plainBase = false; ///< the first glyph is drawn as visible text, not as an outline
     };
 
     const Part &shaped(const QFont &font, const QString &text)
@@ -94,20 +94,20 @@ private:
         Part part;
         part.width = std::round(QFontMetricsF(font).horizontalAdvance(text));
         const QList<QGlyphRun> runs = layout.glyphRuns();
-        const bool marked = text.size() > 1 && joinsTheLetterBefore(text[1]);
+        const bool marked = text.size() > 1 && joinsPreviousLetter(text[1]);
         if (!marked || runs.size() != 1 || !runs[0].rawFont().supportsCharacter(text[0]))
             return part;
         part.font = runs[0].rawFont();
-        part.letters = part.font.glyphIndexesForString(text);
-        part.places = placesOf(part, text);
-        part.plainBase = runs[0].glyphIndexes().first() == part.letters.first();
+        part.glyphs = part.font.glyphIndexesForString(text);
+        part.positions = positionsOf(part, text);
+        part.plainBase = runs[0].glyphIndexes().first() == part.glyphs.first();
         part.outlines.setFillRule(Qt::WindingFill);
         for (qsizetype i = part.plainBase ? 1 : 0; i < runs[0].glyphIndexes().size(); ++i) {
-            const QPointF place = runs[0].positions()[i] - QPointF(0, line.ascent());
+            const QPointF position = runs[0].positions()[i] - QPointF(0, line.ascent());
             part.outlines.addPath(
-                part.font.pathForGlyph(runs[0].glyphIndexes()[i]).translated(place));
+                part.font.pathForGlyph(runs[0].glyphIndexes()[i]).translated(position));
         }
-        roundToHalfTwips(part.outlines); // nobody sees less, and a long list is a third shorter
+        roundToHalfTwips(part.outlines); // makes the file of a long list a third smaller
         return part;
     }
 
@@ -119,20 +119,20 @@ private:
         }
     }
 
-    /// Readers sort letters by where they begin, so each mark begins a hair before the next
-    /// letter, and before the mark that follows it.
-    static QList<QPointF> placesOf(const Part &part, const QString &text)
+    /// Readers sort characters by position, so each mark starts a little before the next letter and
+    /// before the mark that follows it.
+    static QList<QPointF> positionsOf(const Part &part, const QString &text)
     {
-        const double hair = part.font.pixelSize() / 128;
-        const QList<QPointF> advances = part.font.advancesForGlyphIndexes(part.letters);
-        QList<QPointF> places;
+        const double offset = part.font.pixelSize() / 128;
+        const QList<QPointF> advances = part.font.advancesForGlyphIndexes(part.glyphs);
+        QList<QPointF> positions;
         QPointF at;
-        for (qsizetype i = 0; i < part.letters.size(); ++i) {
+        for (qsizetype i = 0; i < part.glyphs.size(); ++i) {
             const bool mark = text[i].category() == QChar::Mark_NonSpacing;
-            places += at - QPointF(mark ? hair * double(part.letters.size() - i) : 0, 0);
+            positions += at - QPointF(mark ? offset * double(part.glyphs.size() - i) : 0, 0);
             at += advances[i];
         }
-        return places;
+        return positions;
     }
 
     static void drawMarked(QPainter &painter, QPointF at, const Part &part)
@@ -140,20 +140,20 @@ private:
         const qsizetype first = part.plainBase ? 1 : 0;
         const QPen visible = painter.pen();
         painter.translate(at);
-        drawLetters(painter, part, 0, first);
+        drawGlyphs(painter, part, 0, first);
         painter.fillPath(part.outlines, visible.color());
         painter.setPen(QColor(0, 0, 0, 0));
-        drawLetters(painter, part, first, part.letters.size() - first);
+        drawGlyphs(painter, part, first, part.glyphs.size() - first);
         painter.setPen(visible);
         painter.translate(-at);
     }
 
-    static void drawLetters(QPainter &painter, const Part &part, qsizetype from, qsizetype count)
+    static void drawGlyphs(QPainter &painter, const Part &part, qsizetype from, qsizetype count)
     {
         QGlyphRun run;
         run.setRawFont(part.font);
-        run.setGlyphIndexes(part.letters.mid(from, count));
-        run.setPositions(part.places.mid(from, count));
+        run.setGlyphIndexes(part.glyphs.mid(from, count));
+        run.setPositions(part.positions.mid(from, count));
         painter.drawGlyphRun({0, 0}, run);
     }
 
@@ -176,8 +176,8 @@ QByteArray pdfOf(const ReportPages &report)
         writer.setCreator(u"Mirakla Desk"_s);
         QPainter painter(&writer);
         CopyableText text;
-        const TextDrawer drawText = [&](QPainter &on, QPointF at, const QString &letters) {
-            text.draw(on, at, letters);
+        const TextDrawer drawText = [&](QPainter &on, QPointF at, const QString &words) {
+            text.draw(on, at, words);
         };
         for (const ReportPage &page : report.pages) {
             if (&page != &report.pages.first())

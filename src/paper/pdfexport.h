@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Finished pages as a PDF file: A4, type embedded, every word searched and copied as written.
+// Finished pages as a PDF file: A4, with embedded fonts and text that can be searched and copied.
 #pragma once
 
 #include "paper/reportpage.h"
 
 #include <QByteArray>
 
-/// The file's bytes.
+/// Returns the content of the PDF file.
 QByteArray pdfOf(const ReportPages &report);

@@ -21,8 +21,9 @@ void refusePrinting()
     refuse(u"พิมพ์ไม่สำเร็จ โปรดตรวจสอบเครื่องพิมพ์ . . ."_s);
 }
 
-/// The pages asked for, counted from 0, in the order in which they leave the printer.
-QList<int> pagesAskedFor(const ReportPages &report, const QPrinter &printer)
+/// Returns the pages to print, counted from 0, in print order. Pages are repeated for copies that
+/// the printer cannot make.
+QList<int> pagesToPrint(const ReportPages &report, const QPrinter &printer)
 {
     const QPageRanges asked = printer.pageRanges();
     QList<int> pages;
@@ -44,14 +45,14 @@ void printWithDialog(const ReportPages &report, QWidget *parent)
 {
     QPrinter printer(QPrinter::HighResolution);
 #ifdef Q_OS_WIN
-    // Without any printer the desktop's dialog would stay away without a word.
+    // Without a printer the Windows dialog would not open, and nothing would be reported.
     if (printer.outputFormat() != QPrinter::NativeFormat) {
         refusePrinting();
         return;
     }
 #endif
-    // Each by itself: a printer that cannot print to the paper's edge would refuse a whole layout
-    // without margins, the orientation with it.
+    // Set one by one: a printer that cannot print up to the edge of the paper would reject a
+    // QPageLayout without margins, and the orientation with it.
     printer.setFullPage(true);
     printer.setPageSize(QPageSize(QPageSize::A4));
     printer.setPageOrientation(report.landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
@@ -66,7 +67,7 @@ void printWithDialog(const ReportPages &report, QWidget *parent)
 bool printPages(const ReportPages &report, QPrinter &printer)
 {
     printer.setFullPage(true); // the margins are in the pages
-    const QList<int> asked = pagesAskedFor(report, printer);
+    const QList<int> asked = pagesToPrint(report, printer);
     if (asked.isEmpty())
         return false;
     QPainter painter;

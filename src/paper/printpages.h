@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Finished pages on a printer.
+// Prints finished pages.
 #pragma once
 
 #include "paper/reportpage.h"
@@ -7,9 +7,10 @@
 class QPrinter;
 class QWidget;
 
-/// Lets the user pick a printer, pages and copies in the system's dialog, and prints.
+/// Lets the user choose a printer, pages and copies in the print dialog, then prints. Shows a box
+/// if printing fails.
 void printWithDialog(const ReportPages &report, QWidget *parent);
 
-/// Prints the pages that @p printer is set to, in its order, as often as it cannot by itself.
-/// Paper of another size gets the pages as large as it can hold. False if it cannot print.
+/// Prints the page range and copies set in @p printer, scaled to its paper. Returns false if
+/// printing fails or the range has no page.
 bool printPages(const ReportPages &report, QPrinter &printer);

@@ -48,7 +48,7 @@ void Report::drawPageLine(const QLine &line)
         ruling += line;
 }
 
-/// A section reaches down to the lowest edge of its controls, those without a text included.
+/// A section is as high as the lowest edge of its controls, including those without a text.
 int Report::sectionHeight(ReportSection section) const
 {
     int height = 0;

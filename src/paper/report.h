@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The page engine: runs a report and lays it out into finished pages, once.
+// Runs a report and lays it out as finished pages.
 #pragma once
 
 #include "paper/reportpage.h"
 
-/// A report: a layout, and the routines that fill it. The engine calls them; they set the texts
+/// A report: a layout and the routines that fill it. run() calls the routines, which set the texts
 /// of the layout's controls.
 class Report
 {
@@ -13,25 +13,26 @@ public:
     virtual ~Report() = default;
     Q_DISABLE_COPY_MOVE(Report)
 
-    /// Runs the report from its initialize routine to its end. A page carries the header and the
-    /// footer and as many rows as fit between them; without rows there is one page.
+    /// Runs the report and returns its pages. A page has the header, the footer and as many rows as
+    /// fit between them. A report without rows has one page.
     ReportPages run();
 
 protected:
+    /// Called once before the first row.
     virtual void ActiveReport_Initialize() = 0;
 
-    /// Moves to the next row; true when there is none.
+    /// Moves to the next row. Returns true if there is none.
     virtual bool ActiveReport_FetchData() = 0;
 
-    virtual void Detail_Format() = 0;
-    virtual void PageFooter_Format() {}
-    virtual void ActiveReport_ReportEnd() {}
+    virtual void Detail_Format() = 0;        ///< called before a row is placed
+    virtual void PageFooter_Format() {}      ///< called before the footer of a page is placed
+    virtual void ActiveReport_ReportEnd() {} ///< called once after the last page
 
-    /// Sets the text of a control. Its name must be in the layout.
+    /// Sets the text of a control, which must exist in the layout.
     void setText(const QString &name, const QString &text);
 
-    /// Draws a line on the page at hand, in coordinates of the paper. The same line again on the
-    /// same page leaves the page as it is.
+    /// Adds a line to the ruling of the current page, in coordinates of the paper, unless the page
+    /// has the same line already.
     void drawPageLine(const QLine &line);
 
 private:
@@ -42,5 +43,5 @@ private:
 
     ReportLayout m_layout;
     ReportPages m_pages;
-    int m_bottom = 0; ///< where the rows of the page at hand have come to, on the paper
+    int m_bottom = 0; ///< y of the next row on the current page
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a printed report is made of: controls placed in sections, and the finished pages that come
-// of them. All lengths are twips, 1/1440 inch.
+// The parts of a report: the layout with its controls in sections, and the finished pages. All
+// lengths are in twips, 1/1440 inch.
 #pragma once
 
 #include <QColor>
@@ -11,25 +11,25 @@
 
 enum class ReportSection { PageHeader, Detail, PageFooter };
 
-/// How a text stands in its control.
+/// Appearance of a text in its control.
 struct TextStyle
 {
     int points = 10;
     Qt::Alignment alignment = Qt::AlignLeft;
     bool bold = false;
-    /// True for a text that tells money: too long for its control, it is drawn narrower, since an
-    /// amount that lost a digit reads as another amount. Any other text is clipped.
+    /// Draws a text that is too wide for its control narrower instead of clipping it. For amounts,
+    /// since an amount that lost a digit reads as another amount.
     bool whole = false;
-    /// True for an amount alone, which a sheet takes as a number.
+    /// Marks a text that is only an amount, which a sheet stores as a number.
     bool amount = false;
-    /// True for a text that a line of the paper would run through: it stands on white.
+    /// Draws a white background, for a text that the ruling would run through.
     bool onWhite = false;
 
     bool operator==(const TextStyle &) const = default;
 };
 
-/// One label, field, line or frame of a layout. A line runs from the corner (left, top) to the
-/// corner (left + width, top + height). Left counts from the margin, top from the section's top.
+/// A label, field, line or frame of a layout. A line runs from (left, top) to (left + width, top +
+/// height). The box is relative to the left margin and to the top of the section.
 struct ReportControl
 {
     enum Kind { Text, Line, Frame };
@@ -39,18 +39,18 @@ struct ReportControl
     QRect box;
     Kind kind = Text;
     TextStyle style = {};
-    QString text = {}; ///< a text control without one is left out
+    QString text = {}; ///< without one a text control is not drawn
 };
 
-/// The paper and all that stands on it.
+/// Paper and controls of a report.
 struct ReportLayout
 {
-    QString title; ///< of the document, as a reader of the file shows it
+    QString title; ///< of the PDF document, the print job and the sheet
     bool landscape = false;
     QList<ReportControl> controls;
 };
 
-/// What one control became on one page; the box counts from the paper's corner.
+/// A control as drawn on one page. The box is relative to the corner of the paper.
 struct PageItem
 {
     ReportSection section;
@@ -64,21 +64,21 @@ struct PageItem
 /// One finished page.
 struct ReportPage
 {
-    QList<QLine> ruling;   ///< lines drawn on the paper itself, beneath all else
-    QList<PageItem> items; ///< those of a section stand together, in the order of their rows
+    QList<QLine> ruling;   ///< lines beneath the items, in coordinates of the paper
+    QList<PageItem> items; ///< section by section, rows in order
 };
 
-/// A finished report: what the screen, the printer and the exports draw.
+/// A finished report, as input of the viewer, the printer and the exports.
 struct ReportPages
 {
     QString title;
     bool landscape = false;
     QList<ReportPage> pages = {};
-    QList<QRect> columns = {}; ///< fields of a row from left to right, empty ones included
+    QList<QRect> columns = {}; ///< fields of a row from left to right, including empty ones
 
-    /// A4 as it lies.
+    /// Returns the size of A4 in the report's orientation.
     QSize paper() const { return landscape ? QSize(16838, 11906) : QSize(11906, 16838); }
 };
 
-/// All four margins of the paper.
+/// Width of all four margins.
 inline constexpr int PageMargin = 300;

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int ZoomStep = 25;
 
-/// A label wide enough for its longest text, so that the tools beside it stand still.
+/// Returns a label wide enough for its longest text, so that the tools beside it do not move.
 QLabel *toolLabel(const QString &name, const QString &longest, QWidget *parent)
 {
     auto *label = new QLabel(parent);
@@ -56,7 +56,7 @@ ReportViewer::ReportViewer(QWidget *parent)
     m_tools->addWidget(m_place);
     addTool(u"ถัดไป ›"_s, u"next"_s, &ReportViewer::nextPage);
     addTool(u"หน้าสุดท้าย"_s, u"last"_s, &ReportViewer::lastPage);
-    m_pages = new PageView(this); // behind the tools, so that Tab comes to it after them
+    m_pages = new PageView(this); // created last, so that Tab reaches it after the tools
     m_pages->setObjectName(u"pages"_s);
     m_pages->setAccessibleName(u"หน้ารายงาน"_s);
     layout->addWidget(m_pages, 1);
@@ -74,7 +74,7 @@ void ReportViewer::addTool(const QString &text, const QString &name, void (Repor
     connect(tool, &QAction::triggered, this, run);
 }
 
-/// A focus proxy would have Tab jump past the tools.
+/// Passes the focus to the pages. With a focus proxy, Tab would skip the tools.
 void ReportViewer::focusInEvent(QFocusEvent *event)
 {
     m_pages->setFocus(event->reason());

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A report viewer: finished pages under a bar of tools that print, zoom and turn pages.
+// Shows finished pages below a toolbar that copies, prints, zooms and turns pages.
 #pragma once
 
 #include "paper/pageview.h"
@@ -17,12 +17,12 @@ class ReportViewer : public QWidget
 public:
     explicit ReportViewer(QWidget *parent = nullptr);
 
-    /// Shows a finished report from its first page on.
+    /// Shows a report from its first page.
     void setReport(const ReportPages &report);
     const ReportPages &report() const { return m_pages->report(); }
 
-    /// A tool by its place in the bar, separators counted: 0 copies the page as a picture, 2
-    /// prints.
+    /// Returns an action by its index in the toolbar, separators included: 0 copies the current
+    /// page as a picture, 2 prints.
     QAction *tool(int index) const;
 
 protected:

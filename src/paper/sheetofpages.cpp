@@ -8,7 +8,7 @@
 
 namespace {
 
-/// Headings stand a few twips beside the fields that they head.
+/// The left edges of a heading and its field differ by a few twips.
 constexpr int Slack = 50;
 
 class SheetBuilder
@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    /// Adds a section's texts: those of one height are a row of the sheet.
+    /// Adds the texts of a section. Texts with the same top form a row of the sheet.
     void addSection(const ReportPage &page, ReportSection section)
     {
         QList<const PageItem *> items;
@@ -47,7 +47,7 @@ private:
                 items += &item;
         }
         std::ranges::stable_sort(items, {}, [this](const PageItem *item) {
-            return std::pair(item->box.top(), columnOf(*item)); // readers take rows left to right
+            return std::pair(item->box.top(), columnOf(*item)); // cells are stored left to right
         });
         const PageItem *before = nullptr;
         for (const PageItem *item : std::as_const(items)) {
@@ -65,13 +65,14 @@ private:
         cell.alignment = item.style.alignment;
         cell.bold = item.style.bold;
         if (item.style.amount
-            && resumeNext([&] { cell.amount = CDbl(text); })) // what is no number stays a text
+            && resumeNext([&] { cell.amount = CDbl(text); })) // otherwise it stays a text
             cell.kind = SheetCell::Amount;
         m_sheet.cells += cell;
     }
 
-    /// A text begins in the first column that it covers from its beginning; one that is aligned to
-    /// the right ends in the last that it covers, and a long one runs over its left neighbours.
+    /// Returns the column of a text: the first one that starts at or after its left edge. For a
+    /// right-aligned text it is the last one that ends at or before its right edge, since a long
+    /// text extends over the cells to its left.
     int columnOf(const PageItem &item) const
     {
         const auto &columns = m_report.columns;

@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Kinds of records, by the numbers that the format gives them.
+/// Record types of BIFF8.
 enum Record : quint16 {
     Eof = 0x0a,
     ExternSheet = 0x17,
@@ -50,7 +50,7 @@ constexpr int TwipsPerInch = 1440;
 constexpr int PlainFont = 0;
 constexpr int BoldFont = 1;
 
-/// Bytes in the order that the format wants: the lowest first.
+/// A little-endian byte sequence.
 class Bytes
 {
 public:
@@ -68,7 +68,7 @@ public:
         return *this;
     }
 
-    Bytes &letters(const QString &text)
+    Bytes &utf16(const QString &text)
     {
         for (const QChar letter : text)
             m_out << letter.unicode();
@@ -82,35 +82,35 @@ private:
     QDataStream m_out;
 };
 
-/// A text whose length is told in one byte, its letters in Unicode.
+/// Appends a text with a one-byte length, in UTF-16.
 Bytes &shortText(Bytes &bytes, const QString &text)
 {
     constexpr quint8 Unicode = 1;
-    return (bytes << quint8(text.size()) << Unicode).letters(text);
+    return (bytes << quint8(text.size()) << Unicode).utf16(text);
 }
 
-/// The texts of a workbook, each kept once.
+/// The shared string table of a workbook. Stores each text once.
 class TextTable
 {
 public:
-    /// Number of @p text in the table.
-    quint32 numberOf(const QString &text)
+    /// Returns the index of @p text, which is added if it is new.
+    quint32 indexOf(const QString &text)
     {
         ++m_uses;
-        const auto found = m_numbers.constFind(text);
-        if (found != m_numbers.constEnd())
+        const auto found = m_indexes.constFind(text);
+        if (found != m_indexes.constEnd())
             return *found;
         m_texts += text.left(LongestText);
-        return m_numbers[text] = quint32(m_texts.size() - 1);
+        return m_indexes[text] = quint32(m_texts.size() - 1);
     }
 
-    /// The table's content in pieces that fit into a record; no text is torn apart.
+    /// Returns the table's content in pieces that fit into a record. No text is split.
     QList<QByteArray> pieces() const
     {
         constexpr quint8 Unicode = 1;
         QList<QByteArray> pieces{Bytes(m_uses, quint32(m_texts.size())).all()};
         for (const QString &text : m_texts) {
-            const QByteArray one = Bytes(quint16(text.size()), Unicode).letters(text).all();
+            const QByteArray one = Bytes(quint16(text.size()), Unicode).utf16(text).all();
             if (pieces.last().size() + one.size() > LongestRecord)
                 pieces += QByteArray();
             pieces.last() += one;
@@ -119,16 +119,16 @@ public:
     }
 
 private:
-    QHash<QString, quint32> m_numbers;
+    QHash<QString, quint32> m_indexes;
     QList<QString> m_texts;
     quint32 m_uses = 0;
 };
 
-/// The looks that cells have: alignment and weight of a text, or of an amount.
-class Looks
+/// The cell formats (XF records): alignment and weight of a text or of an amount.
+class CellFormats
 {
 public:
-    /// The format wants fifteen looks of styles and a plain cell's before all others.
+    /// BIFF8 requires fifteen style formats and a default cell format before all others.
     static constexpr quint16 Reserved = 16;
     static constexpr quint16 Count = Reserved + 12;
 
@@ -140,20 +140,20 @@ public:
                        + (cell.kind == SheetCell::Amount));
     }
 
-    static QByteArray record(quint16 look)
+    static QByteArray record(quint16 format)
     {
         constexpr quint16 General = 0;
         constexpr quint16 ThousandsCommas = 3;
-        constexpr quint16 StyleLook = 0xfff5;
-        constexpr quint16 CellLook = 1;
+        constexpr quint16 StyleFormat = 0xfff5;
+        constexpr quint16 CellFormat = 1;
         constexpr quint8 Bottom = 0x20;
         constexpr quint8 Middle = 0x10;
-        const bool reserved = look < Reserved;
-        const int variant = reserved ? 0 : look - Reserved;
+        const bool reserved = format < Reserved;
+        const int variant = reserved ? 0 : format - Reserved;
         const auto side = quint8(reserved ? 0 : variant / 4 + 1);
         return Bytes(quint16(variant & 2 ? BoldFont : PlainFont),
                      quint16(variant & 1 ? ThousandsCommas : General),
-                     quint16(look < Reserved - 1 ? StyleLook : CellLook),
+                     quint16(format < Reserved - 1 ? StyleFormat : CellFormat),
                      quint8(side | (reserved ? Bottom : Middle)), quint8(0), quint8(0),
                      quint8(reserved ? 0 : 0xf8), quint32(0), quint32(0), quint16(0x20c0))
             .all();
@@ -167,8 +167,8 @@ public:
 
     QByteArray content()
     {
-        const QByteArray cells = sheetPart(); // fills the table of texts
-        // Where the sheet begins is told in the globals, whose length does not depend on it.
+        const QByteArray cells = sheetPart(); // fills m_texts
+        // The globals contain the offset of the sheet, which is their own length. Measure it first.
         const QByteArray globals = globalPart(0);
         return globalPart(quint32(globals.size())) + cells;
     }
@@ -205,10 +205,10 @@ private:
         add(CodePage, Utf16);
         add(Window1, quint16(360), quint16(270), quint16(18000), quint16(9000), quint16(0x38),
             quint16(0), quint16(0), quint16(1), quint16(600));
-        for (const int font : {PlainFont, BoldFont, PlainFont, PlainFont}) // four at least
+        for (const int font : {PlainFont, BoldFont, PlainFont, PlainFont}) // at least four
             addFont(font == BoldFont);
-        for (quint16 look = 0; look < Looks::Count; ++look)
-            add(Xf, Looks::record(look));
+        for (quint16 format = 0; format < CellFormats::Count; ++format)
+            add(Xf, CellFormats::record(format));
         add(Style, quint16(0x8000), quint8(0), quint8(0xff));
         Bytes bound(sheetBegin, quint16(0));
         add(BoundSheet, shortText(bound, m_sheet.name).all());
@@ -228,7 +228,7 @@ private:
         add(Font, shortText(font, u"Tahoma"_s).all());
     }
 
-    /// The built-in name that has each printed page begin with the header rows.
+    /// Adds the built-in name that repeats the header rows on each printed page.
     void addPrintTitles()
     {
         constexpr quint16 BuiltIn = 0x20;
@@ -263,7 +263,7 @@ private:
 
     void addPrintSetup()
     {
-        constexpr quint16 FitToWidth = 0x05c1; // and what a sheet has by itself
+        constexpr quint16 FitToWidth = 0x05c1; // and the default flags
         constexpr quint16 A4 = 9;
         constexpr quint16 Dots = 600;
         const double inches = double(m_sheet.margin) / TwipsPerInch;
@@ -276,9 +276,9 @@ private:
 
     void addColumn(quint16 column, int twips)
     {
-        constexpr int TwipsPerLetter = 105; // of the plain font
+        constexpr int TwipsPerLetter = 105; // in the plain font
         add(ColInfo, column, column, quint16(twips * 256 / TwipsPerLetter),
-            quint16(Looks::Reserved - 1), quint16(0), quint16(0));
+            quint16(CellFormats::Reserved - 1), quint16(0), quint16(0));
     }
 
     void addCell(const SheetCell &cell)
@@ -286,9 +286,9 @@ private:
         const auto row = quint16(cell.row);
         const auto column = quint16(cell.column);
         if (cell.kind == SheetCell::Amount)
-            add(Number, row, column, Looks::of(cell), cell.amount);
+            add(Number, row, column, CellFormats::of(cell), cell.amount);
         else
-            add(LabelSst, row, column, Looks::of(cell), m_texts.numberOf(cell.text));
+            add(LabelSst, row, column, CellFormats::of(cell), m_texts.indexOf(cell.text));
     }
 
     void addView()
