@@ -9,7 +9,7 @@ int main(int argc, char **argv)
     try {
         const auto window = startProgram();
         return window ? Application::exec() : 1;
-    } catch (const RunTimeError &error) { // the start runs before the first event is handed out
+    } catch (const RunTimeError &error) { // startProgram() runs outside of Application::notify()
         endWithReport(error);
     }
 }

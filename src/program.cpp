@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Puts the program together. With main.cpp the only place that knows all rooms.
+// Assembles the program. Besides main.cpp, the only file that may include every folder.
 #include "program.h"
 
 #include "customers/form2.h"
@@ -54,17 +54,17 @@ void printWinners(const DrawCheck &check, QWidget *opener)
     showWinners({check.winners, check.Label19, check.book == Book::CutOut}, opener);
 }
 
-/// The settings. What the board shows decides whether a draw can be closed; where the board is not
-/// the open page it is loaded, unseen, and goes with the settings. An open board is loaded anew when
-/// they close; a filter's controls stay as they are.
+/// Shows the settings dialog. A draw cannot be closed without rows on the board. If the board is
+/// not the open page, a hidden board is loaded for that check. An open board is reloaded when the
+/// dialog closes; the controls of its filter keep their state.
 void showSettings(const Frame &frame, MDIForm1 *window)
 {
     const QPointer open = qobject_cast<Form3 *>(window->page());
-    std::unique_ptr<Form3> unseen;
+    std::unique_ptr<Form3> hidden;
     const auto boardShowsRows = [&] {
-        if (!open && !unseen)
-            unseen = std::make_unique<Form3>(frame, BoardOpeners{}, nullptr);
-        return !(open ? open.data() : unseen.get())->board().isEmpty();
+        if (!open && !hidden)
+            hidden = std::make_unique<Form3>(frame, BoardOpeners{}, nullptr);
+        return !(open ? open.data() : hidden.get())->board().isEmpty();
     };
     Setting dialog(window, boardShowsRows);
     runDialog(dialog);
@@ -103,6 +103,6 @@ std::unique_ptr<MDIForm1> startProgram()
         return nullptr;
     window->openPage(0);
     window->show();
-    window->activateWindow(); // the first key has to land in the entry field
+    window->activateWindow(); // the first key must reach the entry field
     return window;
 }

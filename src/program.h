@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The program as a whole, for its own main() and for whoever drives it from outside.
+// The whole program, for main(), tests and benchmarks.
 #pragma once
 
 #include "shell/mdiform1.h"
 
-/// The pages that exist, and how each is made.
+/// Returns the functions that create the pages and show the settings dialog.
 Pages programPages();
 
-/// Starts the program: the main window, loaded and shown on its first page. Nothing for a second
-/// copy, which is to end at once. Ends the program when the Ledger cannot be opened.
+/// Starts the program and returns its main window, shown with the first page. Returns nullptr for a
+/// second copy, which must end at once. Ends the program if the Ledger cannot be opened.
 std::unique_ptr<MDIForm1> startProgram();

@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The part of the banner that tells whose bets the board shows, and his discount on them.
+// The customer strip in the banner: whose bets the board shows, and his discount on them.
 #pragma once
 
 #include <QLineEdit>
 
-/// Shown while the board is filtered to one customer. Hiding empties it, so that nothing printed
-/// later carries an old customer's name.
+/// Shown while the board is filtered to one customer. Hiding clears the fields, so that a later
+/// printout does not have the name of an earlier customer.
 class CustomerStrip
 {
 public:
-    /// @p Frame6 is the panel; it and its fields must outlive this.
+    /// @p Frame6 is the panel with the fields. The widgets must outlive this object.
     CustomerStrip(QWidget &Frame6, QLineEdit &name, QLineEdit &percent, QLineEdit &money)
         : Tname(name), text2(percent), text3(money), m_panel(Frame6)
     {}

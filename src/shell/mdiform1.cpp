@@ -23,13 +23,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What pressing a navigation button sets, in the order of the buttons.
+/// What a navigation button sets.
 struct Navigation
 {
     quint8 cutOrigin;
     QStringView statusText;
 };
 
+/// In the order of the buttons.
 constexpr std::array<Navigation, PageCount> NavigationTable{{
     {FromOtherPage, u"หน้าหลัก"},
     {FromOtherPage, u"ข้อมูลลูกค้า"},
@@ -38,7 +39,8 @@ constexpr std::array<Navigation, PageCount> NavigationTable{{
     {FromOtherPage, u"ข้อมูลย้อนหลัง"},
 }};
 
-/// Disables the navigation button whose page is open, and lets the look mark it.
+/// Disables the navigation button of the current page and makes the style sheet mark it. A style
+/// sheet reads a property only when the widget is polished.
 void showButton(QPushButton &button, bool current)
 {
     button.setEnabled(!current);
@@ -47,7 +49,7 @@ void showButton(QPushButton &button, bool current)
     button.style()->polish(&button);
 }
 
-/// Temporary files in the program's folder, whoever left them there.
+/// Deletes the .tmp files in the program's folder, including those of other programs.
 void deleteTemporaryFiles()
 {
     QDir folder(programFolder());
@@ -73,7 +75,7 @@ MDIForm1::MDIForm1(Pages pages) : m_ui(std::make_unique<Ui::MDIForm1>()), m_page
 
 MDIForm1::~MDIForm1()
 {
-    delete m_page; // while the banner that it speaks to still stands
+    delete m_page; // it uses the strip and the progress bar, so it goes first
 }
 
 bool MDIForm1::MDIForm_Load()
@@ -99,7 +101,7 @@ void MDIForm1::connectNavigation()
     connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, [this] {
         m_pages.showSettings({*m_ui->pb1, *m_strip}, this);
         if (m_page)
-            m_page->setFocus(); // keying goes on at once
+            m_page->setFocus(); // so that typing can go on at once
     });
 }
 
@@ -108,12 +110,12 @@ void MDIForm1::openPage(int page)
     CutOrigin = NavigationTable[page].cutOrigin;
     for (int other = 0; other < PageCount; ++other)
         showButton(*m_pageButtons[other], other == page);
-    delete m_page; // an unsaved ticket goes with its page
+    delete m_page; // with its unsaved input
     m_page = m_pages.makers[page]({*m_ui->pb1, *m_strip}, m_ui->pageArea);
     m_ui->pageArea->layout()->addWidget(m_page);
     m_page->show();
     if (!m_page->isAncestorOf(QApplication::focusWidget()))
-        m_page->setFocus(); // the pressed button is disabled and can keep no focus
+        m_page->setFocus(); // the pressed button is now disabled and loses it
     m_ui->StatusBar->setPageName(NavigationTable[page].statusText.toString());
 }
 
@@ -122,31 +124,31 @@ void MDIForm1::closeEvent(QCloseEvent *event)
     event->setAccepted(MDIForm_QueryUnload());
 }
 
-/// The desktop is about to log off or to shut down. Asked now, while Cancel can still stop that.
+/// Asks before the desktop logs off or shuts down, while Cancel can still stop it.
 void MDIForm1::endSession(QSessionManager &session)
 {
     if (!session.allowsInteraction())
         return;
     if (!MDIForm_QueryUnload())
-        session.cancel(); // no release(): after a cancel it would block the keys
+        session.cancel(); // without release(), which would block the keyboard
 }
 
 bool MDIForm1::MDIForm_QueryUnload()
 {
     if (m_ended)
         return true;
-    // Only the desktop's log-off gets here while a box or a dialog is open.
-    const bool inTheMidst = QApplication::activeModalWidget() != nullptr;
+    // Only a log-off of the desktop can come while a box or a dialog is open.
+    const bool isModalOpen = QApplication::activeModalWidget() != nullptr;
     if (!ask(u"คุณแน่ใจว่าต้องการจบการทำงานของโปรแกรม ?"_s, u"ยืนยันการจบรายการ"_s, BoxIcon::Question,
              BoxAnswer::Cancel))
         return false;
     m_ended = true;
-    if (!inTheMidst)
+    if (!isModalOpen)
         resumeNext([this] { UnloadAllForms(); });
     resumeNext(deleteTemporaryFiles);
     resumeNext(CloseLedger);
-    if (inTheMidst)
-        endProgram(0); // the code that waits for the box must not go on: its book is closed
+    if (isModalOpen)
+        endProgram(0); // the code behind the box must not go on without a Ledger
     QApplication::quit();
     return true;
 }

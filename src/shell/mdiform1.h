@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The main window: starts the program, holds the pages, ends the program.
+// The main window: starts the program, shows its pages and ends it.
 #pragma once
 
 #include "shell/customerstrip.h"
@@ -20,7 +20,7 @@ namespace Ui {
 class MDIForm1;
 }
 
-/// What the main window lends to its pages.
+/// Parts of the main window that pages use.
 struct Frame
 {
     ProgressBar &progress;
@@ -30,10 +30,11 @@ struct Frame
 /// Makes a page as a child of @p parent.
 using PageMaker = std::function<QWidget *(const Frame &frame, QWidget *parent)>;
 
-/// The five pages behind the navigation buttons, in their order.
+/// Number of pages, one for each navigation button.
 inline constexpr int PageCount = 5;
 
-/// Makers of the pages and of the settings dialog. The main window knows no page itself.
+/// Functions that create the pages, in the order of the buttons, and show the settings dialog. The
+/// main window itself does not depend on any page.
 struct Pages
 {
     std::array<PageMaker, PageCount> makers;
@@ -48,13 +49,14 @@ public:
     explicit MDIForm1(Pages pages);
     ~MDIForm1() override;
 
-    /// The start: refuses a second copy, opens the Ledger, reads the rates, loads the look and
-    /// centres the window. False for a second copy, which is to end without a question.
+    /// Starts the program: refuses a second copy, opens the Ledger, reads the rates, loads the
+    /// style sheet and centres the window. Returns false for a second copy, which must end at once.
     bool MDIForm_Load();
 
-    /// Opens a page, 0 to 4, in place of the one that is open; what that one held is gone.
+    /// Opens page 0 to 4. The current page is deleted with its unsaved input.
     void openPage(int page);
 
+    /// Returns the current page.
     QWidget *page() const { return m_page; }
 
 protected:

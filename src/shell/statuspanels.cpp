@@ -15,13 +15,13 @@ namespace {
 
 enum Panel { PageName, Caps, Num, Date, Time, Contact };
 
-/// Shown in full while a lock is on, greyed while it is off.
+/// Shows a lock key in bold while it is on, greyed while it is off.
 void showLock(QLabel *panel, bool on)
 {
     panel->setEnabled(on);
-    QFont type = panel->font();
-    type.setBold(on);
-    panel->setFont(type);
+    QFont font = panel->font();
+    font.setBold(on);
+    panel->setFont(font);
 }
 
 } // namespace

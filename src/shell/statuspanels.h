@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The status bar of the main window: name of the page, lock keys, date, time, contact.
+// The status bar of the main window.
 #pragma once
 
 #include <QStatusBar>
@@ -9,6 +9,7 @@
 
 class QLabel;
 
+/// Six panels: name of the page, Caps Lock, Num Lock, date, time, contact.
 class StatusPanels : public QStatusBar
 {
     Q_OBJECT
@@ -16,7 +17,7 @@ class StatusPanels : public QStatusBar
 public:
     explicit StatusPanels(QWidget *parent = nullptr);
 
-    /// Text of panel 1.
+    /// Sets the text of the first panel.
     void setPageName(const QString &name);
 
 protected:

@@ -8,9 +8,9 @@
 
 namespace {
 
-/// The style's own grey of what is disabled and its own blue behind what is chosen let texts stand
-/// out too little. These colours do on a light desktop as on a dark one.
-void sharpenTexts()
+/// Fusion's colours of disabled texts and of the selection have too little contrast. These have
+/// enough on a light and on a dark desktop.
+void raiseContrast()
 {
     QPalette colors = QApplication::palette();
     for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
@@ -27,8 +27,8 @@ void loadStyleSheet(const QString &path)
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return;
-    sharpenTexts();
+    raiseContrast();
     qApp->setStyleSheet(QString::fromUtf8(file.readAll()));
-    // A style sheet brings back the desktop's fonts for buttons, grids, boxes and menus.
+    // Setting a style sheet restores the desktop's fonts for buttons, grids, boxes and menus.
     QApplication::setFont(QApplication::font());
 }

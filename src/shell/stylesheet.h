@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The look of the program: a style file beside it.
+// Loads the style sheet of the program.
 #pragma once
 
 #include <QString>
 
-/// Applies the style sheet at @p path to all windows. Without such a file Qt's own look stays.
+/// Applies the style sheet at @p path to all windows. Leaves plain Fusion if there is no such file.
 void loadStyleSheet(const QString &path);
