@@ -10,16 +10,16 @@
 
 namespace {
 
-/// Keys without a character of their own that would fill a field past its filter: Shift+Insert,
-/// and the undo keys of some keyboards, which would bring back what the form had put there.
-bool bringsTextBack(const QKeyEvent &key)
+/// Returns true for keys without a character code that would change a field past its filter:
+/// Shift+Insert, and undo and redo keys, which would restore a text set by the form.
+bool bypassesFilter(const QKeyEvent &key)
 {
     return key.matches(QKeySequence::Paste) || key.matches(QKeySequence::Undo)
            || key.matches(QKeySequence::Redo);
 }
 
-/// True for the buttons that do more than place the cursor. Answers the right one with a box.
-bool isForbidden(const FieldRule &rule, Qt::MouseButton button)
+/// Returns true for the mouse buttons that could insert text. Shows a box for the right one.
+bool refuseButton(const FieldRule &rule, Qt::MouseButton button)
 {
     if (button == Qt::RightButton && rule.filter == FieldFilter::Line)
         refuseRightClickInLine();
@@ -55,14 +55,14 @@ bool FieldGuard::eventFilter(QObject *object, QEvent *event)
         const auto &key = *static_cast<QKeyEvent *>(event);
         const int code = characterCode(key);
         if (code == 0)
-            return isStrayText(key) || bringsTextBack(key);
+            return isStrayText(key) || bypassesFilter(key);
         keyPressed(rule, code);
         return true;
     }
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
-        return isForbidden(rule, static_cast<QMouseEvent *>(event)->button());
-    case QEvent::MouseButtonRelease: // the middle button pastes when it is let go
+        return refuseButton(rule, static_cast<QMouseEvent *>(event)->button());
+    case QEvent::MouseButtonRelease: // the middle button pastes on release
         return static_cast<QMouseEvent *>(event)->button() == Qt::MiddleButton;
     case QEvent::ContextMenu:
     case QEvent::InputMethod:

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Guard of a form's number fields: whatever is typed, clicked, pasted or dropped, a field holds
-// only what its filter passes.
+// Guards the number fields of a form against all input that does not pass their key filter:
+// pasting, dropping, input methods, context menus.
 #pragma once
 
 #include <QAbstractButton>
@@ -12,15 +12,15 @@ class FocusTracker;
 
 enum class FieldFilter { Digits, Line };
 
-/// One guarded field and what keys do in it.
+/// A guarded field and the effect of keys in it.
 struct FieldRule
 {
     QLineEdit *field = nullptr;
-    int longest = 0; ///< characters that can be typed; text set by code may be longer
+    int longest = 0; ///< length that can be typed; text set by code may be longer
     FieldFilter filter = FieldFilter::Digits;
-    QWidget *enterFocuses = nullptr;        ///< where Enter moves the focus
-    QAbstractButton *enterClicks = nullptr; ///< the button that Enter presses
-    QWidget *keyFocuses = nullptr;          ///< where any other key moves it, after the filter
+    QWidget *enterFocuses = nullptr;        ///< gets the focus on Enter
+    QAbstractButton *enterClicks = nullptr; ///< clicked on Enter
+    QWidget *keyFocuses = nullptr;          ///< gets the focus after any other key
 };
 
 class FieldGuard : public QObject
@@ -28,15 +28,15 @@ class FieldGuard : public QObject
     Q_OBJECT
 
 public:
-    /// Guards fields of a form, its owner. The keyboard is switched to English when one of them gets the
-    /// focus.
+    /// Guards fields of @p form, which owns this object. Switches the keyboard to English when one
+    /// of them gets the focus.
     FieldGuard(QWidget *form, const FocusTracker *focus, const QList<FieldRule> &rules);
 
-    /// The rule of a field, or one without a field.
+    /// Returns the rule of a field. Its field is null if the field is not guarded.
     FieldRule rule(const QLineEdit *field) const { return m_rules.value(field); }
 
 signals:
-    /// Enter in a field whose rule has neither a target nor a button for it.
+    /// Emitted on Enter in a field whose rule has neither enterFocuses nor enterClicks.
     void entered();
 
 protected:

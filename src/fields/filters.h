@@ -1,31 +1,31 @@
 // SPDX-License-Identifier: MIT
-// Key filters of the number fields: digits only, whatever keyboard is in use. Codes are those of
-// characters: 8 is Backspace, 13 Enter, 48 to 57 the Latin digits.
+// Key filters of the number fields. Codes are those of characterCode(): 8 for Backspace, 13 for
+// Enter, 48 to 57 for the Latin digits. A filter returns the code if it passes, otherwise 0.
 #pragma once
 
 #include <QByteArray>
 
-/// Layout id of US English.
+/// Layout id of US English, as of desktop::keyboardLayoutName().
 inline constexpr const char *EnglishLayout = "00000409";
 
-/// Passes digits, Backspace and Enter. Answers any other key with a box; its code becomes 0.
+/// Passes digits, Backspace and Enter. Shows a box for any other key.
 int DigitFilter(int code);
 
-/// The same with "-" passing too: the entry field's filter.
+/// Passes "-" too: the filter of the entry field.
 int LineFilter(int code);
 
-/// Drops any key but Backspace, silently, once the text is @p limit long. For combo boxes,
-/// whose text has no limit of its own.
+/// Passes only Backspace once the text has @p limit characters, without a box. For combo boxes,
+/// which have no maximum length.
 int MaxLengthFilter(qsizetype length, qsizetype limit, int code);
 
-/// Answers a right click in a number field with a box, since its menu would paste.
+/// Shows the box for a right click in a number field, whose context menu could paste.
 void refuseRightClick();
 
-/// The same for the entry field, in its own words.
+/// Shows the box for a right click in the entry field.
 void refuseRightClickInLine();
 
-/// Makes a keyboard layout active. True if it is active at the end.
+/// Activates a keyboard layout. Returns true if it is active afterwards.
 bool SetKeyboardLayout(const QByteArray &id);
 
-/// Makes US English active, so that the digit row gives digits.
+/// Activates US English, since the digit row of the Thai layout types no Latin digits.
 bool SetEnglishKeyboard();
