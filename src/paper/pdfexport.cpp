@@ -47,9 +47,9 @@ qsizetype partEnd(const QString &text, qsizetype from)
 
 /// Draws Thai text so that it can be copied from the PDF. Thai fonts have glyph variants for
 /// letters and marks that meet, but QPdfWriter maps only the glyphs of single characters back to
-/// text, so variants would be missing in a copy. Marks and variants are therefore drawn as outlines,
-/// which readers do not take for text, and the glyphs of the single characters over them,
-/// transparent.
+/// text, so variants would be missing in a copy. Marks and variants are therefore drawn as
+/// outlines, which readers do not take for text, and the glyphs of the single characters over
+/// them, transparent.
 class CopyableText
 {
 public:

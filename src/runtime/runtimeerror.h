@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Run-time errors: what a failed conversion, sum or Ledger statement raises, and how a handler
-// passes over one.
+// Run-time errors, raised by a failed conversion, sum or Ledger statement, and how a handler
+// resumes after one.
 #pragma once
 
 #include <QString>
@@ -8,26 +8,26 @@
 #include <exception>
 #include <utility>
 
-/// A failure that ends the program with a report unless a handler resumes past it.
+/// An error that ends the program with a report unless a handler resumes after it.
 class RunTimeError : public std::exception
 {
 public:
-    /// The numbers that the runtime raises. A person who asks for support reads one out.
+    /// The error numbers. They are shown to the user, who can quote them to the support.
     enum Number : int {
-        Overflow = 6,                 ///< a value outside the type it is stored in
-        TypeMismatch = 13,            ///< a text that is no number
-        InvalidUseOfNull = 94,        ///< no value where a number is wanted
-        DatabaseFailure = -2147467259 ///< any failure of the Ledger's engine (0x80004005)
+        Overflow = 6,                 ///< a value out of range
+        TypeMismatch = 13,            ///< a text that is not a number
+        InvalidUseOfNull = 94,        ///< NULL where a number is required
+        DatabaseFailure = -2147467259 ///< any failure of the Ledger (0x80004005)
     };
 
     RunTimeError(Number number, const QString &description);
 
     Number number() const { return m_number; }
 
-    /// What went wrong, for a database failure in the engine's own words.
+    /// Returns what went wrong; after a failure of SQLite, its own message.
     const QString &description() const { return m_description; }
 
-    /// The line that the closing report shows: "Run-time error '13': Type mismatch".
+    /// Returns the text of the report, such as "Run-time error '13': Type mismatch".
     QString report() const;
 
     const char *what() const noexcept override { return m_what.constData(); }
@@ -38,8 +38,7 @@ private:
     QByteArray m_what;
 };
 
-/// A failure that no handler may pass over: data that was accepted is not where the next start looks
-/// for it.
+/// An error that resumeNext() does not catch: saved data is not where the next start looks for it.
 class FatalError : public RunTimeError
 {
 public:
@@ -50,9 +49,9 @@ public:
 [[noreturn]] void raiseOverflow();         ///< raises RunTimeError 6
 [[noreturn]] void raiseInvalidUseOfNull(); ///< raises RunTimeError 94
 
-/// Runs one statement of a handler that resumes at the next statement after an error.
-/// Gives false when the statement failed; a FatalError still rises. Wrap each statement by itself: what stands behind
-/// the failing one inside @p statement does not run.
+/// Runs one statement of a handler that resumes at the next statement after an error. Returns false
+/// if it raised a RunTimeError; a FatalError is passed on. Wrap each statement separately, since an
+/// error skips the rest of @p statement.
 template<typename Statement>
 bool resumeNext(Statement &&statement)
 {

@@ -14,10 +14,11 @@ namespace {
 
 bool isDigit(QChar c)
 {
-    return c >= u'0' && c <= u'9'; // QChar::isDigit would take Thai digits too
+    return c >= u'0' && c <= u'9'; // QChar::isDigit() accepts Thai digits too
 }
 
-/// Walks over digits from @p at; @p digits collects them.
+/// Appends the digits of @p text from @p at on to @p digits and returns the index after them.
+/// Skips commas if @p commas is true.
 qsizetype takeDigits(QStringView text, qsizetype at, bool commas, QByteArray &digits)
 {
     while (at < text.size() && (isDigit(text[at]) || (commas && text[at] == u','))) {
@@ -28,7 +29,7 @@ qsizetype takeDigits(QStringView text, qsizetype at, bool commas, QByteArray &di
     return at;
 }
 
-/// Turns the commas out and checks the form. Gives an empty array for a text that is no number.
+/// Removes the commas and checks the syntax. Returns an empty array if the text is not a number.
 QByteArray plainNumber(QStringView text)
 {
     QByteArray plain;
@@ -99,7 +100,7 @@ double CDbl(QStringView text)
     const QByteArray plain = plainNumber(trimBlanks(text));
     if (plain.isEmpty())
         raiseTypeMismatch();
-    const double value = QString::fromLatin1(plain).toDouble(); // too small a one is 0
+    const double value = QString::fromLatin1(plain).toDouble(); // 0 on underflow
     if (std::isinf(value))
         raiseOverflow();
     return value;
