@@ -23,7 +23,7 @@ constexpr const char *Insert =
 void check(sqlite3 *file, int code)
 {
     if (code != SQLITE_OK)
-        qFatal("the engine failed: %s", sqlite3_errmsg(file));
+        qFatal("SQLite failed: %s", sqlite3_errmsg(file));
 }
 
 void insertLines(sqlite3 *file, sqlite3_stmt *insert, const std::vector<BetLine> &lines)
@@ -37,11 +37,11 @@ void insertLines(sqlite3 *file, sqlite3_stmt *insert, const std::vector<BetLine>
         sqlite3_bind_int(insert, 5, line.betClass->numType);
         sqlite3_bind_text(insert, 6, line.number.constData(), -1, SQLITE_STATIC);
         sqlite3_step(insert);
-        check(file, sqlite3_reset(insert)); // gives the outcome of the step
+        check(file, sqlite3_reset(insert)); // returns the error of the step
     }
 }
 
-/// The order of names, as the program has the engine know it.
+/// The program's collation of names.
 int compareNames(void *, int leftSize, const void *left, int rightSize, const void *right)
 {
     return compareThai(QString::fromUtf8(static_cast<const char *>(left), leftSize),
@@ -73,7 +73,7 @@ sqlite3_stmt *prepareBare(sqlite3 *file, const BareStatement &asked)
     return statement;
 }
 
-/// Gives the bytes of text read, so that no reading is left out as useless.
+/// Returns the number of bytes read, so that the compiler cannot drop a call.
 qint64 readAll(sqlite3_stmt *statement)
 {
     qint64 bytes = 0;
@@ -119,7 +119,7 @@ double insertBare(const QByteArray &path, const std::vector<BetLine> &lines, Dur
     check(file, sqlite3_prepare_v2(file, Insert, -1, &insert, nullptr));
     QElapsedTimer clock;
     clock.start();
-    if (durable == Durable::AllAtOnce) // with room for all pages, so that none is written twice
+    if (durable == Durable::AllAtOnce) // with a cache for all pages, so that none is written twice
         check(file,
               sqlite3_exec(file, "PRAGMA cache_size = -200000; BEGIN", nullptr, nullptr, nullptr));
     insertLines(file, insert, lines);

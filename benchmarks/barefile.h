@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// A Ledger file written through the engine's own C interface, without any of the program's code:
-// the yardstick for a save, and the quick way to a big Ledger.
+// Reads and writes a Ledger through SQLite's C interface, without the program's own code: the
+// reference for ratios, and the fast way to fill a Ledger.
 #pragma once
 
 #include "entry/vocabulary.h"
@@ -12,7 +12,7 @@
 
 struct sqlite3;
 
-/// A bet line of 20 baht as it stands in the Ledger.
+/// A bet line of 20 baht, as stored in the Ledger.
 struct BetLine
 {
     const BetClass *betClass;
@@ -20,9 +20,10 @@ struct BetLine
     QByteArray number;
 };
 
+/// Whether each line is written to the disk by itself or all lines in one transaction.
 enum class Durable { EachLine, AllAtOnce };
 
-/// A reading statement with what is bound to its question marks: whole numbers and texts.
+/// A SELECT statement with its bound values: integers and texts.
 struct BareStatement
 {
     QByteArray sql;
@@ -31,8 +32,8 @@ struct BareStatement
 
 using BareStatements = std::vector<BareStatement>;
 
-/// Reads a Ledger that is not open elsewhere, with the settings that the program gives it. It keeps
-/// the file open, and in memory what the engine keeps of it, until it dies.
+/// Reads a Ledger with the program's settings. The file must not be open elsewhere. It stays open,
+/// with SQLite's page cache, as long as the object exists.
 class BareReader
 {
 public:
@@ -40,14 +41,14 @@ public:
     ~BareReader();
     Q_DISABLE_COPY_MOVE(BareReader)
 
-    /// Runs the statements, each from its preparing to its end, and reads every field of every row.
-    /// Gives the seconds that it took.
+    /// Prepares and runs the statements and reads every field of every row. Returns the seconds
+    /// taken.
     double read(const BareStatements &statements);
 
 private:
     sqlite3 *m_file;
 };
 
-/// Opens a closed Ledger with the settings that the program gives it and inserts the lines into
-/// the empty tblNumber. Gives the seconds that the inserting took.
+/// Opens a closed Ledger with the program's settings and inserts the lines into its empty
+/// tblNumber. Returns the seconds taken by the inserts.
 double insertBare(const QByteArray &path, const std::vector<BetLine> &lines, Durable durable);

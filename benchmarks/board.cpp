@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What the board costs: a reload and the filter of one customer against the bare statements, a cut
-// with the reload that it brings about.
+// Measures the board: reloading and filtering it against the bare statements, and a cut with the
+// reload that follows it.
 #include "barefile.h"
 #include "drawlines.h"
 #include "figure.h"
@@ -27,10 +27,10 @@ constexpr int HotCount = 50;
 
 const QString Buyer = u"ลูกค้า 7"_s;
 
-/// What one board shows, told with its class and in its order, as a statement of its own.
+/// Returns a statement that reads the rows of one board in their order.
 QByteArray boardStatement(bool filtered)
 {
-    // A customer's lines are found by the index on buyers; a plus keeps the one on classes away.
+    // The unary plus keeps SQLite from using the index on classes instead of the one on customers.
     const QByteArray plus = filtered ? "+" : "";
     const QByteArray customer =
         filtered ? " AND NameFK IN (SELECT MPK FROM tblMember WHERE [Mname] LIKE ?)" : "";
@@ -39,7 +39,7 @@ QByteArray boardStatement(bool filtered)
            + " GROUP BY num23, updown, numType, numValue ORDER BY Sum(numBuy) DESC, numValue";
 }
 
-/// The real program on its board, with a book of many lines and 50 hot numbers.
+/// The whole program on its board page, with a book of many lines and 50 hot numbers.
 class BoardDesk
 {
 public:
@@ -58,7 +58,7 @@ public:
         m_bare.emplace(copy.toUtf8());
         m_window = startProgram();
         if (!m_window || !QTest::qWaitForWindowActive(m_window.get()))
-            qFatal("the program did not come up");
+            qFatal("the program did not start");
         m_window->openPage(2);
         QApplication::processEvents();
     }
@@ -69,7 +69,7 @@ public:
     }
     Q_DISABLE_COPY_MOVE(BoardDesk)
 
-    /// Seconds of a reload of all boards after a change of the book.
+    /// Returns the seconds that reloading all boards takes after a change of the book.
     double reload()
     {
         m_folder.run(u"UPDATE tblNumber SET numBuy = numBuy + 1 WHERE NPK = 1"_s);
@@ -81,7 +81,7 @@ public:
         return taken;
     }
 
-    /// Seconds of filtering to one customer, from Enter on.
+    /// Returns the seconds from Enter to the board filtered to one customer.
     double filter()
     {
         auto *names = form().findChild<Combo *>();
@@ -98,8 +98,8 @@ public:
         return taken;
     }
 
-    /// Seconds from the confirmed cut of one baht from a line in @p row of a board to the board
-    /// loaded again. @p allDone also has the dialog gone and the page painted.
+    /// Cuts one baht from a line in @p row of a board. Returns the seconds from the confirmation to
+    /// the reloaded board; @p allDone gets those to the closed dialog and the painted page.
     double cut(int board, int row, double &allDone)
     {
         double loaded = 0;
@@ -122,11 +122,11 @@ public:
         return loaded;
     }
 
-    /// Seconds of the statements of a reload on a copy of the file.
+    /// Returns the seconds that the statements of a reload take on a copy of the file.
     double bareReload() { return m_bare->read(boards({})); }
 
-    /// Seconds of the statements of a filter, likewise. Behind them the whole book is read, as on the
-    /// page, so that neither finds its pages in memory.
+    /// Returns the seconds that the statements of a filter take on the copy. Then reads the whole
+    /// book, as the page does after its filter, so that both sides start with the same cache.
     double bareFilter()
     {
         BareStatements statements = boards({Buyer});
@@ -156,11 +156,11 @@ private:
     std::unique_ptr<MDIForm1> m_window;
 };
 
-/// Seconds of @p ours as a multiple of those of @p bare, taken in turn.
+/// Returns the seconds of @p ours as a multiple of those of @p bare, measured alternately.
 template<typename Ours, typename Bare>
 Measured measureInTurn(benchmark::State &state, Ours &&ours, Bare &&bare)
 {
-    ours(); // reads the pages into memory
+    ours(); // fills the page cache
     bare();
     Samples our;
     Samples their;
@@ -195,7 +195,7 @@ Measured measureCut(benchmark::State &state, int board, int lines)
     int row = 0;
     Samples loaded;
     Samples painted;
-    desk.cut(board, 10, painted.emplace_back()); // reads the pages into memory
+    desk.cut(board, 10, painted.emplace_back()); // fills the page cache
     for ([[maybe_unused]] auto round : state) {
         loaded.push_back(desk.cut(board, ++row % 10 + 1, painted.emplace_back()) * 1000);
         state.SetIterationTime(loaded.back() / 1000);

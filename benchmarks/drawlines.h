@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-// The bet lines that the measurements fill a Ledger with.
+// Bet lines to fill a Ledger with.
 #pragma once
 
 #include "barefile.h"
 
 inline constexpr int CustomerCount = 200;
 
-/// A line of a class and customer, its number from the last digits of @p digits.
+/// Returns a line of a class and customer. Its number is the last digits of @p digits.
 inline BetLine betLine(size_t betClass, int customer, int digits)
 {
     const BetClass &asked = BetClasses[betClass];
     return {&asked, customer, QByteArray::number(1000 + digits % 1000).right(asked.num23)};
 }
 
-/// Lines of a whole draw: fifty to a customer in turn, all classes and numbers mixed.
+/// Returns the lines of a draw: runs of fifty for each customer, with mixed classes and numbers.
 inline std::vector<BetLine> drawLines(int count)
 {
     std::vector<BetLine> lines;

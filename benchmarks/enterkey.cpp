@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From Enter in the entry field to the repainted grid: what a keyer feels with every line.
+// Measures the time from Enter in the entry field to the repainted grid.
 #include "figure.h"
 #include "paintwatch.h"
 #include "workfolder.h"
@@ -18,14 +18,14 @@ namespace {
 
 constexpr int RowCount = 500;
 
-/// The real program, its grid of "3 ตัวตรง" filled with 500 numbers by real keys.
+/// The whole program with 500 numbers in its grid "3 ตัวตรง", entered by key events.
 class Desk
 {
 public:
     Desk() : m_window(startProgram())
     {
         if (!m_window || !QTest::qWaitForWindowActive(m_window.get()))
-            qFatal("the program did not come up");
+            qFatal("the program did not start");
         auto *kinds = m_window->findChild<Combo *>(u"Combo2"_s);
         kinds->setListIndex(kinds->findText(u"- บน"_s));
         m_grid = m_window->findChild<Spread *>(u"fpSpread1"_s);
@@ -33,7 +33,7 @@ public:
             enter(number);
     }
 
-    /// Keys a line; gives the milliseconds from its Enter to the repainted grid.
+    /// Types a line and returns the milliseconds from its Enter to the repainted grid.
     double enter(int number)
     {
         const QString line = QString::number(number).rightJustified(3, u'0') + u"-20"_s;
@@ -63,9 +63,9 @@ Measured measureEnter(benchmark::State &state, int firstNumber)
     const WorkFolder folder;
     Desk desk;
     Samples samples;
-    Samples slow; // the 99th of each hundred
+    Samples slow; // 99th percentile of each hundred
     for ([[maybe_unused]] auto round : state) {
-        // 137 comes by each of the 500 numbers, near and far ones in turn.
+        // Steps of 137 visit all 500 numbers, near and far rows mixed.
         samples.push_back(desk.enter(firstNumber + int(samples.size()) * 137 % RowCount));
         state.SetIterationTime(samples.back() / 1000);
         if (desk.rows().rows() > RowCount)
@@ -74,8 +74,8 @@ Measured measureEnter(benchmark::State &state, int firstNumber)
             slow.push_back(quantile({samples.end() - 100, samples.end()}, 0.99));
     }
     if (desk.rows().rows() != RowCount)
-        qFatal("the grid does not hold its 500 rows");
+        qFatal("the grid does not have 500 rows");
     CloseLedger();
-    // The median of these: a burst of other work on the machine spoils one hundred, not all.
+    // The median of them, since other work on the machine may disturb one hundred.
     return {quantile(slow, 0.5), QString::asprintf("median of all %.1f", quantile(samples, 0.5))};
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Measures what the program promises and prints one table: the figure, its bound, what was
-// measured, the verdict. Ends with status 1 when a bound is missed.
+// Runs the measurements and prints a table with figure, bound, measured value and verdict. Ends
+// with status 1 if a bound is missed.
 #include "figure.h"
 
 #include "desktop/application.h"
@@ -20,7 +20,7 @@ namespace {
 struct Figure
 {
     const char *name;
-    double bound; ///< the highest value that keeps the promise
+    double bound; ///< the highest value that is good enough
     const char *unit;
     int rounds;
     Measured (*measure)(benchmark::State &state);
@@ -28,8 +28,8 @@ struct Figure
 
 using State = benchmark::State;
 
-/// The bound of a figure that promises nothing and is told to show how another grows.
-constexpr double Told = std::numeric_limits<double>::infinity();
+/// Bound of a figure that is printed only to show how another one grows.
+constexpr double NoBound = std::numeric_limits<double>::infinity();
 
 constexpr std::array Figures{
     Figure{"Enter to repainted grid of 500 rows, new row, 99th of 100", 16, "ms", 1000,
@@ -72,9 +72,9 @@ constexpr std::array Figures{
            [](State &state) { return measureCut(state, 4, 1'000'000); }},
     Figure{"Top scan of a full book : 2 bare grouped statements, 0.1 s", 1, "times", 11,
            measureScan},
-    Figure{"Draw check : its bare statements, 1,000 lines", Told, "times", 15,
+    Figure{"Draw check : its bare statements, 1,000 lines", NoBound, "times", 15,
            [](State &state) { return measureWinnerSearch(state, 1'000); }},
-    Figure{"Draw check : its bare statements, 100,000 lines", Told, "times", 15,
+    Figure{"Draw check : its bare statements, 100,000 lines", NoBound, "times", 15,
            [](State &state) { return measureWinnerSearch(state, 100'000); }},
     Figure{"Draw check : its bare statements, 1,000,000 lines", 1.2, "times", 15,
            [](State &state) { return measureWinnerSearch(state, 1'000'000); }},
@@ -90,7 +90,7 @@ constexpr std::array Figures{
            [](State &state) { return measureMemory(state, "xcb"); }},
 };
 
-/// Prints a line of the table as each figure is done.
+/// Prints a line of the table as soon as its figure has been measured.
 class Table : public benchmark::BenchmarkReporter
 {
 public:
@@ -109,35 +109,35 @@ public:
             allMet = allMet.value_or(true) && met;
             std::printf("%-58s %-4g %-5s %10.2f  %-7s  %s\n", figure.name, figure.bound,
                         figure.unit, measured,
-                        figure.bound == Told ? "told"
-                        : met                ? "met"
-                                             : "MISSED",
+                        figure.bound == NoBound ? "info"
+                        : met                   ? "met"
+                                                : "MISSED",
                         run.report_label.c_str());
             std::fflush(stdout);
         }
     }
 
     std::map<std::string, const Figure *> figures;
-    std::optional<bool> allMet; ///< nothing while no figure has been measured
+    std::optional<bool> allMet; ///< std::nullopt while no figure has been measured
 };
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    // Beside this program, since the usual place may lie in memory, where nothing has to wait for
-    // a disk; and so that a running program is no second copy of this one.
-    const QTemporaryDir ownPlace(QFileInfo(QString::fromLocal8Bit(argv[0])).path()
-                                 + QStringLiteral("/benchmark-XXXXXX"));
-    qputenv("TMPDIR", ownPlace.path().toLocal8Bit());
-    // The offscreen platform has something to say of every new size, which is no part of a table.
+    // Next to the executable: /tmp may be in memory, where nothing waits for a disk. A separate
+    // folder also keeps a running program from counting as a second copy.
+    const QTemporaryDir tempFolder(QFileInfo(QString::fromLocal8Bit(argv[0])).path()
+                                   + QStringLiteral("/benchmark-XXXXXX"));
+    qputenv("TMPDIR", tempFolder.path().toLocal8Bit());
+    // The offscreen platform logs a warning for every new window size.
     QLoggingCategory::setFilterRules(QStringLiteral("default.warning=false"));
     const Application application(argc, argv);
     benchmark::Initialize(&argc, argv);
 
     Table table;
     for (const Figure &figure : Figures) {
-        if (figure.measure == measureStartUnderWine && !isStartUnderWineKnown())
+        if (figure.measure == measureStartUnderWine && !isWindowsProgramBuilt())
             continue;
         table.figures[figure.name] = &figure;
         const auto run = [&figure](State &state) {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What single pages promise: the voice of the entry page, the list of customers.
+// Measures the voice of the entry page and the list of customers.
 #include "figure.h"
 #include "paintwatch.h"
 #include "workfolder.h"
@@ -18,15 +18,15 @@ std::unique_ptr<MDIForm1> openProgram(int page)
 {
     auto window = startProgram();
     if (!window || !QTest::qWaitForWindowActive(window.get()))
-        qFatal("the program did not come up");
+        qFatal("the program did not start");
     if (page != 0)
         window->openPage(page);
     QApplication::processEvents();
     return window;
 }
 
-/// The 99th of each hundred, and the median of these: a burst of other work on the machine spoils
-/// one hundred, not all.
+/// Returns the median of the 99th percentiles of each hundred, since other work on the machine may
+/// disturb one hundred.
 Measured slowest(const Samples &samples)
 {
     Samples slow;

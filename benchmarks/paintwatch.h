@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Waiting for a repaint, the end of what a keyer feels.
+// Waits for a repaint, the end of the delay that the user notices.
 #pragma once
 
 #include <QApplication>
@@ -7,17 +7,17 @@
 #include <QEvent>
 #include <QWidget>
 
-/// Notices that a widget has been painted.
+/// Detects that a widget is painted.
 class PaintWatch : public QObject
 {
 public:
     explicit PaintWatch(QWidget *widget) { widget->installEventFilter(this); }
 
-    /// Hands out events until the widget has been painted; ends the program if it never is.
+    /// Processes events until the widget has been painted. Aborts after five seconds.
     void wait() const
     {
-        const QDeadlineTimer patience(5000);
-        while (!m_painted && !patience.hasExpired())
+        const QDeadlineTimer deadline(5000);
+        while (!m_painted && !deadline.hasExpired())
             QApplication::processEvents();
         if (!m_painted)
             qFatal("the widget was not painted");

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What reports promise: the statement of a full book as pages, on screen and in files.
+// Measures the statement of a full book: as pages, on screen and in files.
 #include "figure.h"
 #include "paintwatch.h"
 
@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A book in which each number of each class has been bought.
+/// Returns boards with every number of every class.
 const Boards &fullBook()
 {
     static const Boards boards({1000, 210, 100, 45, 10, 1000, 100, 10});
@@ -31,7 +31,7 @@ std::unique_ptr<ActiveReport2> statement()
         BoardsOnScreen{fullBook().all(), caption, u"เจ๊หมวย"_s, u"150"_s});
 }
 
-/// Milliseconds that @p work takes, and what it says of itself.
+/// Returns the median milliseconds of @p work, with the text that it returns as detail.
 template<typename Work>
 Measured median(benchmark::State &state, Work work)
 {

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// What a save costs: against the least that the engine takes for the same durable rows, and in a
-// Ledger that has grown big.
+// Measures a save against the same durable inserts through SQLite's C interface, and in a big
+// Ledger against a small one.
 #include "drawlines.h"
 #include "figure.h"
 
@@ -17,8 +17,8 @@ namespace {
 
 constexpr int RowCount = 1000;
 
-/// Rows of the measured ticket by class, RowCount in all. A third are tod bets, whose spelling is
-/// looked for in the Ledger.
+/// Rows of the measured ticket by class, RowCount in total. A third are tod bets, for which a save
+/// searches the Ledger for other spellings.
 constexpr std::array<int, ClassCount> RowsByClass{300, 270, 100, 80, 10, 140, 90, 10};
 
 std::vector<BetLine> ticketLines()
@@ -26,7 +26,7 @@ std::vector<BetLine> ticketLines()
     std::vector<BetLine> lines;
     for (size_t at = 0; at < ClassCount; ++at) {
         for (int row = 0; row < RowsByClass[at]; ++row)
-            lines.push_back(betLine(at, 1, row * 37)); // 37 comes by each number once
+            lines.push_back(betLine(at, 1, row * 37)); // steps of 37 use each number once
     }
     return lines;
 }
@@ -41,7 +41,8 @@ struct ThousandRows : Ticket
     }
 };
 
-/// A Ledger with its customers and @p count lines, which stays open beside others of its kind.
+/// A Ledger with customers and @p count lines. It keeps its own connection, so that several can be
+/// open.
 class FilledLedger : public TestLedger
 {
 public:
@@ -55,13 +56,13 @@ public:
         m_connection = std::move(LedgerConnection);
     }
 
-    /// Microseconds a row of a save as the page does it, bar included. The rows are taken out
-    /// again.
+    /// Saves the ticket as the page does, with progress bar, and deletes the rows again. Returns
+    /// the microseconds per row.
     double save(const Ticket &ticket)
     {
         WorkProgress bar;
         LedgerConnection.swap(m_connection);
-        run(u"PRAGMA shrink_memory"_s); // forgets the pages of the save before
+        run(u"PRAGMA shrink_memory"_s); // empties the page cache
         QElapsedTimer clock;
         clock.start();
         saveLines(ticket, u"ลูกค้า 1"_s, bar);
@@ -73,7 +74,8 @@ public:
         return taken;
     }
 
-    /// Closes it and gives the microseconds a row of the same lines inserted bare.
+    /// Closes the Ledger and inserts the same lines through SQLite's C interface. Returns the
+    /// microseconds per row.
     double saveBare()
     {
         m_connection.reset();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What the risk scan costs on a full book, in which every number of the top is bought.
+// Measures the top scan on a full book, with bets on every number on top.
 #include "barefile.h"
 #include "figure.h"
 #include "workfolder.h"
@@ -23,13 +23,14 @@ constexpr const char *GroupedStatement =
     "SELECT num23, updown, numType, numValue, Sum(numBuy) FROM tblNumber WHERE updown = -1"
     " GROUP BY num23, updown, numType, numValue";
 
-/// True if a tod bet may be filed under this spelling: one of each family, none of equal digits.
+/// Returns true for one spelling of each tod bet, the one with ascending digits. Numbers of equal
+/// digits are not tod bets.
 bool isTodSpelling(const QByteArray &number)
 {
     return std::is_sorted(number.begin(), number.end()) && number.front() != number.back();
 }
 
-/// Every number that can be bought on top: 1,000 + 210 + 100 + 45 + 10.
+/// Returns every number that can be bet on top: 1,000 + 210 + 100 + 45 + 10.
 std::vector<BetLine> allTopNumbers()
 {
     std::vector<BetLine> lines;
@@ -44,7 +45,7 @@ std::vector<BetLine> allTopNumbers()
     return lines;
 }
 
-/// The numbers in turn, until the book has its lines.
+/// Returns LineCount lines that repeat all numbers in turn.
 std::vector<BetLine> fullBook()
 {
     const std::vector<BetLine> numbers = allTopNumbers();
@@ -72,7 +73,7 @@ Measured measureScan(benchmark::State &state)
     ViKoC scan(board, {}, nullptr);
     scan.show();
     if (!QTest::qWaitForWindowExposed(&scan))
-        qFatal("the dialog did not come up");
+        qFatal("the dialog did not open");
     Samples ours;
     Samples bare;
     for ([[maybe_unused]] auto round : state) {
@@ -85,7 +86,7 @@ Measured measureScan(benchmark::State &state)
         bare.push_back(bareCopy.read({{GroupedStatement, {}}}));
     }
     if (scan.findChild<Spread *>()->rows() != 365)
-        qFatal("the scan did not find every number that others depend on");
+        qFatal("the scan did not find 365 rows");
     CloseLedger();
     const double taken = quantile(ours, 0.5);
     const double statement = quantile(bare, 0.5);

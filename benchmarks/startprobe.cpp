@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Starts, and prints the clock in milliseconds when its first window has been painted, then the
-// KiB of memory it holds. Usage: start_probe MODE FOLDER, where MODE is
+// Prints the time in milliseconds when its first window has been painted, then its resident memory
+// in KiB, and ends. Usage: start_probe MODE FOLDER, where MODE is
 //   program  the whole program;
-//   rest     the same, with two seconds at rest before the memory is read;
-//   bare     the least that any such program does: open the Ledger, and show a bare window of the
-//            same size and look with one line of text, since loading the type and the breaks of
-//            Thai words is the toolkit's own work.
+//   rest     the same, but reads the memory after two idle seconds;
+//   bare     the minimum: opens the Ledger and shows a window of the same size with one line of
+//            text, for which Qt loads the fonts and its rules for Thai words.
 #include "desktop/application.h"
 #include "desktop/programfolder.h"
 #include "ledger/ledger.h"
@@ -36,8 +35,8 @@ void printMemory()
     std::printf("%s\n", qPrintable(text.section(u"VmRSS:"_s, 1).section(u"kB"_s, 0, 0).trimmed()));
 }
 
-/// Once the first window has been painted, all its widgets in one event, prints what is asked
-/// and ends the program.
+/// Prints time and memory after the first paint of a window, which includes all its widgets, and
+/// ends the program.
 class FirstPaint : public QObject
 {
 public:

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// From the start of a process to its first painted window, and the memory that it holds at rest.
+// Measures the time from the start of a process to its first painted window, and its idle memory.
 #include "figure.h"
 #include "workfolder.h"
 
@@ -15,11 +15,11 @@ namespace {
 
 struct Start
 {
-    double milliseconds; ///< from the birth of the process to its first painted window
-    double megabytes;    ///< held at the end
+    double milliseconds; ///< from the start of the process to its first painted window
+    double megabytes;    ///< resident memory at the end
 };
 
-/// The clock in milliseconds, the same in all processes.
+/// Returns the monotonic time in milliseconds, which is the same for all processes.
 double clockNow()
 {
     const auto now = std::chrono::steady_clock::now().time_since_epoch();
@@ -30,7 +30,7 @@ QProcessEnvironment probeEnvironment(const char *platform)
 {
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"QT_QPA_PLATFORM"_s, QLatin1String(platform));
-    environment.insert(u"TMPDIR"_s, programFolder()); // or it would be a second copy of this one
+    environment.insert(u"TMPDIR"_s, programFolder()); // otherwise it would count as a second copy
     return environment;
 }
 
@@ -40,7 +40,7 @@ void finish(QProcess &probe)
         qFatal("start_probe failed: %s", probe.readAllStandardError().constData());
 }
 
-/// Runs start_probe, which explains @p mode, in the program's folder.
+/// Runs start_probe in the program's folder. For @p mode see startprobe.cpp.
 Start startProbe(const char *platform, const QString &mode)
 {
     QProcess probe;
@@ -54,18 +54,18 @@ Start startProbe(const char *platform, const QString &mode)
     return {painted - begin, kib * 1024 / 1e6};
 }
 
-/// A Windows of its own, without the type of this machine: Wine would list hundreds of families at
-/// each start, where Windows has few and knows them.
+/// Returns an environment with its own Wine prefix and without the machine's fonts: Wine would read
+/// hundreds of them at each start, while Windows has fewer and caches them.
 QProcessEnvironment wineEnvironment()
 {
     auto environment = probeEnvironment("windows");
     environment.insert(u"DESK_WINEPREFIX"_s, QStringLiteral(WINDOWS_BUILD ".start"));
-    environment.insert(u"FONTCONFIG_FILE"_s, programFolder() + u"/types.conf"_s);
+    environment.insert(u"FONTCONFIG_FILE"_s, programFolder() + u"/fonts.conf"_s);
     environment.insert(u"DESK_WINE_BEGIN"_s, programFolder() + u"/begin"_s);
     return environment;
 }
 
-/// Milliseconds from the birth of Wine's process to the program's first painted window.
+/// Returns the milliseconds from the start of Wine to the program's first painted window.
 double startUnderWine()
 {
     QProcess probe;
@@ -76,20 +76,20 @@ double startUnderWine()
     const double painted = probe.readLine().trimmed().toDouble();
     QFile begin(programFolder() + u"/begin"_s);
     if (!begin.open(QIODevice::ReadOnly))
-        qFatal("wine.sh did not tell when it began");
+        qFatal("wine.sh did not write its start time");
     return painted - begin.readAll().trimmed().toDouble() * 1000;
 }
 
-/// Lays out what the program is shipped with, and tells Wine of no type beside it.
-void shipType()
+/// Copies the shipped fonts into the program's folder and hides all others from Wine.
+void copyShippedFonts()
 {
-    const QDir type(QStringLiteral(WINDOWS_BUILD "/fonts"));
+    const QDir fonts(QStringLiteral(WINDOWS_BUILD "/fonts"));
     QDir(programFolder()).mkdir(u"fonts"_s);
-    for (const QString &file : type.entryList(QDir::Files))
-        QFile::copy(type.filePath(file), programFolder() + u"/fonts/"_s + file);
-    QFile none(programFolder() + u"/types.conf"_s);
+    for (const QString &file : fonts.entryList(QDir::Files))
+        QFile::copy(fonts.filePath(file), programFolder() + u"/fonts/"_s + file);
+    QFile none(programFolder() + u"/fonts.conf"_s);
     if (!none.open(QIODevice::WriteOnly) || none.write("<fontconfig/>\n") < 0)
-        qFatal("the folder of the program cannot be written");
+        qFatal("the program's folder is not writable");
 }
 
 } // namespace
@@ -99,7 +99,7 @@ Measured measureStart(benchmark::State &state, const char *platform)
     const WorkFolder folder;
     Samples ours;
     Samples bare;
-    startProbe(platform, u"program"_s); // brings the files into memory for both
+    startProbe(platform, u"program"_s); // fills the disk cache for both
     for ([[maybe_unused]] auto round : state) {
         ours.push_back(startProbe(platform, u"program"_s).milliseconds);
         bare.push_back(startProbe(platform, u"bare"_s).milliseconds);
@@ -119,7 +119,7 @@ Measured measureMemory(benchmark::State &state, const char *platform)
     return {start.megabytes, {}};
 }
 
-bool isStartUnderWineKnown()
+bool isWindowsProgramBuilt()
 {
     return QFile::exists(QStringLiteral(WINDOWS_BUILD "/start_probe.exe"));
 }
@@ -127,9 +127,10 @@ bool isStartUnderWineKnown()
 Measured measureStartUnderWine(benchmark::State &state)
 {
     const WorkFolder folder;
-    shipType();
-    startUnderWine(); // the first time makes the Windows
-    // Windows has its desktop up before a program starts; Wine's stays while a program is there.
+    copyShippedFonts();
+    startUnderWine(); // creates the Wine prefix
+    // On Windows the desktop runs before a program starts. Wine ends its own with the last program,
+    // so keep one running.
     QProcess desktop;
     desktop.setProcessEnvironment(wineEnvironment());
     desktop.start(QStringLiteral(WINE), {u"notepad"_s});

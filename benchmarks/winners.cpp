@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What a draw check costs: against the statements that it runs, and until thousands of winners
-// are on the screen.
+// Measures a draw check against its bare statements, and until thousands of winners are painted.
 #include "barefile.h"
 #include "figure.h"
 #include "paintwatch.h"
@@ -36,16 +35,16 @@ ResultDigits resultDigits()
     return digits;
 }
 
-/// Any number of any class for any customer: some 5,000 winning rows in a million lines.
+/// Returns random lines: some 5,000 winning rows in a million lines.
 std::vector<BetLine> mixedLines(int count)
 {
-    std::mt19937 dice(20261122);
+    std::mt19937 generator(20261122);
     std::vector<BetLine> lines;
     lines.reserve(size_t(count));
     for (size_t at = 0; at < size_t(count); ++at) {
         const BetClass &betClass = BetClasses[at % ClassCount];
-        lines.push_back({&betClass, 1 + int(dice() % CustomerCount),
-                         QByteArray::number(1000 + uint(dice() % 1000)).right(betClass.num23)});
+        lines.push_back({&betClass, 1 + int(generator() % CustomerCount),
+                         QByteArray::number(1000 + uint(generator() % 1000)).right(betClass.num23)});
     }
     return lines;
 }
@@ -58,7 +57,7 @@ void addCustomers(const TestLedger &ledger, int count)
                {count});
 }
 
-/// A closed Ledger of @p lines lines and fifty hot numbers.
+/// A closed Ledger with @p lines lines and fifty hot numbers.
 class BigBook : public TestLedger
 {
 public:
@@ -73,7 +72,7 @@ public:
     }
 };
 
-/// Seconds of a whole check, from an opened Ledger to the row that keeps the result.
+/// Checks a draw and returns the seconds from the opened Ledger to the stored result.
 double checkDraw(int &winners)
 {
     ConnectLedger();
@@ -128,7 +127,7 @@ Measured measureWinnersShown(benchmark::State &state)
     CloseLedger();
     const auto window = startProgram();
     if (!window || !QTest::qWaitForWindowActive(window.get()))
-        qFatal("the program did not come up");
+        qFatal("the program did not start");
     window->openPage(3);
     auto *grid = window->findChild<Spread *>(u"fpSpread1"_s);
     auto *button = window->findChild<QAbstractButton *>(u"Command18"_s);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A program folder for a measurement: the real look and words, and an empty Ledger that is closed.
+// A program folder for a measurement: the real style sheet and sounds, and a closed, empty Ledger.
 #pragma once
 
 #include "desktop/programfolder.h"
@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 
-/// The program's folder for as long as it lives.
+/// Is the program's folder as long as the object exists.
 class WorkFolder : public TestLedger
 {
 public:
