@@ -1,6 +1,6 @@
 # SPDX-License-Identifier: MIT
-# What only the Windows program has: icon, version and manifest inside, and beside it the type and
-# the libraries, so that the build folder runs as the shipped one does.
+# Additions of the Windows program: icon, version and manifest as resources, and the fonts beside
+# it, so that it finds them in the build folder as in the shipped folder.
 enable_language(RC)
 foreach(file IN ITEMS rc manifest)
     configure_file(${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.${file}.in
@@ -11,7 +11,7 @@ set_source_files_properties(${PROJECT_BINARY_DIR}/mirakla-desk.rc
     TARGET_DIRECTORY mirakla-desk PROPERTIES OBJECT_DEPENDS
     "${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.ico;${PROJECT_BINARY_DIR}/mirakla-desk.manifest")
 
-foreach(type IN ITEMS NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold
+foreach(font IN ITEMS NotoSans-Regular NotoSans-Bold NotoSansThai-Regular NotoSansThai-Bold
         NotoSansSymbols-Regular)
-    file(COPY /usr/share/fonts/truetype/noto/${type}.ttf DESTINATION ${PROJECT_BINARY_DIR}/fonts)
+    file(COPY /usr/share/fonts/truetype/noto/${font}.ttf DESTINATION ${PROJECT_BINARY_DIR}/fonts)
 endforeach()

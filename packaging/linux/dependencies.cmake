@@ -1,51 +1,51 @@
 # SPDX-License-Identifier: MIT
-# Carries into FOLDER what PROGRAM and PLUGINS need and a desktop need not have, and the licence of
-# each thing carried, TYPES among them. Runs while the folder is installed. No link is made, so that
-# the folder can live on a stick that knows none.
+# Copies into FOLDER the libraries that PROGRAM and PLUGINS need and a desktop may lack, and the
+# licences of all copied files, FONTS included. Runs at install time. Makes no symbolic links, so
+# that the folder also works on a FAT stick.
 
-# Every desktop has these, and needs its own: the C and C++ run time, the X server's client side,
-# the graphics drivers' base, type, sound, glib, D-Bus. Printing belongs to the machine altogether.
-set(left_to_the_desktop
+# Not copied, since every desktop has its own version of these: C and C++ runtime, X11 client
+# libraries, graphics drivers, fonts, sound, GLib, D-Bus and printing.
+set(system_libraries
     ld-linux c m dl pthread rt resolv util stdc\\+\\+ gcc_s
     X11 X11-xcb xcb drm gbm
     fontconfig freetype expat png16 brotlidec brotlicommon z harfbuzz
     asound glib-2.0 gobject-2.0 gmodule-2.0 dbus-1 systemd cups)
-list(JOIN left_to_the_desktop | left_pattern)
+list(JOIN system_libraries | system_pattern)
 
 file(GET_RUNTIME_DEPENDENCIES EXECUTABLES ${PROGRAM} MODULES ${PLUGINS}
     RESOLVED_DEPENDENCIES_VAR libraries UNRESOLVED_DEPENDENCIES_VAR missing
-    PRE_EXCLUDE_REGEXES "^(lib(${left_pattern})|ld-linux.*)\\.so")
+    PRE_EXCLUDE_REGEXES "^(lib(${system_pattern})|ld-linux.*)\\.so")
 if(missing)
     message(FATAL_ERROR "These libraries are not on this machine: ${missing}")
 endif()
 
-# lead_home(FILE): a search path that a library came with has to lead to its new neighbours.
-function(lead_home file)
+# set_runpath(FILE): makes a library that has a search path search its own folder instead.
+function(set_runpath file)
     file(READ_ELF "${file}" RUNPATH own)
     if(own)
         file(RPATH_CHANGE FILE "${file}" OLD_RPATH "${own}" NEW_RPATH "$ORIGIN")
     endif()
 endfunction()
 
-set(sources ${TYPES})
+set(sources ${FONTS})
 foreach(library IN LISTS libraries)
     cmake_path(GET library FILENAME name)
     file(REAL_PATH "${library}" source)
     list(APPEND sources "${source}")
     file(INSTALL FILES "${source}" DESTINATION "${FOLDER}/lib" RENAME "${name}")
-    lead_home("${FOLDER}/lib/${name}")
+    set_runpath("${FOLDER}/lib/${name}")
 endforeach()
 foreach(plugin IN LISTS PLUGINS)
-    cmake_path(GET plugin PARENT_PATH room)
-    cmake_path(GET room FILENAME room)
+    cmake_path(GET plugin PARENT_PATH kind)
+    cmake_path(GET kind FILENAME kind)
     list(APPEND sources "${plugin}")
-    file(INSTALL FILES "${plugin}" DESTINATION "${FOLDER}/plugins/${room}")
+    file(INSTALL FILES "${plugin}" DESTINATION "${FOLDER}/plugins/${kind}")
 endforeach()
 
-# The package system knows a file by the name it was shipped under, which may lack the leading /usr.
+# dpkg lists a file under the path in its package, which may lack the leading /usr.
 list(TRANSFORM sources REPLACE "^/usr/" "/" OUTPUT_VARIABLE shipped)
 execute_process(COMMAND dpkg-query -S ${sources} ${shipped} OUTPUT_VARIABLE owners ERROR_QUIET)
-string(REGEX REPLACE "diversion by [^\n]*\n" "" owners "${owners}") # Ubuntu moves one library aside
+string(REGEX REPLACE "diversion by [^\n]*\n" "" owners "${owners}") # Ubuntu diverts one library
 foreach(source IN LISTS sources)
     cmake_path(GET source FILENAME name)
     string(FIND "${owners}" "/${name}\n" found)
