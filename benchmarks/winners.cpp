@@ -43,8 +43,9 @@ std::vector<BetLine> mixedLines(int count)
     lines.reserve(size_t(count));
     for (size_t at = 0; at < size_t(count); ++at) {
         const BetClass &betClass = BetClasses[at % ClassCount];
-        lines.push_back({&betClass, 1 + int(generator() % CustomerCount),
-                         QByteArray::number(1000 + uint(generator() % 1000)).right(betClass.num23)});
+        lines.push_back(
+            {&betClass, 1 + int(generator() % CustomerCount),
+             QByteArray::number(1000 + uint(generator() % 1000)).right(betClass.num23)});
     }
     return lines;
 }

@@ -25,35 +25,35 @@ void drawWithPainter(QPainter &painter, QPointF baseline, const QString &text)
 /// Returns the left edge of a text of @p width in its control.
 double leftOf(const PageItem &item, double width)
 {
-    const double room = item.box.width() - 2 * Inset;
+    const double space = item.box.width() - 2 * Inset;
     const double left = item.box.left() + Inset;
     if (item.style.alignment & Qt::AlignRight)
-        return left + room - width;
-    return item.style.alignment & Qt::AlignHCenter ? left + std::max(0.0, (room - width) / 2)
+        return left + space - width;
+    return item.style.alignment & Qt::AlignHCenter ? left + std::max(0.0, (space - width) / 2)
                                                    : left;
 }
 
 void drawTextItem(QPainter &painter, const PageItem &item, const TextDrawer &drawText)
 {
     const QFontMetricsF metrics(painter.font());
-    const double room = item.box.width() - 2 * Inset;
+    const double space = item.box.width() - 2 * Inset;
     const double width = metrics.horizontalAdvance(item.text);
     const double baseline =
         std::round(item.box.top() + (item.box.height() - metrics.height()) / 2 + metrics.ascent());
     if (item.style.onWhite) {
-        const double left = leftOf(item, std::min(width, room)) - Inset / 2.0;
+        const double left = leftOf(item, std::min(width, space)) - Inset / 2.0;
         painter.fillRect(
-            QRectF(left, item.box.top(), std::min(width, room) + Inset, item.box.height()),
+            QRectF(left, item.box.top(), std::min(width, space) + Inset, item.box.height()),
             Qt::white);
     }
-    if (width <= room) { // usual, and a clip for each text would double the size of a PDF
+    if (width <= space) { // usual, and a clip for each text would double the size of a PDF
         drawText(painter, {std::round(leftOf(item, width)), baseline}, item.text);
         return;
     }
     painter.save();
     if (item.style.whole) {
         painter.translate(item.box.left() + Inset, baseline);
-        painter.scale(room / width, 1);
+        painter.scale(space / width, 1);
         drawText(painter, {0, 0}, item.text);
     } else {
         painter.setClipRect(item.box);

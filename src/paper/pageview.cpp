@@ -61,8 +61,8 @@ int PageView::pageStep() const
 QRect PageView::pageRect(int page) const
 {
     const QSize size = pageSize();
-    const int room = viewport()->width() - size.width();
-    const int left = room > 2 * Gap ? room / 2 : Gap - horizontalScrollBar()->value();
+    const int space = viewport()->width() - size.width();
+    const int left = space > 2 * Gap ? space / 2 : Gap - horizontalScrollBar()->value();
     return {QPoint(left, Gap + (page - 1) * pageStep() - verticalScrollBar()->value()), size};
 }
 
@@ -120,14 +120,14 @@ void PageView::layOut()
 {
     m_pictures.clear();
     m_laidOutStep = pageStep();
-    const QSize room = viewport()->size();
+    const QSize space = viewport()->size();
     const int height = Gap + pageCount() * pageStep();
-    verticalScrollBar()->setRange(0, std::max(0, height - room.height()));
-    verticalScrollBar()->setPageStep(room.height());
+    verticalScrollBar()->setRange(0, std::max(0, height - space.height()));
+    verticalScrollBar()->setPageStep(space.height());
     verticalScrollBar()->setSingleStep(60);
     const int width = m_zoom == FitWidth ? 0 : pageSize().width() + 2 * Gap;
-    horizontalScrollBar()->setRange(0, std::max(0, width - room.width()));
-    horizontalScrollBar()->setPageStep(room.width());
+    horizontalScrollBar()->setRange(0, std::max(0, width - space.width()));
+    horizontalScrollBar()->setPageStep(space.width());
     viewport()->update();
 }
 
