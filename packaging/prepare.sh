@@ -16,6 +16,7 @@
 #   fuzz    to build the fuzzers by hand
 #   windows to build and try the program for Windows
 #   voice   to make the recordings anew
+#   pictures to make the icon and the pictures of README and guide anew
 packages='
 build   build-essential   the C++ compiler, the linker and the system headers
 build   cmake             configures the build and runs the tests
@@ -49,6 +50,8 @@ windows wine64            the part of it that does
 voice   espeak-ng         speaks the words of the recordings
 voice   sox               trims and levels the recordings
 voice   lame              packs the recordings
+pictures imagemagick      draws the icon
+pictures pngquant         reduces pictures to a palette
 '
 
 # Says why the script cannot go on, and ends it.
