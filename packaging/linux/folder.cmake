@@ -18,6 +18,7 @@ set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY ON) # the folder needs the program, not th
 install(TARGETS mirakla-desk DESTINATION .)
 install(FILES ${CMAKE_CURRENT_LIST_DIR}/qt.conf DESTINATION .)
 install(FILES ${PROJECT_SOURCE_DIR}/LICENSE DESTINATION . RENAME LICENSE.txt)
+install(PROGRAMS ${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.desktop DESTINATION .) # desktops ask for that bit
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/packaging/guide/ DESTINATION .)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/data DESTINATION .)
 

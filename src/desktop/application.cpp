@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFont>
 #include <QFontDatabase>
+#include <QIcon>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,9 @@ Application::Application(int &argc, char **argv) : QApplication(withFusionStyle(
     QFont font(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s, u"Noto Sans Symbols"_s});
     font.setPointSize(11);
     setFont(font);
+#ifndef Q_OS_WIN // Windows takes the icon from the executable
+    setWindowIcon(QIcon(programFile(u"data/mirakla-desk.png"_s)));
+#endif
     setBoxShower(showMessageBox);
     setSaveDialog(showSaveDialog);
 }

@@ -45,7 +45,12 @@ saw()
 }
 
 lay_out
-visit || fail "the program ended with status $?: $(cat "$place/seen" "$place/errors")"
+# As a desktop starts it. Once the backslashes of the file format are undone, Exec is quoted as a
+# shell quotes; %k is the path of the desktop file.
+# shellcheck disable=SC2016 # expanded by the shell that runs it
+exec_line=$(sed -n 's/^Exec=//p' "$folder/mirakla-desk.desktop" | sed 's/\\\\/\\/g; s/%k/"$0.desktop"/')
+[[ -x $folder/mirakla-desk.desktop ]] || fail "the desktop file may not be started"
+visit bash -c "$exec_line" || fail "the program ended with status $?: $(cat "$place/seen" "$place/errors")"
 
 rows=$(sqlcipher "$book" "PRAGMA key = '639417'; PRAGMA cipher_compatibility = 3;
     SELECT NameFK, num23, updown, numType, numValue, numBuy FROM tblNumber;" | tail -n 1)
@@ -53,6 +58,8 @@ rows=$(sqlcipher "$book" "PRAGMA key = '639417'; PRAGMA cipher_compatibility = 3
 [[ ! -e $book-wal ]] || fail "the book was not closed"
 [[ $(saw type) == 'Noto Sans, Noto Sans Thai' ]] || fail "Thai is drawn with: $(saw type)"
 pdffonts "$place/paper.pdf" | grep -q 'NotoSansThai.*Identity-H *yes' || fail "Thai is not printed"
+
+[[ $(saw icon) == 1 ]] || fail "the window has no icon"
 
 # Whatever the folder carries has to come from there, and Qt from nowhere else.
 grep -qF "file: $folder/plugins/platforms/libqxcb.so" "$place/seen" || fail "no window system"

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QGenericPlugin>
 #include <QGlyphRun>
+#include <QIcon>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPainter>
@@ -89,6 +90,7 @@ void keyOneTicket(QWidget *window)
         return;
     }
     tell(u"type: "_s + typeOfThai());
+    tell(u"icon: "_s + QString::number(QApplication::windowIcon().availableSizes().size()));
     printThai();
     window->findChild<QWidget *>(u"Tnumber"_s)->setFocus();
     press(Qt::Key_F1);
