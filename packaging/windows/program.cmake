@@ -2,6 +2,8 @@
 # Additions of the Windows program: icon, version and manifest as resources, and the fonts beside
 # it, so that it finds them in the build folder as in the shipped folder.
 enable_language(RC)
+string(REGEX MATCH "^[0-9]+[.][0-9]+[.][0-9]+[.][0-9]+" four_numbers "${PROJECT_VERSION}.0.0.0")
+string(REPLACE "." "," four_numbers_rc "${four_numbers}")
 foreach(file IN ITEMS rc manifest)
     configure_file(${CMAKE_CURRENT_LIST_DIR}/mirakla-desk.${file}.in
         ${PROJECT_BINARY_DIR}/mirakla-desk.${file} @ONLY)
