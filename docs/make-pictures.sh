@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Takes the pictures of the README and the guide anew: plays the tour and copies
+# Takes the pictures of the README and the guide: plays the tour and copies
 # the screens named below. windows.png is taken by hand under Windows.
 
 set -euo pipefail

@@ -16,7 +16,7 @@
 #   fuzz    to build the fuzzers by hand
 #   windows to build and try the program for Windows
 #   voice   to make the recordings anew
-#   pictures to make the icon and the pictures of README and guide anew
+#   pictures to make the icon and the pictures of README and guide
 packages='
 build   build-essential   the C++ compiler, the linker and the system headers
 build   cmake             configures the build and runs the tests
