@@ -8,6 +8,8 @@
 
 #include <QByteArray>
 
+#include <optional>
+
 /// Identifies a file independently of its name. No two existing files have the same id.
 struct FileId
 {
@@ -17,12 +19,16 @@ struct FileId
     bool operator==(const FileId &) const = default;
 };
 
-/// Returns the id of the file at @p path, or one of zeros if there is none or it cannot be read.
-FileId fileIdAt(const QByteArray &path);
+/// Returns the id of the file at @p path, one of zeros if there is no file, or std::nullopt if that
+/// cannot be determined, for example on a drive that does not answer.
+std::optional<FileId> fileIdAt(const QByteArray &path);
 
 /// Returns false if the file at @p path is missing or is not @p id. Returns true if that cannot be
-/// determined, for example on a drive that does not answer: reading and writing fail there anyway.
-bool leadsTo(const QByteArray &path, const FileId &id);
+/// determined: reading and writing fail there anyway.
+inline bool leadsTo(const QByteArray &path, const FileId &id)
+{
+    return fileIdAt(path).value_or(id) == id;
+}
 
 /// Checks the write permission of a file or folder. Under Windows folders always count as
 /// writable.

@@ -2,16 +2,12 @@
 #include "desktop/filesystem.h"
 
 #include <cerrno>
-#include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace {
-
-/// Returns a FileId of zeros if there is no file, std::nullopt if that cannot be determined.
-std::optional<FileId> findFile(const QByteArray &path)
+std::optional<FileId> fileIdAt(const QByteArray &path)
 {
     struct stat found;
     if (stat(path.constData(), &found) == 0)
@@ -19,18 +15,6 @@ std::optional<FileId> findFile(const QByteArray &path)
     if (errno == ENOENT || errno == ENOTDIR)
         return FileId{};
     return std::nullopt;
-}
-
-} // namespace
-
-FileId fileIdAt(const QByteArray &path)
-{
-    return findFile(path).value_or(FileId{});
-}
-
-bool leadsTo(const QByteArray &path, const FileId &id)
-{
-    return findFile(path).value_or(id) == id;
 }
 
 bool mayBeWritten(const QByteArray &path)

@@ -100,8 +100,8 @@ struct Connection::Place
     /// To be called once SQLite has opened both.
     void remember()
     {
-        file = fileIdAt(encodedPath);
-        wal = fileIdAt(encodedWal);
+        file = fileIdAt(encodedPath).value_or(FileId{});
+        wal = fileIdAt(encodedWal).value_or(FileId{});
         permissions = QFile::permissions(realPath);
     }
 
