@@ -21,7 +21,7 @@ Installs the release SUITE of Debian or Ubuntu (bookworm, trixie, noble, ...)
 into build/bare/SUITE, clones the last commit into a home folder whose name has
 a blank and Thai letters, runs ./run and ./test there, then ./run once more
 without network, and prints how long each took. Where this machine has built its
-own tests, one book is then kept by turns here and there. Must be started by root.
+own tests, one book is then used alternately here and there. Must be started by root.
 
   --root            Run the commands as root; otherwise as a user with sudo.
   --keep            Leave the system in build/bare/SUITE for further trials.
@@ -127,9 +127,9 @@ try_commands()
     if [[ -x build/release/keeper ]]; then
         tests/twosystems/bothways.sh build/release "$build/keeper" "$build/make-empty-ledger" \
             packaging/bare.sh --inside "$suite" || die "one book cannot be kept here and on $suite"
-        report+=("one book kept by turns here and there")
+        report+=("one book used alternately here and there")
     else
-        report+=("one book kept by turns NOT RUN: ./test has not been run here")
+        report+=("one book used alternately NOT RUN: ./test has not been run here")
     fi
 }
 

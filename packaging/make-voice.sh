@@ -26,8 +26,8 @@ USAGE
 # phonemes ("_" parts words), and the Thai.
 #
 # The figure after a vowel is its tone: 1 rising, 2 low, 3 mid, 4 high,
-# 5 falling. A colon makes the vowel long, a quote leans on the syllable that
-# tells the word from its like; "**" is the tapped r. Thai does not release the
+# 5 falling. A colon makes the vowel long, a quote stresses the syllable that
+# distinguishes the word from similar ones; "**" is the tapped r. Thai does not release the
 # stop that ends a syllable: inside a recording it is written "b", the one here
 # that is held shut, and at the end of one the release is cut off.
 #

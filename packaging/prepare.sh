@@ -2,7 +2,7 @@
 # shellcheck shell=bash
 #
 # What the other scripts share: the packages the project needs, and how to
-# install and build. Source it from a bash script that stands at the root of the
+# install and build. Source it from a bash script in the root of the
 # tree, or run it by itself ("bash packaging/prepare.sh") to install everything
 # a contributor needs.
 
@@ -15,13 +15,13 @@
 #   lint    to check source and scripts
 #   fuzz    to build the fuzzers by hand
 #   windows to build and try the program for Windows
-#   voice   to make the recordings anew
+#   voice   to make the recordings
 #   pictures to make the icon and the pictures of README and guide
 packages='
 build   build-essential   the C++ compiler, the linker and the system headers
 build   cmake             configures the build and runs the tests
 build   ninja-build       carries out the build
-build   pkg-config        tells the build where the libraries below are
+build   pkg-config        finds the libraries below
 build   qt6-base-dev      windows, widgets and the X11 platform plugin
 build   libgl-dev         OpenGL headers, without which Qt is not found by CMake
 build   libsqlcipher-dev  the encrypted database that holds the book

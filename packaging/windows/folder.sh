@@ -2,9 +2,9 @@
 # SPDX-License-Identifier: MIT
 #
 # Lays out the folder that is shipped: folder.sh BUILD FOLDER, which must not be
-# there yet, since a book may lie in one that is. It holds the program, its data
-# with an empty Ledger, the type, and every library that they ask for and that
-# Windows does not have, with the makers' licenses.
+# there yet, since it may contain a book. Puts in the program, its data with an
+# empty Ledger, the fonts, and every library that they need and that Windows does
+# not have, with its license.
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -14,7 +14,7 @@ source "$root/packaging/windows/places.sh"
 build=$1 folder=$2
 [[ ! -e $folder ]] || die "$folder is there already"
 mapfile -t places < <(echo "$prefix/bin" && runtime_places)
-# Libraries that Windows has are those that Wine has made anew, and all of its own interface names.
+# Windows has the libraries that Wine reimplements, and the api-ms-win-* names.
 windows_has=/usr/lib/$(gcc -print-multiarch)/wine/x86_64-windows
 
 # Copies what a program or library asks for, and what that asks for in its turn.
@@ -26,7 +26,7 @@ add_libraries_of()
         for place in "${places[@]}"; do
             [[ -e $place/$name ]] && break
         done
-        [[ -e $place/$name ]] || die "$1 asks for $name, which nobody has"
+        [[ -e $place/$name ]] || die "$1 needs $name, which was not found"
         cp "$place/$name" "$folder/"
         add_libraries_of "$folder/$name"
     done
@@ -36,7 +36,7 @@ mkdir -p "$folder"/{data,platforms,licenses}
 cp "$build/mirakla-desk.exe" "$folder/"
 cp "$prefix/plugins/platforms/qwindows.dll" "$folder/platforms/"
 cp -r "$build/fonts" "$folder/"
-# Not the data of the build, in which somebody may have tried the program.
+# Not the data of the build, which may have been used.
 cp -r "$root/data/." "$folder/data/"
 "$root/packaging/windows/wine.sh" "$build/make-empty-ledger.exe" "$folder/data/ztkdata.ZDB"
 
@@ -54,7 +54,7 @@ cp "$root/packaging/prepare.sh" "$folder/licenses/libraries/"
 cp "$windows"/{dependencies.sh,places.sh,toolchain.cmake} "$folder/licenses/libraries/windows/"
 {
     printf '\nMade from those sources by libraries/windows/dependencies.sh.\n'
-    printf '\nThe run time of the compiler and the type come from these packages of Debian:\n\n'
+    printf '\nThe run time of the compiler and the fonts come from these packages of Debian:\n\n'
     dpkg-query -W -f='${Package} ${Version}\n' gcc-mingw-w64-x86-64-posix-runtime \
         mingw-w64-x86-64-dev fonts-noto-core
 } >>"$folder/licenses/PACKAGES.txt"

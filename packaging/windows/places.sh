@@ -5,7 +5,7 @@
 
 windows=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
-# What the names of the compiler and its tools begin with; it stands in the toolchain alone.
+# Prefix of the names of the compiler and its tools, as set in the toolchain file.
 target=$(sed -nE 's/^set\(target (.*)\)$/\1/p' "$windows/toolchain.cmake")
 
 # The libraries that dependencies.sh builds, under a name made from that file and the toolchain,

@@ -17,7 +17,7 @@ export LC_ALL=C.UTF-8
 # For tests that name a file to a program of this machine.
 export DESK_WINE_DRIVES=$WINEPREFIX/dosdevices
 
-# Root may pass over a file's rights, and the Windows that it runs would too.
+# Root may ignore a file's permissions, and so would the Windows that it runs.
 plainly=()
 if ((EUID == 0)); then
     plainly=(setpriv --inh-caps=-dac_override --bounding-set=-dac_override)
@@ -50,7 +50,7 @@ mkdir -p "$WINEPREFIX"
     wineserver -k0 2>/dev/null || "${plainly[@]}" wine wineboot >/dev/null 2>&1 9>&- </dev/null
 ) 9>"$WINEPREFIX/lock"
 
-# Wine keeps variables that begin with QT_ to itself, unless WINE stands before them.
+# Wine passes variables that begin with QT_ only if they have the prefix WINE.
 for name in "${!QT_@}"; do
     export "WINE$name=${!name}"
 done
