@@ -56,15 +56,15 @@ void Form2::connectControls()
     connect(m_ui->Tname, &QLineEdit::textEdited, this, &Form2::tidyName);
 }
 
-/// Keeps what is typed or pasted to one line. The limit of its length binds what is typed: a name
-/// picked from the list may be longer by its blank.
+/// Removes line breaks and other control characters from what is typed or pasted. Limits the length
+/// to LongestName; only a name picked from the list can be longer, by its leading space.
 void Form2::tidyName(const QString &text)
 {
     const auto isControl = [](QChar character) { return character < u' '; };
     const auto breaks = std::count_if(text.begin(), text.end(), isControl);
     const int limit = int(std::max(LongestName, text.size() - breaks));
     if (breaks == 0 && limit == m_ui->Tname->maxLength())
-        return; // setting either puts the cursor at the end
+        return; // both setters move the cursor to the end
     const auto cursor = m_ui->Tname->cursorPosition() - breaks;
     QString line = text;
     line.removeIf(isControl);
@@ -80,7 +80,8 @@ void Form2::showEvent(QShowEvent *event)
         m_ui->Tname->setFocus();
 }
 
-/// Keys that no control has taken: a text field edits with Delete, so there it never gets here.
+/// Keys that the focused control has not handled. Delete in a text field must never delete a
+/// customer, not even with a modifier that the field ignores.
 void Form2::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_F5)
@@ -91,8 +92,8 @@ void Form2::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-/// Fills the list, with all customers or those that the search names. The customer of the active
-/// row stays active if he is still listed.
+/// Lists all customers or, with @p search, those whose name contains the text searched for. The
+/// active customer stays active if the new list contains him.
 void Form2::Loaddata(bool search)
 {
     const QString active = m_list.text(m_ui->fpSpread1->activeRow(), 0);
@@ -114,7 +115,7 @@ void Form2::fpSpread1_RowPicked(int row)
     m_ui->Tpercen->setText(m_list.text(row, PercentColumn));
 }
 
-/// "เพิ่มลูกค้า": adds the customer of the fields.
+/// "เพิ่มลูกค้า": adds a customer from the fields.
 void Form2::lvButtons_H0_Click()
 {
     if (isBlank(m_ui->Tname)) {
@@ -143,14 +144,14 @@ void Form2::lvButtons_H0_Click()
     Loaddata(false);
 }
 
-/// "แก้ไขเบอร์": changes the telephone of the active row's customer.
+/// "แก้ไขเบอร์": changes the telephone number of the customer in the active row.
 void Form2::lvButtons_H1_Click()
 {
     change({m_ui->Tber, u"กรุณาระบุ ( เบอร์ติดต่อ ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s,
             u"คุณแน่ใจว่าต้องการแก้ไขเบอร์ ของ "_s, TelephoneField});
 }
 
-/// "แก้ไขส่วนลด": changes the discount of the active row's customer.
+/// "แก้ไขส่วนลด": changes the discount of the customer in the active row.
 void Form2::lvButtons_H3_Click()
 {
     change({m_ui->Tpercen, u"กรุณาระบุ ( ส่วนลด ) ที่ต้องการ  ก่อนเริ่มบันทึก"_s,
@@ -161,7 +162,7 @@ void Form2::change(const Change &what)
 {
     if (m_list.rows() == 0)
         return;
-    const qint32 key = activeKey(); // whatever customer the fields show
+    const qint32 key = activeKey(); // even if the fields show another customer
     if (isBlank(m_ui->Tname)) {
         refuse(u"กรุณาเลือกรายชื่อ ( ลูกค้า ) ที่ต้องการแก้ไขก่อนดำเนินการ"_s);
         return;
@@ -177,7 +178,7 @@ void Form2::change(const Change &what)
     Loaddata(false);
 }
 
-/// "รีโหลดข้อมูล(F5)": lists all customers and empties the fields.
+/// "รีโหลดข้อมูล(F5)": lists all customers and clears the fields.
 void Form2::lvButtons_H4_Click()
 {
     m_ui->text1->clear();
@@ -185,7 +186,7 @@ void Form2::lvButtons_H4_Click()
     Loaddata(false);
 }
 
-/// "เริ่มค้นหา": lists the customers whose name holds the text searched for.
+/// "เริ่มค้นหา": lists the customers whose name contains the text searched for.
 void Form2::lvButtons_H5_Click()
 {
     if (isBlank(m_ui->text1)) {
@@ -197,8 +198,8 @@ void Form2::lvButtons_H5_Click()
     Loaddata(true);
 }
 
-/// "ลบลูกค้า (Del)": deletes the active row's customer, unless a line of the draw names him: lines
-/// of a customer who is gone would win nothing.
+/// "ลบลูกค้า (Del)": deletes the customer in the active row unless he has bets in this draw. The
+/// winner search skips bets of missing customers, so they could never win.
 void Form2::cDel_Click()
 {
     if (m_list.rows() == 0)
@@ -218,7 +219,8 @@ void Form2::cDel_Click()
     Loaddata(false);
 }
 
-/// The title speaks of deleting, as keyers know it from all questions.
+/// Asks @p question about the customer in the fields. The title asks to confirm a deletion,
+/// although nothing is deleted: users are used to it.
 bool Form2::confirm(const QString &question)
 {
     return ask(question + u"\n\n[ "_s + m_ui->Tname->text() + u" ][ "_s + m_ui->Tber->text()

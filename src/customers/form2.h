@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The page "ข้อมูลลูกค้า": the agent's customers with telephone and discount.
+// The page "ข้อมูลลูกค้า": the list of customers with their telephone numbers and discounts.
 #pragma once
 
 #include "customers/register.h"
@@ -20,7 +20,7 @@ class Form2 : public QWidget
     Q_OBJECT
 
 public:
-    /// @p progress covers the wait while the list is filled; it must outlive the page.
+    /// @p progress shows the progress of filling the list; it must outlive the page.
     Form2(ProgressBar &progress, QWidget *parent);
     ~Form2() override;
 
@@ -29,7 +29,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    /// What sets the change of one column apart from that of another.
+    /// Describes how one column of a customer is changed: its field, boxes and name.
     struct Change
     {
         QLineEdit *field;

@@ -17,7 +17,7 @@ constexpr std::array Columns{
     GridColumn{PercentColumn, u"ส่วนลด (%)"},
 };
 
-/// The key of the next customer.
+/// Returns the key for a new customer.
 qint32 SetupNewData()
 {
     return nextKey(u"tblMember"_s, u"MPK"_s);

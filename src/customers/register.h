@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The customers of the agent: listed, added, changed and deleted, without any window.
+// Lists, adds, changes and deletes customers.
 #pragma once
 
 #include "widgets/progressbar.h"
 #include "widgets/spreadmodel.h"
 
-/// Columns of the list. Column 0 holds the key.
-inline constexpr int PlaceColumn = 1;     ///< number of the row
-inline constexpr int NameColumn = 2;      ///< a blank, then the name
+/// Columns of the list. Column 0 has the key.
+inline constexpr int PlaceColumn = 1;     ///< row number
+inline constexpr int NameColumn = 2;      ///< a space, then the name
 inline constexpr int TelephoneColumn = 3; ///< "0", then the number as stored
 inline constexpr int PercentColumn = 4;
 
-/// A customer as the fields show him; each text is trimmed before it is stored.
+/// The values of a new customer. Texts are trimmed before they are stored.
 struct Customer
 {
     QString name;
@@ -19,29 +19,29 @@ struct Customer
     QString percent;
 };
 
-/// Columns of tblMember that can be changed for a customer.
+/// Columns that changeCustomer() can change.
 inline constexpr QLatin1StringView TelephoneField("Mber");
 inline constexpr QLatin1StringView PercentField("MPercen");
 
-/// Fills the list, in Thai order, with the customers whose name holds @p part; "" lists all. Gives
-/// how many they are.
+/// Fills the list with the customers whose name contains @p part, in Thai order, and returns their
+/// number. "" lists all customers; "_" and "%" are LIKE wildcards. Customer "-" is not listed.
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress);
 
-/// Number of customers of that name, letters without regard to case. The name goes into the
-/// statement as it stands: an apostrophe in it breaks the statement, which raises DatabaseFailure.
+/// Returns the number of customers with that name, case-insensitive. The name is not bound but part
+/// of the SQL text, so an apostrophe in it raises DatabaseFailure.
 int countCustomersNamed(const QString &name);
 
-/// Adds a customer under the next key.
+/// Adds a customer with the next key.
 void addCustomer(const Customer &customer);
 
-/// Changes one column of a customer, to the trimmed @p text.
+/// Sets a column of a customer to @p text, trimmed.
 void changeCustomer(qint32 key, const QString &column, const QString &text);
 
-/// True if a line of this draw, in the book or laid off, names the customer.
+/// Returns true if the customer has bets in this draw, kept or laid off.
 bool hasLines(qint32 key);
 
-/// Deletes a customer. The caller has to make sure that he has no lines.
+/// Deletes a customer, who must not have any bets: see hasLines().
 void deleteCustomer(qint32 key);
 
-/// Takes out the characters that names must not hold: "'", "%" and "*".
+/// Returns a name without the characters that must not be in names: "'", "%" and "*".
 QString cleanedName(QString name);

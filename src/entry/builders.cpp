@@ -9,18 +9,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Grids of the ticket, in the order of BetClasses.
+/// Indexes of the ticket's grids, in the order of BetClasses.
 enum Grid { Top3, Tod3, Top2, Tod2, TopRun, Bottom3, Bottom2, BottomRun, NoGrid };
 
-/// Grids that a number of one length goes to, in the order of writing.
+/// Grids that a number of one length is written to, in this order.
 struct Targets
 {
     Grid first = NoGrid;
     Grid second = NoGrid;
 };
 
-/// What sets a builder of one number and one amount apart. The length of the number as keyed,
-/// not trimmed, picks the targets; a length without targets adds nothing.
+/// Describes a builder that writes one number with one amount. The length of the number as keyed,
+/// not trimmed, selects the targets. Nothing is written for a length without targets.
 struct SingleLine
 {
     unsigned checks;
@@ -37,8 +37,8 @@ constexpr SingleLine TodUp{Multi | DigitsDiffer, true, {{{}, {Tod2}, {Tod3}}}};
 constexpr SingleLine TongTod{Multi | DigitsDiffer, true, {{{}, {Top2, Tod2}, {Top3, Tod3}}}};
 constexpr SingleLine RunUp{Single, true, {{{TopRun}, {}, {}}}};
 constexpr SingleLine RunDown{Single, false, {{{BottomRun}, {}, {}}}};
-// The only one to take one digit as well as more, and it shows the top although it writes the
-// bottom first.
+// Accepts one digit as well as two or three. Shows the top tab although the bottom is written
+// first.
 constexpr SingleLine DownAndUp{NumberGiven | AtMostThreeDigits | AmountGood,
                                true,
                                {{{BottomRun, TopRun}, {Bottom2, Top2}, {Bottom3, Top3}}}};
@@ -134,7 +134,7 @@ void numpato(Ticket &ticket, BetKind kind)
     for (int other = 0; other <= 9; ++other)
         ticket.AddLine(grid, door + QString::number(other), ticket.KeyedAmount);
     for (int other = 0; other <= 9; ++other) {
-        if (other != CInt(door)) // the double is there already
+        if (other != CInt(door)) // the first loop has written the double
             ticket.AddLine(grid, QString::number(other) + door, ticket.KeyedAmount);
     }
 }

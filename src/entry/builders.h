@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Builders: each turns a keyed line that has passed the checks of its form into rows of the
-// ticket's grids. A builder shows its own refusals and gives no status: its caller goes on the
-// same way whether the line was taken or refused.
+// Builders: each turns a line that splitLine() has accepted into rows of the ticket's grids. A
+// builder checks number and amount first and shows a box if one is refused. It returns no status,
+// since Form1 does the same after a refused line as after an accepted one.
 #pragma once
 
 #include "entry/ticket.h"
@@ -15,18 +15,18 @@ void tongtod(Ticket &ticket);  ///< "ตรง+โต๊ด": the full amount on
 void downAndup(Ticket &ticket); ///< "บน+ล่าง": the full amount on both, run bets for one digit
 
 /// "กลับบน" and "กลับล่าง": KeyedAmount on the number as keyed, KeyedTryAmount on each other order of
-/// its digits, all straight. The rows of all orders are searched before the first is written and
-/// not again: a row found moves down when another is inserted above it, and what is then added
-/// lands on the row above. Keyers reckon with that; it stays.
+/// its digits, all straight. The rows of all orders are searched before the first one is written. A
+/// found row moves down when a number is inserted above it, so its amount is then added to a row
+/// above it. This behaviour is intended and must not change.
 void kubup(Ticket &ticket);
 void kubdown(Ticket &ticket);
 
-/// "19 ประตู": the nineteen numbers of two digits that hold the keyed digit. @p kind is DoorsTop
-/// or DoorsBottom; with any other nothing is written.
+/// "19 ประตู": the nineteen numbers of two digits that contain the keyed digit. @p kind must be
+/// DoorsTop or DoorsBottom; otherwise nothing is written.
 void numpato(Ticket &ticket, BetKind kind);
 
-/// "00-99": the ten doubles. @p kind is SweepTop or SweepBottom; with any other nothing is written.
+/// "00-99": the ten doubles. @p kind must be SweepTop or SweepBottom; otherwise nothing is written.
 void soonkow(Ticket &ticket, BetKind kind);
 
-/// Calls the builder of a kind.
+/// Calls the builder of a kind. Does nothing for NoKind.
 void runBuilder(Ticket &ticket, BetKind kind);

@@ -8,8 +8,8 @@ namespace {
 /// Which digits of a number are equal.
 enum Equality { TwoDigits, AllDiffer, FirstPair, OuterPair, LastPair };
 
-/// Orders are given as places in the number. Both lists begin with the number itself and go on in
-/// the order that keyers know from each screen.
+/// Orders as positions in the number, the number itself first. The two sequences differ, since each
+/// screen has its own.
 struct DigitOrders
 {
     const char *turned;

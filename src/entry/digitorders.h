@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The orders of a number's digits, as several screens list them. An order that takes a digit the
-// number does not have leaves it out.
+// The orders of a number's digits, in the sequences that the screens use. Positions beyond the end
+// of a short number are left out.
 #pragma once
 
 #include <QStringList>
 
-/// The orders that a turned bet writes, in that order: the number itself first, each once. Of two
-/// or three digits, not all equal.
+/// Returns the distinct orders that a turned bet writes, the number itself first. The number must
+/// have two or three digits that are not all equal.
 QStringList turnedOrders(const QString &number);
 
-/// The same orders as the settings list them.
+/// Returns the same orders in the sequence in which the settings list them.
 QStringList listedOrders(const QString &number);
 
-/// The orders of the first three digits, or of the only two, apart from the number as it stands.
-/// Equal digits give equal orders.
+/// Returns all orders of a number's first three digits except the order as given. Equal digits
+/// yield duplicates, which can include the number itself.
 QStringList otherOrders(const QString &number);

@@ -60,7 +60,7 @@ void Form1::connectControls()
 {
     const auto *guard = new FieldGuard(
         this, &m_focus, {{.field = m_ui->Tnumber, .longest = 50, .filter = FieldFilter::Line}});
-    m_ui->Tnumber->installEventFilter(this); // behind the guard's, so it sees a key before it
+    m_ui->Tnumber->installEventFilter(this); // installed after the guard, so called before it
     connect(guard, &FieldGuard::entered, this, &Form1::Tnumber_KeyPress);
     connect(&m_focus, &FocusTracker::gotFocus, this, &Form1::controlGotFocus);
     connect(&m_focus, &FocusTracker::lostFocus, this, &Form1::controlLostFocus);
@@ -86,8 +86,8 @@ void Form1::Form_Load()
 void Form1::showEvent(QShowEvent *event)
 {
     QWidget::showEvent(event);
-    if (!event->spontaneous())     // not when the desktop brings back a minimised window
-        m_ui->Tnumber->setFocus(); // so that keying can begin at once
+    if (!event->spontaneous())     // not when a minimised window is restored
+        m_ui->Tnumber->setFocus(); // so that the user can type at once
 }
 
 bool Form1::eventFilter(QObject *, QEvent *event)
@@ -101,8 +101,8 @@ bool Form1::eventFilter(QObject *, QEvent *event)
     return chosen && !key.modifiers().testFlag(Qt::AltModifier); // Alt+F4 closes the window
 }
 
-/// Any key, key repeats too, while the entry field has the focus: speaks it, and chooses a kind
-/// where it is a kind key. What was typed up to then is thrown away with the old kind.
+/// Any key in the entry field, auto-repeat included: speaks it and, if it is a kind key, chooses
+/// the kind. That clears the field, since its text belonged to the previous kind.
 void Form1::Form_KeyDown(int code)
 {
     if (TnumberAway)
@@ -117,19 +117,19 @@ void Form1::Form_KeyDown(int code)
         ReadKey(mmcAudio, kind->file);
     m_ui->Tnumber->clear();
     m_ui->Tnumber->setFocus();
-    const int place = placeOfKind(kind->kind);
-    m_ui->Label3->setText(KindEntries[size_t(place)].caption.toString());
-    m_ui->Combo2->setListIndex(place);
+    const int index = indexOfKind(kind->kind);
+    m_ui->Label3->setText(KindEntries[size_t(index)].caption.toString());
+    m_ui->Combo2->setListIndex(index);
 }
 
-/// " เปิด / ปิด เสียงพูด": a word still sounding is cut off when the voice is turned off.
+/// " เปิด / ปิด เสียงพูด": turns the voice on or off. Turning it off also stops the current word.
 void Form1::C01_Click()
 {
     if (!m_ui->C01->isChecked())
         mmcAudio.Command(MediaCommand::Close);
 }
 
-/// "&คีย์ลัด": the picture of the shortcut keys.
+/// "&คีย์ลัด": shows the picture of the shortcut keys.
 void Form1::Label12_Click()
 {
     ShowKey::open(window());
@@ -165,7 +165,7 @@ void Form1::Tnumber_LostFocus()
     m_ui->Tnumber->setText(u"คลิกเพื่อใส่เลขใหม่"_s);
 }
 
-/// Enter in the entry field: the line becomes rows of the ticket.
+/// Enter in the entry field: adds the line to the ticket.
 void Form1::Tnumber_KeyPress()
 {
     const BetKind kind = kindOfCaption(m_ui->Label3->text());
@@ -188,6 +188,7 @@ void Form1::Tnumber_KeyPress()
     m_ui->SSTab1->setTab(m_ticket.ShowTopTab ? TopTab : BottomTab);
 }
 
+/// List of kinds: chooses the kind of the next lines and returns to the entry field.
 void Form1::Combo2_Click()
 {
     const KindEntry &entry = KindEntries[size_t(m_ui->Combo2->listIndex())];
@@ -201,7 +202,8 @@ int Form1::Combo1_KeyPress(int code)
     return nameKeyPress(*m_ui->Combo1, code, [this] { m_ui->Tnumber->setFocus(); });
 }
 
-/// Takes the customer for the ticket. Numbers come first: without a line he is not taken.
+/// List of customers: chooses the customer of the ticket. Ignored while the ticket is empty, since
+/// the numbers are entered before the customer.
 void Form1::Combo1_Click()
 {
     if (m_ticket.isEmpty())
@@ -237,7 +239,7 @@ bool Form1::confirmSave()
             u"ไม่สามารถบันทึกได้ ( โปรดเพิ่มข้อมูล เลข ก่อนการบันทึก ) โปรดทำการแก้ไข และ ลองใหม่อีกครั้ง . . ."_s);
         return false;
     }
-    // The title speaks of deleting, as keyers know it from all questions.
+    // The title asks to confirm a deletion, although this is a save: users are used to it.
     return ask(u"คุณแน่ใจว่าต้องการเพิ่มข้อมูล ตัวเลข เหล่านี้ ลงฐานข้อมูล ? . . ."_s, u"ยืนยันการลบข้อมูล"_s,
                BoxIcon::Exclamation, BoxAnswer::Ok);
 }
@@ -252,7 +254,7 @@ void Form1::resetAfterSave()
     showZeroTabs();
 }
 
-/// " &ลบเลข": takes one line out of the ticket, the active row of the grid touched last.
+/// " &ลบเลข": deletes a line of the ticket, the active row of the grid that had the focus last.
 void Form1::lvButtons_H1_Click()
 {
     if (GridTouched == 0)
@@ -275,7 +277,7 @@ void Form1::lvButtons_H1_Click()
     m_ui->Tnumber->setFocus();
 }
 
-/// " &ลบเลขทั้งหมด": empties the grids. The customer and the amounts shown stay.
+/// " &ลบเลขทั้งหมด": empties the grids. The customer, the total and the discount stay.
 void Form1::lvButtons_H2_Click()
 {
     if (m_ticket.isEmpty())
@@ -284,15 +286,17 @@ void Form1::lvButtons_H2_Click()
              BoxIcon::Exclamation, BoxAnswer::Cancel))
         return;
     m_ticket.SetupSpread();
-    showTabs(u"   ล่าง ( ยอดรวม 0  )"_s, u"   บน ( ยอดรวม 0 )"_s); // two blanks in the first
+    // Unlike in showZeroTabs(), the first caption has two spaces before ")".
+    showTabs(u"   ล่าง ( ยอดรวม 0  )"_s, u"   บน ( ยอดรวม 0 )"_s);
 }
 
+/// Tabs of the two sides: shows the grids of the selected one.
 void Form1::SSTab1_Click()
 {
     showSide(*m_ui->SSTab1, m_spreads);
 }
 
-/// Totals the grids, the tabs and the ticket. Leaves the strip on the top tab.
+/// Updates the totals of the grids, the tabs and the ticket. Selects the top tab.
 void Form1::Nubyod()
 {
     const GridTotals totals = m_ticket.totalGrids();
@@ -301,7 +305,7 @@ void Form1::Nubyod()
     m_ui->text1->setText(formatBaht(sumTotal(totals)));
 }
 
-/// Writes both captions and ends on the top tab.
+/// Sets both tab captions and selects the top tab.
 void Form1::showTabs(const QString &bottom, const QString &top)
 {
     m_ui->SSTab1->setTabText(BottomTab, bottom);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The page "หน้าหลัก": the keyer types one customer's ticket, line by line, eyes on the paper.
+// The page "หน้าหลัก": entry of a customer's ticket, line by line, without looking at the screen.
 #pragma once
 
 #include "desktop/focustracker.h"
@@ -23,14 +23,14 @@ class Form1 : public QWidget
     Q_OBJECT
 
 public:
-    /// @p progress covers the wait of a save; it must outlive the page.
+    /// @p progress shows the progress of a save; it must outlive the page.
     Form1(ProgressBar &progress, QWidget *parent);
     ~Form1() override;
 
 protected:
     void showEvent(QShowEvent *event) override;
 
-    /// Hands Form_KeyDown each key of the entry field ahead of the field.
+    /// Passes each key press in the entry field to Form_KeyDown() before the field gets it.
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
@@ -68,6 +68,6 @@ private:
     Ticket m_ticket;
     MediaControl mmcAudio;
     std::array<Spread *, ClassCount> m_spreads;
-    quint8 GridTouched = 0;  ///< 1 to 8: the grid activated last; 0 at load
-    bool TnumberAway = true; ///< false while Tnumber holds the focus
+    quint8 GridTouched = 0;  ///< 1 to 8: the grid that had the focus last; 0: none yet
+    bool TnumberAway = true; ///< false while Tnumber has the focus
 };

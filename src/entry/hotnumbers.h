@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Hot numbers (เลขดัง), on which the agent pays half the prize: which bets they reach.
+// Hot numbers (เลขดัง): bets on them win half the prize. Finds out which bets are affected.
 #pragma once
 
 #include "entry/vocabulary.h"
@@ -8,23 +8,24 @@
 #include <QRgb>
 #include <QStringList>
 
-/// Ground of what pays half because of a hot number: a number on the board, a winner's money.
+/// Background of what pays half because of a hot number: numbers on the board, payouts of winners.
 inline constexpr QRgb HotColor = 0xD79F9E;
 
-/// The hot numbers, the one entered first in front.
+/// Reads the hot numbers from the Ledger, in the order of entry.
 QStringList readHotNumbers();
 
-/// Hot numbers, ready to be asked about any bet.
+/// Hot numbers, prepared for lookups by bet.
 class HotNumbers
 {
 public:
-    HotNumbers() = default; ///< none
+    HotNumbers() = default; ///< no hot numbers
     explicit HotNumbers(const QStringList &numbers);
 
-    /// How many of them reach a bet: a straight one by the number itself, a tod one by any order of
-    /// its digits, top and bottom alike. A run is never reached.
+    /// Returns how many hot numbers affect a bet, on top or bottom. A hot number affects straight
+    /// bets on itself and tod bets on any order of its digits, but never a run bet.
     int count(int numType, const QString &number) const;
 
+    /// Returns true if a hot number affects the bet.
     bool reach(const BetClass &betClass, const QString &number) const
     {
         return count(betClass.numType, number) > 0;

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A key in the picture: x and width count in widths of a plain key, y in rows of keys.
+/// A key in the picture. x and width are in widths of an ordinary key, y in rows.
 struct DrawnKey
 {
     const char *name;
@@ -21,9 +21,9 @@ struct DrawnKey
 };
 
 constexpr double FunctionWidth = 1.2;
-constexpr double Right = 16.0; ///< where the keys beside the main keyboard begin
+constexpr double Right = 16.0; ///< x of the keys to the right of the main keyboard
 constexpr double PictureWidth = Right + 3 * FunctionWidth;
-constexpr double RowHeight = 1.25; ///< of a key, in widths of a plain key
+constexpr double RowHeight = 1.25; ///< in widths of an ordinary key
 constexpr double PictureHeight = 4.3 * RowHeight;
 
 constexpr std::array DrawnKeys{
@@ -71,19 +71,20 @@ constexpr std::array DrawnKeys{
     DrawnKey{"→", Right + 2 * FunctionWidth, 3.3, FunctionWidth},
 };
 
-/// The kind that a key chooses, or nothing.
+/// Returns the kind that a key chooses, or nullptr.
 const KindEntry *kindOfKey(const QString &name)
 {
     for (const KindKey &key : KindKeys) {
         for (const char *known : key.keys) {
             if (known && name == QString::fromUtf8(known))
-                return &KindEntries[size_t(placeOfKind(key.kind))];
+                return &KindEntries[size_t(indexOfKind(key.kind))];
         }
     }
     return nullptr;
 }
 
-/// Kinds of one side share a colour: the eye finds the side before it reads.
+/// Returns a colour for kinds on top, one for kinds on the bottom and one for all others, so that
+/// the side is seen at a glance.
 QColor kindColor(const KindEntry &kind)
 {
     const bool top = kind.caption.contains(u"บน");
@@ -106,17 +107,17 @@ void drawKey(QPainter &painter, const DrawnKey &key, double unit)
     painter.setBrush(kind ? kindColor(*kind) : colors.color(QPalette::Button));
     painter.drawRoundedRect(cap, unit * 0.1, unit * 0.1);
 
-    QFont type = painter.font();
-    type.setBold(!kind);
-    type.setPixelSize(int(unit * 0.25));
-    painter.setFont(type);
+    QFont font = painter.font();
+    font.setBold(!kind);
+    font.setPixelSize(int(unit * 0.25));
+    painter.setFont(font);
     painter.setPen(kind ? QColor(Qt::black) : colors.color(QPalette::ButtonText));
     const QRectF text = cap.adjusted(unit * 0.06, unit * 0.04, -unit * 0.04, -unit * 0.02);
     painter.drawText(text, kind ? Qt::AlignLeft | Qt::AlignTop : Qt::AlignCenter, name);
     if (kind) {
-        type.setBold(true);
-        type.setPixelSize(int(unit * 0.27));
-        painter.setFont(type);
+        font.setBold(true);
+        font.setPixelSize(int(unit * 0.27));
+        painter.setFont(font);
         painter.drawText(text, int(Qt::AlignHCenter) | Qt::AlignBottom | Qt::TextWordWrap,
                          kind->caption.toString());
     }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// The picture of a keyboard with the kind that each key chooses written on it.
+// The picture of a keyboard that shows which kind each key chooses.
 #pragma once
 
 #include <QWidget>
 
-/// Drawn from the table of kind keys, so that it cannot differ from what the keys do, and as
-/// vectors, so that it is sharp at any scale.
+/// The picture is painted from KindKeys, so it always agrees with what the keys do and is sharp at
+/// any scale.
 class KeyboardPicture : public QWidget
 {
     Q_OBJECT

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The highest amount of one line is a count of digits: six of them fail even as "000100".
+/// The limit of 99,999 baht is checked by the number of characters, so "000100" fails too.
 constexpr qsizetype LongestAmount = 5;
 
 bool allEqual(const QString &digits)

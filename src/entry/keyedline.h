@@ -1,33 +1,34 @@
 // SPDX-License-Identifier: MIT
-// The keyed line: its form, its parts, and the checks of number and amount that the builders
-// share.
+// Splits a keyed line into its parts, and checks number and amount for the builders.
 #pragma once
 
 #include "entry/ticket.h"
 
-/// What became of a line at Enter, before any builder saw it.
+/// The result of splitLine().
 enum class LineForm {
     Good,
-    NoKindChosen, ///< refused; the keyer is to be sent to the list of kinds
-    Refused       ///< refused; the text stays in the field for correction
+    NoKindChosen, ///< refused; the list of kinds should get the focus
+    Refused       ///< refused; the text should stay in the field for correction
 };
 
-/// Checks the form of a line and splits it into the ticket's Keyed parts. Shows its own
-/// refusals. Nothing is trimmed or converted.
+/// Checks the form of a line and splits it into KeyedNumber, KeyedAmount and, for a turned bet,
+/// KeyedTryAmount of @p ticket. The parts are neither trimmed nor converted. Shows a box if the
+/// line is refused.
 LineForm splitLine(Ticket &ticket, const QString &text, BetKind kind);
 
-/// Checks of a builder, in the order in which they run.
+/// Checks that a builder can require, in the order in which they run.
 enum FieldCheck : unsigned {
     NumberGiven = 1U << 0,      ///< the number is not empty
     AtLeastTwoDigits = 1U << 1, ///< not exactly one character
     AtMostThreeDigits = 1U << 2,
     OneDigit = 1U << 3,      ///< at most one character
-    DigitsDiffer = 1U << 4,  ///< not all digits equal: such a number has only one order
-    NoNumber = 1U << 5,      ///< the number stays empty: the kind brings its own
-    AmountGood = 1U << 6,    ///< KeyedAmount: given, at least 1 baht, at most 5 characters
-    TryAmountGood = 1U << 7, ///< the same of KeyedTryAmount
+    DigitsDiffer = 1U << 4,  ///< not all digits are equal, since they would have only one order
+    NoNumber = 1U << 5,      ///< the number is empty, since the kind has its own numbers
+    AmountGood = 1U << 6,    ///< KeyedAmount is given, at least 1 baht, at most 5 characters
+    TryAmountGood = 1U << 7, ///< the same for KeyedTryAmount
 };
 
-/// Runs the checks named by the bits of @p checks. The first that fails shows its box and gives
-/// false. Blanks around a part are left out of account.
+/// Runs the checks given as the bits of @p checks, with the spaces around each part removed. Shows
+/// the box of the first check that fails and returns false. Raises "Type mismatch" for an amount
+/// that is no number.
 bool passesChecks(const Ticket &ticket, unsigned checks);

@@ -10,10 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Grids in the order of saving: the tod grid of two digits goes before its straight one.
+/// Grids in the order of saving. The tod grid of two digits precedes the straight one.
 constexpr std::array<int, ClassCount> SaveOrder{0, 1, 3, 2, 4, 5, 6, 7};
 
-/// Next key of a bet line.
+/// Returns the key for a new bet line.
 qint32 SetupNewData2()
 {
     return nextKey(u"tblNumber"_s, u"NPK"_s);
@@ -37,7 +37,7 @@ void addBetLine(const BetClass &betClass, qint16 customer, const QString &number
 
 std::optional<TicketCustomer> ticketCustomer(const QString &name)
 {
-    // The customer of that very name comes first.
+    // An exact match comes first, since that is the customer whom LookupKey() finds.
     const bool read = resumeNext([&] {
         RecordsetA.open(u" SELECT tblMember.* FROM tblMember WHERE [Mname] Like ?1"
                         " ORDER BY [Mname] = ?1 COLLATE AnyCase DESC, [MPK]"_s,
@@ -57,7 +57,6 @@ QString todSpelling(const QString &number)
     Q_ASSERT(keyed.size() == 3 || keyed.size() == 2);
     const QStringList others = otherOrders(keyed);
     const QStringList marks(others.size(), u"?"_s);
-    // The first row in text order is all that is wanted, so the engine stops at it.
     RecordsetA.open(u"SELECT tblNumber.numValue"
                     " FROM tblNumber INNER JOIN tblMember ON tblNumber.nameFK = tblMember.MPK"
                     " WHERE [num23] = %1 AND [updown] = -1 AND [numType] = 2"
@@ -72,7 +71,7 @@ QString todSpelling(const QString &number)
 
 void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progress)
 {
-    // Looked up at the first row and not before: looking up can register the name.
+    // Looked up only when a row is ready to be written, since LookupKey() adds an unknown name.
     std::optional<qint16> customerKey;
     for (const int at : SaveOrder) {
         const SpreadModel &grid = ticket.grids[at];
@@ -98,7 +97,7 @@ void saveDiscount(const QString &discount)
     if (discount.isEmpty())
         return;
     RecordsetB.openTable(u"tblRMoney"_s);
-    // A number, not the text: a text with commas would spoil every sum over the column.
+    // Stored as a number, since SUM() would read the text "1,234" as 1.
     RecordsetB.set(u"rMoney"_s, CDbl(discount));
     RecordsetB.update();
     RecordsetB.close();

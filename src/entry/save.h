@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Filing a ticket: the one place where bets enter the Ledger.
+// Saves tickets. No other file inserts bets into the Ledger.
 #pragma once
 
 #include "entry/ticket.h"
@@ -7,30 +7,33 @@
 
 #include <optional>
 
-/// The customer of a ticket as the page shows him.
+/// Name and discount of a ticket's customer, as Form1 shows them.
 struct TicketCustomer
 {
     QString name;
     QString percent;
 };
 
-/// The customer whom a ticket will be filed for that is saved with @p name; nothing if there is
-/// none or the Ledger cannot be read. "_" in a name stands for any letter.
+/// Returns the customer named @p name, case-insensitive, or nothing if there is none or the Ledger
+/// cannot be read. saveLines() saves a ticket under this name for the same customer. Without an
+/// exact match the name is a LIKE pattern: "_" matches any character.
 std::optional<TicketCustomer> ticketCustomer(const QString &name);
 
-/// The spelling under which a tod number of 3 or 2 digits is filed: the lowest rearrangement of
-/// its digits that the Ledger holds in that class, since a tod bet pays on any order and all
-/// bets of a family should stand together; else the number as keyed. Lines of customers that no
-/// longer exist do not count.
+/// Returns the spelling under which a tod number of 3 or 2 digits is saved. A tod bet wins in any
+/// order of its digits, so all bets on the same digits should have the same number. It is the
+/// first in text order of otherOrders() that has a line of its class in the Ledger, else the number
+/// as keyed. Lines of customers that no longer exist do not count.
 QString todSpelling(const QString &number);
 
-/// Writes one bet line for each row of the grids, for the customer named by @p customer, row by
-/// row: each is durable before the next is begun, and there is no way back. Raises RunTimeError
-/// with the rows written up to then kept.
+/// Writes one bet line for each row of the grids, for the customer named @p customer. There is no
+/// transaction: each row is durable before the next one is written. If it raises RunTimeError, the
+/// rows written so far stay in the Ledger.
 void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progress);
 
-/// Writes the ticket's discount money, given as its "#,##" text. An empty text writes nothing.
+/// Writes the discount of a ticket in baht, given as a text in the format "#,##". Writes nothing
+/// for an empty text.
 void saveDiscount(const QString &discount);
 
-/// Discount money of all tickets of the draw, in baht. Raises "Overflow" beyond 32 bits.
+/// Returns the discounts of all tickets of the draw, in baht. Raises "Overflow" if they exceed 32
+/// bits.
 qint32 savedDiscounts();

@@ -10,7 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
-// No child of the main window: it would cover the entry field for as long as it is open.
+// Not a child of the main window: a child would stay above it and cover the entry field.
 ShowKey::ShowKey(QWidget *owner)
 {
     setObjectName(u"ShowKey"_s);
@@ -25,7 +25,7 @@ ShowKey::ShowKey(QWidget *owner)
     connect(leave, &QPushButton::clicked, this, &QDialog::reject);
     connect(owner, &QObject::destroyed, this, [this] { delete this; });
     connect(this, &QDialog::finished, owner, [this, owner] {
-        owner->activateWindow(); // a desktop without a window manager leaves it without keys
+        owner->activateWindow(); // without a window manager nothing else does
         deleteLater();
     });
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The window with the picture of the shortcut keys. It stays open beside the work.
+// The modeless window with the picture of the shortcut keys.
 #pragma once
 
 #include <QDialog>
@@ -9,8 +9,8 @@ class ShowKey : public QDialog
     Q_OBJECT
 
 public:
-    /// Shows the window in the middle of the screen, or brings the one that is open to the front.
-    /// It can go behind @p owner, the main window, and ends with it at the latest.
+    /// Opens the window in the centre of the screen, or raises it if it is open. @p owner is the
+    /// main window, which can cover it; the window is deleted when its owner is.
     static void open(QWidget *owner);
 
 private:

@@ -7,7 +7,8 @@
 void showSide(TabStrip &tabs, const std::array<Spread *, ClassCount> &grids)
 {
     const bool top = tabs.tab() == TopTab;
-    // A grid that is hidden would pass its focus from grid to grid, each noting that it was touched.
+    // Hiding the grid with the focus would move the focus through the other grids, and Form1 would
+    // take the last of them for the one that the user selected.
     for (int at = 0; at < ClassCount; ++at) {
         if ((at < TopClassCount) != top && grids[at]->hasFocus())
             tabs.setFocus();

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The two sides of the eight grids, top and bottom, behind one tab strip: on the ticket and on
-// the board alike.
+// The tab strip that switches between the top and the bottom grids, on the ticket and on the
+// board.
 #pragma once
 
 #include "entry/vocabulary.h"
@@ -11,5 +11,5 @@ class TabStrip;
 inline constexpr int BottomTab = 0;
 inline constexpr int TopTab = 1;
 
-/// Shows the grids of the tab that is selected and hides those of the other.
+/// Shows the grids of the selected tab and hides the others.
 void showSide(TabStrip &tabs, const std::array<Spread *, ClassCount> &grids);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The ticket being keyed: eight small grids whose cells are the bets, and the parts of the line
-// keyed last. Nothing of it is in the Ledger before it is saved.
+// The ticket being entered: eight grids whose cells are the bets, and the parts of the last line.
+// It is not in the Ledger until saveLines() writes it.
 #pragma once
 
 #include "entry/betgrid.h"
@@ -9,33 +9,32 @@ struct Ticket
 {
     Ticket();
 
-    /// Grid of a class, 0 to 7 in the order of BetClasses. A number stands in it at most once,
-    /// the newest in row 1; column 2 is its amount in the format "#,##".
+    /// The grids in the order of BetClasses, new numbers first. Amounts are in the format "#,##".
     std::array<SpreadModel, ClassCount> grids;
 
-    QString KeyedNumber;     ///< left of the first dash of the keyed line
-    QString KeyedAmount;     ///< right of it
-    QString KeyedTryAmount;  ///< for the kinds with two amounts, right of the second dash
-    bool ShowTopTab = false; ///< set by a builder once a line passed: true shows the top tab
-    std::array<qint32, 6> FoundRow{}; ///< rows that a builder's searches gave, or -1
+    QString KeyedNumber;              ///< the line up to the first dash
+    QString KeyedAmount;              ///< the part after that dash
+    QString KeyedTryAmount;           ///< for turned bets, the part after the second dash
+    bool ShowTopTab = false;          ///< which tab to show, set by a builder after its checks
+    std::array<qint32, 6> FoundRow{}; ///< rows that a builder's searches found, or -1
 
-    bool isEmpty() const; ///< true while no grid has a row
+    bool isEmpty() const; ///< true if no grid has a row
 
-    /// Empties the eight grids and writes their headers; totals read "0".
+    /// Empties the eight grids and writes their headers, with totals of "0".
     void SetupSpread();
 
-    /// Adds an amount to a number's row, or inserts the number at row 1 when @p found is
-    /// negative. @p found is what an earlier search of column 1 gave.
+    /// Adds an amount to row @p found, or inserts the number as row 1 if @p found is negative.
+    /// @p found is the result of SpreadModel::searchColumn() for the number.
     void writeLine(int grid, int found, const QString &number, const QString &amount);
 
-    /// Searches the number, keeps its row in FoundRow[@p slot], and writes the line.
+    /// Searches the number, stores its row in FoundRow[@p slot], and calls writeLine().
     void AddLine(int grid, const QString &number, const QString &amount, int slot = 0);
 
-    /// Writes each grid's total to its header and gives them. Raises "Overflow" when one leaves
-    /// 32 bits; the grids before it have their totals by then.
+    /// Writes the total of each grid to its header and returns the totals. Raises "Overflow" if
+    /// one exceeds 32 bits; only the headers of the grids before it are updated then.
     GridTotals totalGrids();
 };
 
-/// Discount money of a ticket: the total times the percent, as "#,##". Both are texts of fields;
-/// raises "Type mismatch" when one is empty.
+/// Returns the discount of a ticket in the format "#,##", from the texts of the fields that show
+/// its total and percentage. Raises "Type mismatch" if one is empty.
 QString discountMoney(const QString &total, const QString &percent);

@@ -15,7 +15,7 @@ int classOf(int num23, bool updown, int numType)
     return -1;
 }
 
-int placeOfKind(BetKind kind)
+int indexOfKind(BetKind kind)
 {
     const auto *found = std::ranges::find(KindEntries, kind, &KindEntry::kind);
     return int(found - KindEntries.begin());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The words of the trade: the thirteen kinds that a keyed line can be, and the eight classes that
-// the Ledger stores. Every screen takes its words from here.
+// The words of the trade that several screens show: the thirteen kinds of a keyed line, and the
+// eight classes of bets that the Ledger stores.
 #pragma once
 
 #include <QString>
@@ -8,8 +8,8 @@
 
 #include <array>
 
-/// A class of bet as the Ledger stores it. Grids, boards and rates stand in the order of
-/// BetClasses everywhere.
+/// A class of bets as the Ledger stores it. Grids, boards and rates are always in the order of
+/// BetClasses.
 struct BetClass
 {
     int num23;   ///< digits of the number
@@ -30,14 +30,14 @@ inline constexpr std::array BetClasses{
 };
 inline constexpr int ClassCount = int(BetClasses.size());
 
-/// Place of a class in BetClasses, or -1 for a combination that is no class.
+/// Returns the index of a class in BetClasses, or -1 for a combination that is not a class.
 int classOf(int num23, bool updown, int numType);
 
-/// The first classes are the top ones, the rest bottom: the split of every tab strip.
+/// The first TopClassCount classes are on top, the others on the bottom; tab strips are split so.
 inline constexpr int TopClassCount = 5;
 
-/// What a keyed line is called. NoKind stands for the entry that asks for a kind and for the
-/// separators of the list.
+/// The kind of a keyed line. NoKind is the kind of the entry that asks for one, and of the
+/// separators in the list.
 enum class BetKind {
     NoKind,
     Top,
@@ -55,7 +55,7 @@ enum class BetKind {
     SweepBottom,
 };
 
-/// One entry of the list of kinds, with the caption that choosing it shows.
+/// An entry of the list of kinds, and the caption that Form1 shows when it is chosen.
 struct KindEntry
 {
     BetKind kind;
@@ -87,20 +87,22 @@ inline constexpr std::array KindEntries{
     KindEntry{BetKind::SweepBottom, u"- 00-99 (ล่าง)", u"00-99 (ล่าง)"},
 };
 
-/// Place of the entry of @p kind in KindEntries.
-int placeOfKind(BetKind kind);
+/// Returns the index of the entry of @p kind in KindEntries.
+int indexOfKind(BetKind kind);
 
-/// The kind that a caption names; the caption is the one place that holds the chosen kind.
+/// Returns the kind of a caption, or NoKind. Form1 stores the chosen kind only as its caption.
 BetKind kindOfCaption(const QString &caption);
 
-/// What a class is called in a narrow column of a list of both sides, "ตรง-บน"; "" for a
-/// combination that is no class. It does not tell the digits: the number beside it does.
+/// Returns the short name of a class for a list of both sides, such as "ตรง-บน", or "" for a
+/// combination that is not a class. The number beside it shows how many digits the class has.
 QString twoPartLabel(int numType, bool updown);
 
-/// The same where top and bottom stand in lists of their own, "ตรง", and back; 0 for another word.
+/// Returns the short name for a list of one side, such as "ตรง".
 QString oneWordLabel(int numType);
+
+/// Returns the numType of a name from oneWordLabel(), or 0 for any other text.
 int numTypeOf(const QString &oneWord);
 
-/// True for the kinds that also bet on the other orders of the digits; their lines carry two
+/// Returns true for the kinds that also bet on the other orders of the digits. Their lines have two
 /// amounts.
 bool isTurnKind(BetKind kind);

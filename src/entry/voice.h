@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The voice and the kind keys: each key is spoken as it is pressed, so that the keyer's eyes stay
-// on the paper, and single keys choose the kind of bet.
+// The keys of bet entry: those that are spoken, so that the user need not look at the screen, and
+// those that choose the kind of bet.
 #pragma once
 
 #include "desktop/mediacontrol.h"
@@ -8,18 +8,18 @@
 
 #include <array>
 
-/// Two codes of one key: of the function row or main keyboard, and of a second place. Codes are
-/// those of keys, not of characters: layout and shift have no say. 0 is no key.
+/// The codes of two keys with the same effect, as from keyCode(): they depend neither on the layout
+/// nor on Shift. 0 means no key.
 using KeyCodes = std::array<int, 2>;
 
-/// A key that is echoed, with its recording below data/mp3.
+/// Keys that are spoken, and their recording in data/mp3.
 struct EchoKey
 {
     KeyCodes codes;
     const char *file;
 };
 
-/// The digits of both places, and the dash of the key pad and of the main keyboard.
+/// The digits and the dash, on the main keyboard and on the keypad.
 inline constexpr std::array<EchoKey, 11> EchoKeys{{
     {{49, 97}, "1.mp3"},
     {{50, 98}, "2.mp3"},
@@ -34,11 +34,11 @@ inline constexpr std::array<EchoKey, 11> EchoKeys{{
     {{109, 189}, "money.mp3"},
 }};
 
-/// A key that chooses a kind, with its recording.
+/// Keys that choose a kind, and their recording in data/mp3.
 struct KindKey
 {
     KeyCodes codes;
-    std::array<const char *, 2> keys; ///< names of the keys, as they stand on a keyboard
+    std::array<const char *, 2> keys; ///< labels of the keys in KeyboardPicture
     const char *file;
     BetKind kind;
 };
@@ -59,7 +59,7 @@ inline constexpr std::array KindKeys{
     KindKey{{123, 0}, {"F12", nullptr}, "0099down.mp3", BetKind::SweepBottom},
 };
 
-/// Entry of a table of keys that has @p code, or nothing.
+/// Returns the entry of EchoKeys or KindKeys that has @p code, or nullptr.
 template<typename Keys>
 constexpr auto findKey(const Keys &keys, int code) -> decltype(keys.data())
 {
@@ -70,5 +70,5 @@ constexpr auto findKey(const Keys &keys, int code) -> decltype(keys.data())
     return nullptr;
 }
 
-/// Speaks the recording @p file of data/mp3, cutting off the word before it. Returns at once.
+/// Plays @p file from data/mp3, after stopping the recording before it. Returns at once.
 void ReadKey(MediaControl &player, const char *file);

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int EmptyColumn = LogProfitColumn + 1; // takes the room that is left
+constexpr int EmptyColumn = LogProfitColumn + 1; // takes the remaining width
 
 constexpr std::array LogColumns{
     GridColumn{LogDateColumn, u"งวดที่"},
@@ -28,7 +28,8 @@ QString fieldText(const QString &column)
     return RecordsetA.field(column).toString();
 }
 
-/// The day as people of the region write it. A draw closed before any was ever checked has none.
+/// Returns the date in the short format of the region, or the stored text if that is not a date. A
+/// draw that was closed before any result was checked has none.
 QString dateText()
 {
     const QString stored = fieldText(u"numdate"_s);

@@ -35,8 +35,8 @@ void Form5::Form_Load()
     m_ui->fpSpread1->setColumnDigits(m_draws.columns(), 0);
 }
 
-/// Lists the draws anew. The active row stays where it was, so that several can be deleted in a
-/// row.
+/// Lists the draws again and keeps the position of the active row, so that several draws can be
+/// deleted one after another.
 void Form5::reload()
 {
     const int row = m_ui->fpSpread1->activeRow();
@@ -44,7 +44,7 @@ void Form5::reload()
     m_ui->fpSpread1->setActiveRow(std::clamp(row, 1, std::max(1, m_draws.rows())));
 }
 
-/// " ลบรายการที่เลือกนี้ออกจากฐานข้อมูล": takes the draw of the active row out of the history.
+/// " ลบรายการที่เลือกนี้ออกจากฐานข้อมูล": deletes the draw in the active row.
 void Form5::lvButtons_H1_Click()
 {
     const int row = m_ui->fpSpread1->activeRow();

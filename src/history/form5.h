@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The page "ข้อมูลย้อนหลัง": results and money of all closed draws.
+// The page "ข้อมูลย้อนหลัง": results, payouts and profits of all closed draws.
 #pragma once
 
 #include "widgets/progressbar.h"
@@ -18,7 +18,7 @@ class Form5 : public QWidget
     Q_OBJECT
 
 public:
-    /// @p progress covers the wait of loading; it must outlive the page.
+    /// @p progress shows the progress of loading; it must outlive the page.
     Form5(ProgressBar &progress, QWidget *parent);
     ~Form5() override;
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The money laid off, by number, on paper: top on the left, bottom on the right.
+// Report of the cut numbers and their amounts, top on the left, bottom on the right.
 #pragma once
 
 #include "reports/gridreport.h"
 
-/// Reads the two grids of the cut numbers board, top and bottom.
+/// Prints the top and the bottom grid of CutBoard.
 class ActiveReport3 : public GridReport
 {
 public:

@@ -24,8 +24,8 @@ QByteArray excelOf(const ReportPages &report)
 struct FormatEntry
 {
     QStringView title;
-    QStringView extension; ///< as the dialog gets it
-    QStringView ending;    ///< as the file gets it
+    QStringView extension; ///< for the save dialog
+    QStringView ending;    ///< appended to the file name
     QByteArray (*bytesOf)(const ReportPages &report);
 };
 

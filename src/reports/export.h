@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Finished reports as files: an Excel sheet and a PDF.
+// Exports reports to Excel and PDF files.
 #pragma once
 
 #include "paper/reportpage.h"
 
 enum class ExportFormat { Excel, Pdf };
 
-/// Asks where to, and saves the report there. The name that is picked gets the format's ending,
-/// also if it ends so already; a file of that final name is asked about before it is replaced.
-/// Cancel saves nothing. No word follows, neither on success nor on failure; a failed export
-/// leaves no file.
+/// Asks for a file name and saves the report there. The format's extension is always appended, even
+/// if the name already has it. Asks before it replaces a file; Cancel saves nothing. Reports
+/// neither success nor failure. A failed export leaves an existing file unchanged and creates none.
 void exportReport(ExportFormat format, const ReportPages &report);

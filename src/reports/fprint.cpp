@@ -27,23 +27,25 @@ FPrint::~FPrint() = default;
 
 void FPrint::Form_Load()
 {
-    const QRect room = screen()->availableGeometry();
-    resize(std::min(1120, room.width() - 40), room.height() * 9 / 10);
-    move(room.left() + (room.width() - width()) / 2, room.top() + (room.height() - height()) / 3);
-    for (const int hidden : {0, 1}) // what leaves this window is paper or a file
+    const QRect available = screen()->availableGeometry();
+    resize(std::min(1120, available.width() - 40), available.height() * 9 / 10);
+    move(available.left() + (available.width() - width()) / 2,
+         available.top() + (available.height() - height()) / 3);
+    // Hides the copy action and its separator, since reports are only printed or exported.
+    for (const int hidden : {0, 1})
         m_ui->ARViewer21->tool(hidden)->setVisible(false);
     m_ui->ARViewer21->tool(2)->setText(u"พิมพ์.."_s);
     m_ui->ARViewer21->setReport(m_report->run());
     m_ui->ARViewer21->setFocus();
 }
 
-/// "ส่งออก Excel": saves the report as a sheet.
+/// "ส่งออก Excel": exports the report to an .xls file.
 void FPrint::Command1_Click()
 {
     exportReport(ExportFormat::Excel, m_ui->ARViewer21->report());
 }
 
-/// "ส่งออก PDF": saves the report as a document.
+/// "ส่งออก PDF": exports the report to a PDF file.
 void FPrint::Command2_Click()
 {
     exportReport(ExportFormat::Pdf, m_ui->ARViewer21->report());

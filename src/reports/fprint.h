@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The window that shows a report and exports it. The three of the program differ only in their
-// name and their report.
+// The dialog that shows and exports a report. Its three instances differ only in object name and
+// report.
 #pragma once
 
 #include "paper/report.h"
@@ -18,7 +18,7 @@ class FPrint : public QDialog
     Q_OBJECT
 
 public:
-    /// Runs @p report and shows it. @p name is the window's object name.
+    /// Runs @p report and shows its pages. @p name is the object name of the dialog.
     FPrint(const QString &name, std::unique_ptr<Report> report, QWidget *parent);
     ~FPrint() override;
 

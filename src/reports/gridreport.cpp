@@ -65,7 +65,7 @@ void GridReport::Detail_Format()
     constexpr int RulingTo = 1000;
     for (qsizetype at = 0; at < m_columns.size(); ++at) {
         const ReportColumn &column = m_columns[at];
-        for (const int x : {column.rulingBefore, column.rulingBehind}) {
+        for (const int x : {column.rulingBefore, column.rulingAfter}) {
             if (x > 0)
                 drawPageLine({x, m_rulingFrom, x, RulingTo});
         }

@@ -1,37 +1,37 @@
 // SPDX-License-Identifier: MIT
-// What the three reports share: one row of paper for each row of the grids, and the lines of the
-// paper.
+// The base class of the three reports, which print one row for each row of their grids, and the
+// description of their columns.
 #pragma once
 
 #include "paper/report.h"
 #include "widgets/spreadmodel.h"
 
-/// Where a control stands across the page, in twips from the margin.
+/// Horizontal position of a control from the left margin, and its width, in twips.
 struct Extent
 {
     int left;
     int width;
 };
 
-/// One column of a report: its heading in the page header, the field beneath it that copies a column
-/// of a grid, and the upright lines beside it, which run down the whole page.
+/// A column of a report: its heading in the page header, the field below it, which copies a column
+/// of a grid, and the vertical lines beside it, which span the page.
 struct ReportColumn
 {
-    /// Money is right-aligned, never clipped, and has one leading blank.
+    /// Words are centred. Money is right-aligned, never clipped, and has a leading space.
     enum Kind { Word, Money };
 
     QStringView title;
     Kind kind;
-    int label;  ///< number of the heading's control
-    int grid;   ///< which of the report's grids, from 0
+    int label;  ///< number in the name of the heading's control
+    int grid;   ///< index of the grid in the report
     int source; ///< column of the grid
     Extent field;
-    int rulingBefore;     ///< x of the line before the column, on the paper
-    int rulingBehind = 0; ///< of the line behind it, where no column follows
+    int rulingBefore;    ///< x of the line before the column, in twips from the edge of the paper
+    int rulingAfter = 0; ///< x of the line after it, if no column follows
     Extent heading = field;
 };
 
-/// How the columns of a report look, heights in twips.
+/// The look of all columns of a report. Positions and heights are in twips.
 struct ColumnLook
 {
     int headingTop = 0;
@@ -42,24 +42,26 @@ struct ColumnLook
     int fieldPoints = 0;
 };
 
-/// Heading and field of the column that is the @p at-th of its report, from 0.
+/// Returns the heading and the field of a column. @p at is its index in the report.
 QList<ReportControl> columnControls(const ReportColumn &column, qsizetype at,
                                     const ColumnLook &look);
 
-/// A report over grids. A grid shorter than the longest leaves its fields empty from there on.
-/// The grids must outlive run() and not change meanwhile.
+/// A report of one or more grids side by side. After the last row of a shorter grid its fields are
+/// empty. The grids must outlive run() and must not change meanwhile.
 class GridReport : public Report
 {
 public:
-    /// @p rulingFrom is the y of the lower end of the upright lines, on the paper.
+    /// @p rulingFrom is the y of the lower end of the vertical lines, in twips from the top edge of
+    /// the paper.
     GridReport(ReportLayout layout, QList<ReportColumn> columns, int rulingFrom,
                QList<const SpreadModel *> grids);
 
 protected:
     const SpreadModel &grid(qsizetype at) const { return *m_grids[at]; }
 
-    /// Begins at the first row and takes the row total: that of the longest grid. Raises
-    /// "Overflow" above 32,767 rows. A grid of exactly that many raises it behind its last row.
+    /// Starts before the first row and sets the number of rows to that of the longest grid. Raises
+    /// "Overflow" above 32,767 rows. With exactly 32,767 rows ActiveReport_FetchData() raises it
+    /// after the last one.
     void takeRowTotal();
 
     bool ActiveReport_FetchData() override;
@@ -74,6 +76,6 @@ private:
     qint16 m_rowTotal = 0;
 };
 
-/// Today's long date as the titles of the reports show it: "( date )". It is the day of printing,
+/// Returns today's long date for the title of a report, as "( date )". It is the date of printing,
 /// not that of the draw.
 QString dateInBrackets();

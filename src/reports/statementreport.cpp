@@ -39,17 +39,18 @@ constexpr ColumnLook Look{.headingTop = 1276,
 constexpr int NumberWidth = 709;
 constexpr int MoneyWidth = 1134;
 
-/// One board on paper. Its labels are numbered on from its title: caption, total, and the
+/// A board on the page. Its labels have consecutive numbers: title, caption, total, and the
 /// headings of its two columns.
 struct Block
 {
     QStringView title;
     int left;
     int firstLabel;
-    std::array<int, 3> rulingAt; ///< x of the lines before, between and behind its columns
+    std::array<int, 3> rulingAt; ///< x of the lines before, between and after its columns
 };
 
-/// On paper the side stands at the top of the page, so the titles of the bottom boards do without.
+/// The page header shows the side, so bottom boards of 2 and 3 digits have the same titles as top
+/// boards.
 constexpr std::array Blocks{
     Block{u"3 ตัวตรง", 0, 5, {300, 1000, 2130}},
     Block{u"3 ตัวโต๊ด", 1984, 10, {2280, 3000, 4110}},
@@ -144,7 +145,7 @@ void ActiveReport2::ActiveReport_Initialize()
     setText(u"Label45"_s, u"เลข"_s + m_shown.selectTab(BottomTab));
 }
 
-/// Copies the totals of the boards from @p begin to before @p end.
+/// Copies the totals of the boards from index @p begin up to, but not including, @p end.
 void ActiveReport2::showTotals(int begin, int end)
 {
     for (int at = begin; at < end; ++at)

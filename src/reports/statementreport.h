@@ -1,21 +1,22 @@
 // SPDX-License-Identifier: MIT
-// The eight boards side by side on paper: the whole book, or the statement of one customer.
+// Report of the eight boards side by side: the whole book, or the statement of one customer.
 #pragma once
 
 #include "reports/gridreport.h"
 
 #include <functional>
 
-/// What the board and the customer strip show when the boards are printed.
+/// The content of the board and of the customer strip.
 struct BoardsOnScreen
 {
-    QList<const SpreadModel *> boards;         ///< the eight, in the order of the classes
-    std::function<QString(int tab)> selectTab; ///< opens a tab of the board, gives its caption
-    QString customer = {};                     ///< the strip's name; "" for the whole book
-    QString discount = {};                     ///< the strip's discount in baht
+    QList<const SpreadModel *> boards;         ///< the eight boards, in the order of BetClasses
+    std::function<QString(int tab)> selectTab; ///< selects a tab of the board, returns its caption
+    QString customer = {};                     ///< name in the strip; "" for the whole book
+    QString discount = {};                     ///< discount in the strip, in baht
 };
 
-/// Running it leaves the board on its bottom tab, 0.
+/// Prints the boards. Selects both tabs of the board to read their captions and leaves the bottom
+/// one selected.
 class ActiveReport2 : public GridReport
 {
 public:

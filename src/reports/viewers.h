@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Opens the reports: one call for each print button. Each shows its viewer modally over the
-// window of the button, whose grids therefore stay as they are while the report reads them.
+// One function for each print button. Each shows a report in a modal dialog over @p opener, the
+// window of the button, so its grids do not change while the report reads them.
 #pragma once
 
 #include "reports/statementreport.h"
@@ -8,11 +8,11 @@
 
 class QWidget;
 
-/// The winners list of the draw check, in FPrint1.
+/// Shows the winners list of the draw check in FPrint1.
 void showWinners(const WinnersOnScreen &shown, QWidget *opener);
 
-/// The eight boards, or the statement of the customer they are filtered to, in Fprint2.
+/// Shows the eight boards in Fprint2, as the statement of a customer if they are filtered.
 void showStatement(const BoardsOnScreen &shown, QWidget *opener);
 
-/// The top and the bottom grid of the cut numbers board, in Fprint3.
+/// Shows the top and the bottom grid of CutBoard in Fprint3.
 void showCutNumbers(const SpreadModel &top, const SpreadModel &bottom, QWidget *opener);

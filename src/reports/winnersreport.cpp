@@ -26,7 +26,7 @@ constexpr ColumnLook Look{.headingTop = 600,
 constexpr auto Word = ReportColumn::Word;
 constexpr auto Money = ReportColumn::Money;
 
-/// The discount is not for the customer's eyes.
+/// Customers see this report, so it has no column for their discounts.
 constexpr std::array Columns{
     ReportColumn{u"ประเภท", Word, 3, 0, WinKindColumn, {0, 1134}, 300},
     ReportColumn{u"เลข", Word, 5, 0, WinNumberColumn, {1134, 992}, 1440, 0, {1150, 992}},

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: MIT
-// The winners list on paper: who is paid how much for which number.
+// Report of the winners: who is paid how much for which number.
 #pragma once
 
 #include "reports/gridreport.h"
 
-/// What the draw check shows when its list is printed. The grid has the seven columns of the
-/// winners list.
+/// The content of the draw check. The grid has the columns of setupWinners().
 struct WinnersOnScreen
 {
     const SpreadModel &winners;
-    QString payout;         ///< total as the label shows it, with its commas
-    bool ofCutBook = false; ///< true: the money laid off was checked, so there is no total
+    QString payout;         ///< total as shown, with thousands commas
+    bool ofCutBook = false; ///< laid-off bets were checked; the report then has no total
 };
 
 class ActiveReport1 : public GridReport

@@ -18,7 +18,7 @@ constexpr std::array ClosingStatements{
     "DELETE FROM tblNumberFix",
 };
 
-/// Customer 0 stands for nobody and is part of every Ledger.
+/// Customer 0 is "-", no customer, and part of every Ledger.
 constexpr std::array WipeStatements{
     "DELETE FROM tblMember WHERE [MPK] > 0",
     "DELETE FROM tblRMoney",
@@ -35,7 +35,7 @@ void runAll(const Statements &statements)
         LedgerConnection->run(QString::fromLatin1(statement));
 }
 
-/// Copies the result checked last to the history, whether or not it is of this draw.
+/// Copies the result checked last to the history, even if it is that of an earlier draw.
 void logDraw()
 {
     RecordsetA.open(u" SELECT  tblTrue.* FROM tblTrue WHERE [PK] = 1 "_s);
@@ -47,8 +47,8 @@ void logDraw()
     RecordsetB.close();
 }
 
-/// The file itself has the deleted rows until the WAL is moved into it. That is done before the
-/// last box, since the machine may be switched off while the box waits.
+/// Checkpoints the WAL, since the file still contains the deleted rows until then. Called before
+/// the last box, since the machine may be switched off while the box is open.
 void overwriteDeleted()
 {
     LedgerConnection->moveWalIntoFile();
@@ -71,7 +71,7 @@ void closeDraw(const BoardShowsRows &boardShowsRows)
         return;
     runAll(ClosingStatements);
     logDraw();
-    resumeNext(overwriteDeleted); // all is done by then, and closing the Ledger does it too
+    resumeNext(overwriteDeleted); // closing the Ledger tries it again
     refuse(u"ลบข้อมูล เลขงวดนี้ ทั้งหมดเสร็จสิ้น ( โปรดเปิดโปรแกรมใหม่อีกครั้ง .. )"_s);
     endProgram(0);
 }
@@ -82,7 +82,7 @@ void wipeLedger()
         || !confirmDeletion(u"โปรดยืนยันการ ( ลบข้อมูลออกทั้งหมด ) อีกครั้ง !!!!!!!! "_s))
         return;
     runAll(WipeStatements);
-    resumeNext(overwriteDeleted); // all is done by then, and closing the Ledger does it too
+    resumeNext(overwriteDeleted); // closing the Ledger tries it again
     refuse(u"ลบข้อมูลทั้งหมดเสร็จสิ้นแล้ว ( โปรดเปิดโปรแกรมใหม่อีกครั้ง .. )"_s);
     endProgram(0);
 }

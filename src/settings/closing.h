@@ -1,20 +1,20 @@
 // SPDX-License-Identifier: MIT
-// The two endings of a period of work: closing a draw, and wiping the Ledger. After both the
-// program is gone, so that no page goes on showing what is no longer there.
+// Closes a draw or wipes the Ledger. Both end the program, so that no page keeps showing data that
+// was deleted.
 #pragma once
 
 #include <functional>
 
-/// Tells whether any of the eight boards shows a row. Asking loads the board where it is not
-/// open; one that is filtered answers for what it shows.
+/// Returns true if any of the eight boards has a row. A page that is open counts as it is, filtered
+/// or not; otherwise the boards are loaded.
 using BoardShowsRows = std::function<bool()>;
 
-/// " ลบข้อมูลงวดนี้": asks, then empties the book, the lines laid off, the discounts and the hot
-/// numbers, appends the result checked last to the history, says so and ends the program. Comes
-/// back where the boards show nothing, which is refused, and on Cancel, with nothing changed.
-/// Raises RunTimeError with the statements run up to then kept.
+/// Asks for confirmation, then deletes the bets, those laid off, the discounts and the hot numbers,
+/// appends the result checked last to the history, shows a box and ends the program. Returns only
+/// if nothing was changed: after a box if the boards are empty, or on Cancel. There is no
+/// transaction: if it raises RunTimeError, the statements before it stay in effect.
 void closeDraw(const BoardShowsRows &boardShowsRows);
 
-/// " ลบข้อมูลทั้งหมด": asks twice, then empties all but the rates and the result checked last, says
-/// so and ends the program. Comes back on Cancel with nothing changed.
+/// Asks twice for confirmation, then deletes everything but the rates, the result checked last and
+/// customer "-", shows a box and ends the program. Returns only on Cancel, with nothing changed.
 void wipeLedger();

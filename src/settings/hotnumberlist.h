@@ -1,27 +1,29 @@
 // SPDX-License-Identifier: MIT
-// Hot numbers, "เลขดัง": the numbers on which the agent pays half the prize.
+// Lists, adds and deletes hot numbers (เลขดัง), on which the agent pays half the prize.
 #pragma once
 
 #include "widgets/spreadmodel.h"
 
-/// Columns of the list of hot numbers. Column 0 holds the key.
-inline constexpr int HotPlaceColumn = 1;
-inline constexpr int HotNumberColumn = 2; ///< as entered: pays half when bet straight
-inline constexpr int HotTodColumn = 3;    ///< its orders: pay half when bet in any order
+/// Columns of the list. Column 0 has the key.
+inline constexpr int HotPlaceColumn = 1;  ///< row number
+inline constexpr int HotNumberColumn = 2; ///< as entered; a straight bet on it wins half
+inline constexpr int HotTodColumn = 3;    ///< its orders; a tod bet on any of them wins half
 
-/// The tod form of a hot number: its distinct orders, the number itself first, as they are listed
-/// on this screen. "-" for equal digits, "" for a number that has not two or three digits.
+/// Returns the text of HotTodColumn: the distinct orders of a number, the number itself first. "-"
+/// if all digits are equal, "" if there are not two or three of them.
 QString hotTodForm(const QString &number);
 
 /// Fills the list, the newest number first.
 void listHotNumbers(SpreadModel &list);
 
-/// True if the list holds exactly that text; 21 may stand beside 12.
+/// Returns true if this number is a hot number. Another order of its digits does not count.
 bool isHotNumber(const QString &number);
 
-/// Puts a number on the list; raises "Overflow" for a key beyond 16 bits.
+/// Adds a number to the list. Raises "Overflow" if its key would exceed 16 bits.
 void addHotNumber(const QString &number);
 
-/// Take one number or all from the list.
+/// Deletes the hot number with this key.
 void deleteHotNumber(qint32 key);
+
+/// Deletes all hot numbers.
 void deleteAllHotNumbers();

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// The payout rates as the settings show and store them: one field for each class of bet.
+// Reads and writes the payout rates as texts of the fields in the settings.
 #pragma once
 
 #include "ledger/schema.h"
 
 #include <optional>
 
-/// Texts of the eight rates in the order of RateColumns.
+/// The eight rates in the order of RateColumns.
 using RateTexts = std::array<QString, RateColumns.size()>;
 
-/// The rates as stored; nothing without their row.
+/// Reads the rates. Returns nothing if tblMoney lacks their row.
 std::optional<RateTexts> readRates();
 
-/// Stores the rates. Raises "Type mismatch" for a text that is no number, "Overflow" beyond 16
-/// bits, before anything is written.
+/// Writes the rates. Raises "Type mismatch" for a text that is no number and "Overflow" for a rate
+/// beyond 16 bits; nothing is written then.
 void writeRates(const RateTexts &rates);

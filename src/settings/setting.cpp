@@ -25,7 +25,7 @@ Setting::Setting(QWidget *parent, BoardShowsRows boardShowsRows)
     m_ui->fpSpread1->setColumnDigits(HotTodColumn + 1, 2);
     m_ui->fpSpread1->setRowPoints(21);
     for (auto *button : findChildren<QPushButton *>())
-        button->setAutoDefault(false); // Enter belongs to the fields
+        button->setAutoDefault(false); // Enter in a field must not click a button
     connectControls();
     Form_Load();
 }
@@ -86,7 +86,7 @@ void Setting::lvButtons_H1_Click()
     wipeLedger();
 }
 
-/// "บันทึกอัตราจ่าย": stores the rates, which count from then on.
+/// "บันทึกอัตราจ่าย": saves the payout rates and puts them into effect.
 void Setting::lvButtons_H2_Click()
 {
     RateTexts rates;
@@ -104,7 +104,7 @@ void Setting::lvButtons_H2_Click()
     inform(u"บันทึก รายการ เข้าสู่ระบบงานฐานข้อมูลเรียบร้อย."_s);
 }
 
-/// "เพิ่มเลข": makes a number hot.
+/// "เพิ่มเลข": adds a hot number.
 void Setting::lvButtons_H3_Click()
 {
     QLineEdit *field = m_ui->text9;
@@ -126,7 +126,7 @@ void Setting::lvButtons_H3_Click()
     LoadNumberFix();
 }
 
-/// "ลบเลข": makes the number of the active row an ordinary one.
+/// "ลบเลข": deletes the hot number in the active row.
 void Setting::lvButtons_H4_Click()
 {
     if (m_hotNumbers.rows() == 0)
@@ -142,7 +142,7 @@ void Setting::lvButtons_H4_Click()
     LoadNumberFix();
 }
 
-/// "ลบเลขดังทั้งหมด": leaves no number hot.
+/// "ลบเลขดังทั้งหมด": deletes all hot numbers.
 void Setting::lvButtons_H5_Click()
 {
     if (m_hotNumbers.rows() == 0)
@@ -151,6 +151,6 @@ void Setting::lvButtons_H5_Click()
              BoxIcon::Exclamation, BoxAnswer::Cancel))
         return;
     deleteAllHotNumbers();
-    refuse(u"ลบข้อมูลทั้งหมดเสร็จสิ้นแล้ว . . . . ."_s); // a warning, though it reports success
+    refuse(u"ลบข้อมูลทั้งหมดเสร็จสิ้นแล้ว . . . . ."_s); // shows the warning icon although it succeeded
     LoadNumberFix();
 }

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The dialog "ตั้งค่าหวย": what the agent pays, and on which numbers he pays half.
+// The dialog "ตั้งค่าหวย": payout rates, hot numbers, closing a draw and wiping the Ledger.
 #pragma once
 
 #include "desktop/focustracker.h"
@@ -22,7 +22,7 @@ class Setting : public QDialog
     Q_OBJECT
 
 public:
-    /// @p boardShowsRows is asked before a draw is closed.
+    /// @p boardShowsRows is called before a draw is closed.
     Setting(QWidget *parent, BoardShowsRows boardShowsRows);
     ~Setting() override;
 

@@ -102,7 +102,7 @@ void Player::chooseByKey(int index)
 {
     constexpr int F1 = 112;
     for (const KindKey &key : KindKeys) {
-        if (placeOfKind(key.kind) == index)
+        if (indexOfKind(key.kind) == index)
             Hands::press(key.codes[0] >= F1 ? Qt::Key(Qt::Key_F1 + key.codes[0] - F1)
                                             : Qt::Key_End);
     }
