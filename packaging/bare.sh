@@ -2,8 +2,8 @@
 # SPDX-License-Identifier: MIT
 #
 # Runs ./run and ./test on a system that has nothing but git, sudo and a shell.
-# debootstrap installs it into build/bare, so packages of this machine cannot
-# hide one that is missing from packaging/prepare.sh.
+# debootstrap installs it into build/bare, so that packages of this machine
+# cannot hide one that is missing from packaging/prepare.sh.
 
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -19,20 +19,22 @@ Usage: packaging/bare.sh [--root] [--keep] [--language LANG] SUITE
 
 Installs the release SUITE of Debian or Ubuntu (bookworm, trixie, noble, ...)
 into build/bare/SUITE, clones the last commit into a home folder whose name has
-a blank and Thai letters, runs ./run and ./test there, then ./run once more
-without network, and prints how long each took. Where this machine has built its
-own tests, one book is then used alternately here and there. Must be started by root.
+a space and Thai letters, runs ./run and ./test there, then ./run once more
+without network, and prints how long each took. If the tests have been built on
+this machine, one book is then written alternately here and there. Must be run as
+root.
 
   --root            Run the commands as root; otherwise as a user with sudo.
-  --keep            Leave the system in build/bare/SUITE for further trials.
+  --keep            Keep the system in build/bare/SUITE.
   --language LANG   Set LANG to this locale, and install it (default: C).
   --folder          Instead, install what every desktop has, and start the
-                    portable folder there that ./run folder has made here.
-  --inside          Only run a command, as root, in a system that was kept, with
-                    /tmp of this machine.
-  --reachable       Only say by the exit status whether this can be done here.
+                    portable folder that ./run folder has made.
+  --inside          Only run a command, as root, in a kept system, with /tmp of
+                    this machine.
+  --reachable       Only check whether the package archive has SUITE. The exit
+                    status is the result.
 
-Packages come from the archive that this machine uses; DESK_MIRROR names another.
+Packages come from the archive that this machine uses, or from DESK_MIRROR.
 USAGE
 }
 
@@ -54,7 +56,7 @@ suite=$1
 system=$PWD/build/bare/$suite
 mirror=${DESK_MIRROR-}
 if [[ -z $mirror ]] && command -v apt-get >/dev/null; then
-    # shellcheck disable=SC2016 # a name of apt-get's own
+    # shellcheck disable=SC2016 # expanded by apt-get
     mirror=$(apt-get indextargets --format '$(SITE)' 'Created-By: Packages' | head -n 1)
 fi
 
@@ -67,8 +69,8 @@ reachable()
     return "$status"
 }
 
-# inside [--net] USER COMMAND...: runs a command in the bare system, with --net cut off from the
-# network. What the command leaves running ends with it.
+# inside [--net] USER COMMAND...: runs a command in the bare system, with --net without network.
+# Processes that the command leaves behind are killed when it ends.
 inside()
 {
     local -a net=()
@@ -88,7 +90,7 @@ make_system()
     local -a script=()
     local include=$1
     [[ $language == C* ]] || include+=,locales
-    # An older debootstrap does not know the names of newer releases; Ubuntu's are made alike.
+    # An older debootstrap does not know newer releases of Ubuntu. All use the script of gutsy.
     if [[ ! -e /usr/share/debootstrap/scripts/$suite ]]; then
         script=(/usr/share/debootstrap/scripts/gutsy)
     fi
@@ -126,10 +128,10 @@ try_commands()
     timed --net ./run
     if [[ -x build/release/keeper ]]; then
         tests/twosystems/bothways.sh build/release "$build/keeper" "$build/make-empty-ledger" \
-            packaging/bare.sh --inside "$suite" || die "one book cannot be kept here and on $suite"
-        report+=("one book used alternately here and there")
+            packaging/bare.sh --inside "$suite" || die "one book cannot be used alternately here and on $suite"
+        report+=("one book written alternately here and there")
     else
-        report+=("one book used alternately NOT RUN: ./test has not been run here")
+        report+=("one book written alternately NOT RUN: ./test has not been run here")
     fi
 }
 
@@ -138,7 +140,7 @@ try_folder()
     local archive plugins=build/release/tests/portable/plugins
     archive=$(echo build/portable/*.tar.gz)
     [[ -e $archive && -d $plugins ]] || die "./run folder and ./test have to be run here first"
-    # Programs of a desktop, for the sake of the libraries that they share with all desktops.
+    # These programs depend on the libraries that every desktop has.
     make_system ca-certificates,zenity,mesa-utils,alsa-utils,xvfb,xauth
     tar -xf "$archive" -C "$system$home"
     cp -r "$plugins" "$system$home/visitor"
@@ -147,7 +149,7 @@ try_folder()
     inside agent bash -c 'cd ~ && QT_PLUGIN_PATH=$HOME/visitor QT_QPA_GENERIC_PLUGINS=visitor \
         SDL_AUDIODRIVER=dummy xvfb-run -a timeout 30 mirakla-desk-*/mirakla-desk' >"$system.seen" ||
         die "the folder does not start on $suite; the system is left in $system"
-    grep -q '^type: Noto Sans, Noto Sans Thai$' "$system.seen" || die "Thai is not drawn; see $system.seen"
+    grep -q '^font: Noto Sans, Noto Sans Thai$' "$system.seen" || die "Thai is not drawn; see $system.seen"
     [[ $(sqlcipher "$system$home"/mirakla-desk-*/data/ztkdata.ZDB "PRAGMA key = '639417';
         PRAGMA cipher_compatibility = 3; SELECT numValue, numBuy FROM tblNumber;" | tail -n 1) == '123|100' ]] ||
         die "the folder on $suite has not saved its ticket"
@@ -159,8 +161,8 @@ if [[ $mode == inside ]]; then
     inside root "${@:2}"
     exit
 fi
-[[ -n $mirror ]] || die "no package archive is known; name one in DESK_MIRROR"
-reachable || die "the release $suite cannot be had from the package archive"
+[[ -n $mirror ]] || die "no package archive is known; set DESK_MIRROR to one"
+reachable || die "the package archive does not have $suite, or does not answer"
 [[ $mode != reachable ]] || exit 0
 install_missing bare
 "try_$mode"

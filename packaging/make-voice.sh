@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Makes the recordings of data/mp3: the Thai words that the program speaks while
-# bets are keyed. espeak-ng speaks them from the phonemes below, since it cannot
-# read Thai spelling; sox takes the silence off and makes them equally loud;
-# lame packs them. The same versions of the three give the same bytes.
+# Makes the recordings in data/mp3: the Thai words that the program speaks while
+# bets are typed. espeak-ng speaks them from the phonemes below, since it cannot
+# read Thai; sox trims them and makes them equally loud; lame encodes them. With
+# the same versions of the three, the files are identical.
 
 set -euo pipefail
 export LC_ALL=C
@@ -17,22 +17,23 @@ usage()
 Usage: packaging/make-voice.sh [FOLDER]
        packaging/make-voice.sh --help
 
-Writes the 24 recordings into FOLDER (as seen from the root of the tree), or into
-data/mp3 if none is named.
+Writes the 24 recordings to FOLDER (relative to the root of the tree), or to
+data/mp3.
 USAGE
 }
 
-# One recording a line: file, seconds it may last, voice, words a minute,
-# phonemes ("_" parts words), and the Thai.
+# One recording per line: file, maximum length in seconds, voice, words per
+# minute, phonemes ("_" separates words), and the Thai text.
 #
-# The figure after a vowel is its tone: 1 rising, 2 low, 3 mid, 4 high,
+# The digit after a vowel is its tone: 1 rising, 2 low, 3 mid, 4 high,
 # 5 falling. A colon makes the vowel long, a quote stresses the syllable that
-# distinguishes the word from similar ones; "**" is the tapped r. Thai does not release the
-# stop that ends a syllable: inside a recording it is written "b", the one here
-# that is held shut, and at the end of one the release is cut off.
+# distinguishes the word from similar ones; "**" is the tapped r. In Thai a stop
+# at the end of a syllable is not released. Inside a recording it is written "b",
+# which espeak-ng does not release there; at the end of a recording the release
+# is cut off.
 #
-# The dash is "money", not the equally usual "equals": the latter begins like
-# nine, and that is all one hears of it when the next key comes quickly.
+# The dash is spoken as "money", not as the equally common "equals", which begins
+# like "nine": if the next key comes quickly, no more than that is heard.
 recordings="
 0         0.6  plain  170  s'u:1n                       ศูนย์
 1         0.6  ue     170  n'i.2N                       หนึ่ง
@@ -61,20 +62,20 @@ updown    1.3  plain  165  bo3n_l'a:5N                  บนล่าง
 "
 
 loudness=-20 # dBFS, root mean square of every recording
-peak=-1      # dBFS, which none may exceed
+peak=-1      # dBFS, maximum of every recording
 
-# A frame of MPEG-1 layer III at 48 kHz and 64 kbit/s lasts 24 ms and has 192
-# bytes, never one more or less.
+# A frame of MPEG-1 layer III at 48 kHz and 64 kbit/s lasts 24 ms and always has
+# 192 bytes.
 rate=48000
 frame_bytes=192
 frame_ms=24
 
-# Lays out beside espeak-ng's own data two voices that speak Thai with a range of
-# ten semitones instead of three, since the tones are lost otherwise, with a tune
-# that leaves the tones alone, and with crisper consonants. (A pitch below zero is
-# only where the scale begins: the lowest tone is spoken at 89 Hz.) The second one
-# also draws the second formant of its one vowel from 1.7 to 1.4 kHz: espeak-ng
-# has no nearer sound for the Thai "ue".
+# Adds two Thai voices to a copy of espeak-ng's data. Their pitch range is ten
+# semitones instead of three, since the tones cannot be heard otherwise; their
+# tune does not change the tones, and their consonants are crisper. (The negative
+# pitch is only the start of the scale: the lowest tone is spoken at 89 Hz.) The
+# second voice also lowers the second formant of its vowel from 1.7 to 1.4 kHz,
+# since espeak-ng has no closer sound for the Thai "ue".
 make_voices()
 {
     local installed voices=$work/espeak-ng-data/voices
@@ -88,17 +89,17 @@ make_voices()
     echo 'formant 2 80 100 100' >>"$voices/ue"
 }
 
-# level WAV NAME: the level of that name in the statistics of sox, in dBFS.
+# level WAV NAME: prints the level of that name in the statistics of sox, in dBFS.
 level()
 {
     sox "$1" -n stats 2>&1 | awk -v name="$2" 'index($0, name) == 1 { print $4 }'
 }
 
-# speak VOICE RATE PHONEMES: leaves the spoken word in $work/word.wav: nothing
-# before it, nothing behind it, as loud as the others.
+# speak VOICE RATE PHONEMES: writes the spoken word to $work/word.wav, without
+# silence around it and as loud as the others.
 #
-# From the end everything goes that does not sound for a tenth of a second, so
-# also the puff with which espeak-ng releases a last stop.
+# At the end, sounds shorter than a tenth of a second are cut off too, such as the
+# puff with which espeak-ng releases a stop.
 speak()
 {
     espeak-ng --path="$work" -v "$1" -s "$2" -w "$work/raw.wav" "[[${3//_/ }]]"
@@ -109,12 +110,12 @@ speak()
             'BEGIN { print to - is }')"
 }
 
-# pack FILE: packs the word into FILE. lame puts 1105 samples of silence in front,
-# which would delay the echo of a key by 23 ms, so the first frame, 1152 samples,
-# is dropped; no frame leans on the bits of another, and there is neither a header
-# nor a tag. The first half frame that remains cannot be restored without the one
-# dropped, so silence is put there: the word begins 13 ms into the file. The silence
-# behind it is for players that never finish the last frame.
+# pack FILE: encodes the word as FILE. lame puts 1105 samples of silence in front,
+# which would delay the word of a key by 23 ms, so the first frame of 1152 samples
+# is dropped. The options make frames independent of each other and leave out
+# header and tag. Half of the second frame cannot be decoded without the first, so
+# silence is put there: the word begins 13 ms into the file. The silence after the
+# word is for players that do not play the last frame to its end.
 pack()
 {
     sox -D "$work/word.wav" -b 16 "$work/padded.wav" pad 0.014 0.024
@@ -122,8 +123,8 @@ pack()
     tail -c "+$((frame_bytes + 1))" "$work/packed.mp3" >"$1"
 }
 
-# check FILE SECONDS: prints what the recording measures, and ends the script if
-# it is too long or too loud.
+# check FILE SECONDS: prints length and levels of the recording, and ends the
+# script if it is too long or too loud.
 check()
 {
     local ms top

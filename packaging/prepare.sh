@@ -1,31 +1,31 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 #
-# What the other scripts share: the packages the project needs, and how to
-# install and build. Source it from a bash script in the root of the
-# tree, or run it by itself ("bash packaging/prepare.sh") to install everything
-# a contributor needs.
+# Shared by the other scripts: the packages that the project needs, and functions
+# that install and build. Source it from a bash script whose working directory is
+# the root of the tree, or run it by itself ("bash packaging/prepare.sh") to
+# install everything that a contributor needs.
 
-# One package a line: the group it belongs to, its name, and what it is for.
+# One package per line: its group, its name, and its purpose.
 #   build   to configure and compile the program
-#   screen  to show windows where there is no display
+#   screen  to show windows without a display
 #   test    to run the tests
 #   bench   to run the benchmarks
-#   bare    to try the project on a system that has nothing installed
+#   bare    to test the project on a system that has nothing installed
 #   lint    to check source and scripts
 #   fuzz    to build the fuzzers by hand
-#   windows to build and try the program for Windows
-#   voice   to make the recordings
+#   windows to build and test the program for Windows
+#   voice   to make the recordings again
 #   pictures to make the icon and the pictures of README and guide
 packages='
 build   build-essential   the C++ compiler, the linker and the system headers
 build   cmake             configures the build and runs the tests
-build   ninja-build       carries out the build
+build   ninja-build       runs the build
 build   pkg-config        finds the libraries below
 build   qt6-base-dev      windows, widgets and the X11 platform plugin
 build   libgl-dev         OpenGL headers, without which Qt is not found by CMake
 build   libsqlcipher-dev  the encrypted database that holds the book
-build   libssl-dev        derives the key of the book where the password does not do
+build   libssl-dev        derives the key of a book whose salt is damaged
 build   libx11-dev        the keyboard state of the X server
 build   libsdl2-mixer-dev plays sounds
 build   fonts-noto-core   draws Thai and Latin text
@@ -44,9 +44,9 @@ fuzz    libclang-rt-dev   libraries of the fuzzer and the sanitizers
 windows g++-mingw-w64-x86-64-posix  the compiler for Windows
 windows dpkg-dev          unpacks the sources of the libraries
 windows perl              configures one of them
-windows tcl               puts another together
+windows tcl               generates the source of another
 windows wine              runs Windows programs
-windows wine64            the part of it that does
+windows wine64            the 64-bit part of wine
 voice   espeak-ng         speaks the words of the recordings
 voice   sox               trims and levels the recordings
 voice   lame              packs the recordings
@@ -54,14 +54,14 @@ pictures imagemagick      draws the icon
 pictures pngquant         reduces pictures to a palette
 '
 
-# Says why the script cannot go on, and ends it.
+# Prints an error message and ends the script.
 die()
 {
     printf '%s: %s\n' "${0##*/}" "$*" >&2
     exit 1
 }
 
-# True on the systems whose packages are known to be named as above and to be new enough.
+# Succeeds on systems whose packages have the names above and are recent enough.
 is_supported()
 {
     local ID='' VERSION_ID=''
@@ -74,8 +74,8 @@ is_supported()
     esac && command -v dpkg-query >/dev/null && command -v apt-get >/dev/null
 }
 
-# install_missing GROUP...: installs the packages of the groups that are not yet
-# there. Asks the package system once, and touches nothing if all are present.
+# install_missing GROUP...: installs the packages of the groups that are missing.
+# Calls dpkg-query only once, and nothing else if all are installed.
 install_missing()
 {
     local group name why installed
@@ -92,8 +92,8 @@ install_missing()
     is_supported ||
         die "packages are installed on Debian from 12 and Ubuntu from 24.04 only; here install what Debian calls: ${wanted[*]}; then build with CMake, as CONTRIBUTING.md says"
 
-    # dpkg-query reports failure as soon as one package is unknown to it; the
-    # lines it prints for the others are what counts.
+    # dpkg-query fails if it does not know a package, but prints the lines of the
+    # others.
     installed=$(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${wanted[@]}" 2>/dev/null) || true
     for name in "${wanted[@]}"; do
         if [[ $'\n'$installed$'\n' != *$'\n'"installed $name"$'\n'* ]]; then
@@ -122,9 +122,9 @@ install_missing()
 
 # build PRESET [TARGET...]: configures and builds the targets, or everything if
 # none is named. The presets release, test, bench and ci share a folder, so that
-# what one has built the next need not build again: each adds its option to those
-# that are on. Once configured, Ninja itself notices changed CMakeLists.txt files;
-# only a change of the presets or of the option has to be looked for here.
+# nothing is built twice: each adds its option to those that are on. Ninja itself
+# notices changed CMakeLists.txt files; this function checks for changed presets
+# and a missing option.
 build()
 {
     local preset=$1 folder=build/release option=''
@@ -139,7 +139,7 @@ build()
         { [[ -n $option ]] && ! grep -q "^$option:[A-Z]*=ON\$" "$folder/CMakeCache.txt"; }; then
         cmake --preset "$preset" || die "the $preset build could not be configured"
     fi
-    [[ $preset != lint ]] || return 0 # nothing of it is compiled
+    [[ $preset != lint ]] || return 0 # clang-tidy needs no compiled code
     cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"} ||
         die "the $preset build failed"
 }

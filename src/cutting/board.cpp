@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The number of RecordsetA's current row in column @p at, and its money behind it.
+/// Returns the number in column @p at of RecordsetA's current row and the money in the next column.
 NumberMoney lineAt(qsizetype at)
 {
     const QVariant &money = RecordsetA.field(at + 1);
@@ -21,8 +21,9 @@ NumberMoney lineAt(qsizetype at)
             money.isNull() ? std::nullopt : std::optional(numberOf(money))};
 }
 
-/// Place of the class whose marks RecordsetA's current row begins with, or -1 for a line that another
-/// tool has put in.
+/// Returns the index in BetClasses of RecordsetA's current row, whose first columns are num23,
+/// updown and numType. Returns -1 for a row without a class, which only another program can have
+/// written.
 int classOfCurrentRow()
 {
     const int side = RecordsetA.field(1).toInt();
@@ -137,7 +138,8 @@ void Board::load(int at, const BoardLines &lines, const HotNumbers &hotNumbers,
     grid.setText(TotalRow, AmountColumn, formatBaht(BoardTotal));
 }
 
-/// Writes the rows and sums the money. Halving may send a hot number down the board.
+/// Writes the rows and sums the money. Halving a hot number may change the order, so the rows are
+/// then sorted again.
 void Board::fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbers,
                      ProgressBar &progress)
 {
@@ -164,7 +166,7 @@ void Board::fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbe
     }
     if (halved)
         grid.sortDescending(AmountColumn, [](const QString &text) {
-            return text.isEmpty() ? 0 : CDbl(text); // no money has no text
+            return text.isEmpty() ? 0 : CDbl(text); // formatBaht(0) is empty
         });
 }
 

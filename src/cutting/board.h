@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The board: for each class of bet every number bought in the draw with the money on it, heaviest
-// first, and the most that one winning number could cost. Reads the Ledger, writes nothing.
+// The board: for each class of bet, all numbers bought in the draw with their money, most money
+// first, and what the first one would cost if it won. Reads the Ledger, writes nothing.
 #pragma once
 
 #include "entry/betgrid.h"
@@ -10,8 +10,8 @@
 #include <optional>
 #include <vector>
 
-/// Columns of a board behind those that are shown, with column 0 the class of each row: its
-/// numType, its num23 and "True" for top or "False" for bottom.
+/// Columns of a board that are hidden. They store the class of each row: numType, num23, and "True"
+/// for top or "False" for bottom.
 inline constexpr int TypeColumn = 0;
 inline constexpr int DigitsColumn = 3;
 inline constexpr int SideColumn = 4;
@@ -20,60 +20,61 @@ inline constexpr int SideColumn = 4;
 struct NumberMoney
 {
     QString number;
-    std::optional<double> money; ///< whole baht; nothing if none of its lines holds any
+    std::optional<double> money; ///< whole baht; std::nullopt if all its lines have NULL
 };
 
-/// Numbers with their money, the most money first, equal money by number.
+/// Numbers with their money: most money first, equal money by number.
 using BoardLines = std::vector<NumberMoney>;
 
-/// Numbers of the whole book in one class.
+/// Returns the numbers of the whole book in one class.
 BoardLines readBoard(const BetClass &betClass);
 
-/// Numbers of one customer in all classes. Blanks around the name are ignored; wild cards in it
-/// count. All eight boards of a filter come from this one statement.
+/// Returns the numbers of one customer in all classes, read by one statement. Spaces around the
+/// name are ignored. "%" and "_" in it are the wildcards of LIKE.
 std::array<BoardLines, ClassCount> readCustomerBoards(const QString &name);
 
-/// Discount percent of the customer whom a name keyed in part finds: the one with the lowest key.
-/// Nothing if there is none or the Ledger cannot be read.
+/// Returns the discount in percent of the customer whose name contains @p name, of several the one
+/// with the lowest key. Returns std::nullopt if there is none or the Ledger cannot be read.
 std::optional<QString> customerPercent(const QString &name);
 
-/// Names of the customers who hold a bet in the draw, in Thai order, each once.
+/// Returns the names of the customers with a bet in the draw, in Thai order. Names that differ only
+/// in case are listed once.
 QStringList readBuyers();
 
-/// The eight boards, what their heaviest numbers would cost, and the totals of the book.
+/// The eight boards, their estimated largest losses, and the totals of the book.
 struct Board
 {
     Board();
 
-    /// Grid of a class, 0 to 7 in the order of BetClasses.
+    /// The grid of each class, in the order of BetClasses.
     std::array<SpreadModel, ClassCount> grids;
 
-    /// What the heaviest number of a class would cost if it won, in whole baht as "#,##".
+    /// What the first number of each class would cost if it won, in whole baht as "#,##".
     std::array<QString, ClassCount> estimates;
 
-    GridTotals BoardSums{}; ///< header total of each board
-    qint32 TopSum = 0;      ///< stays as it was while no top number has money
-    qint32 BottomSum = 0;
+    GridTotals BoardSums{};      ///< header total of each board
+    qint32 TopSum = 0;           ///< keeps its last value when the top total becomes 0
+    qint32 BottomSum = 0;        ///< keeps its last value when the bottom total becomes 0
     QString FilterName;          ///< customer of the filter
-    qint32 SavedTicketTotal = 0; ///< discount money of all saved tickets, read with the page
+    qint32 SavedTicketTotal = 0; ///< discount money of all saved tickets when the page was opened
 
-    bool isEmpty() const; ///< true while no board has a row
+    bool isEmpty() const; ///< returns true if no board has a row
 
-    /// Empties a board.
+    /// Empties a board and writes its header.
     void SetupSpread(int at);
 
-    /// Fills a board with @p lines. A hot number shows half its money, which may send it down the
-    /// board; the total in the header counts it in full. Raises "Overflow" when that total leaves
-    /// 32 bits and "Invalid use of Null" for a number without money; the rows above it stay. Shows
-    /// the progress unless there is nothing to load.
+    /// Fills a board with @p lines and sets its estimate. A hot number is listed with half its
+    /// money, but counts in full in the total in the header. Raises "Overflow" when that total
+    /// exceeds 32 bits and "Invalid use of Null" for a number without money; the rows before it are
+    /// then filled. Starts the progress bar unless there are no lines; the caller finishes it.
     void load(int at, const BoardLines &lines, const HotNumbers &hotNumbers, ProgressBar &progress);
 
-    /// Takes a board's total from its header into BoardSums.
+    /// Sets BoardSums[at] to the total in the board's header.
     void takeTotal(int at);
 
 private:
     void fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbers,
                   ProgressBar &progress);
 
-    qint32 BoardTotal = 0; ///< of the board being loaded
+    qint32 BoardTotal = 0; ///< total of the board being loaded
 };

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The cut numbers: what has been laid off, number by number, top and bottom each in a list. Real
-// money throughout: hot numbers are neither marked nor halved.
+// The cut numbers: the money laid off on each number, in one list for top and one for bottom. Hot
+// numbers are neither marked nor halved.
 #pragma once
 
 #include "widgets/progressbar.h"
@@ -13,10 +13,10 @@ inline constexpr int CutTypeColumn = 1;
 inline constexpr int CutNumberColumn = 2;
 inline constexpr int CutAmountColumn = 3;
 
-/// In TotalRow the total spans the columns of the numbers and of the money.
+/// Column of the total in TotalRow, which spans the columns of numbers and of amounts.
 inline constexpr int CutTotalColumn = CutNumberColumn;
 
-/// Both lists, empty until they are loaded.
+/// Both lists. They are empty until they are loaded.
 class CutBoard
 {
 public:
@@ -24,10 +24,11 @@ public:
 
     std::array<SpreadModel, 2> grids; ///< top, bottom
 
-    bool isEmpty() const; ///< true while nothing is listed
+    bool isEmpty() const; ///< returns true if both lists are empty
 
-    /// Load one list: straight, tod, run, in each the longer numbers first. Raise "Overflow" when
-    /// a total leaves 32 bits.
+    /// Load one list: straight, tod, run, each with the longer numbers first. Raise "Overflow" when
+    /// the total exceeds 32 bits and "Invalid use of Null" for a number without money. The
+    /// caller finishes the progress bar.
     void LoadNumcutup(ProgressBar &progress) { load(0, true, progress); }
     void LoadNumcutdown(ProgressBar &progress) { load(1, false, progress); }
 
@@ -35,5 +36,5 @@ private:
     void SetupSpread();
     void load(size_t list, bool updown, ProgressBar &progress);
 
-    qint32 NumcutTotal = 0; ///< of the list being loaded
+    qint32 NumcutTotal = 0; ///< total of the list being loaded
 };

@@ -36,7 +36,7 @@ CutNum::CutNum(std::function<void()> unload, QWidget *parent)
 
 CutNum::~CutNum() = default;
 
-/// Every way of closing comes by here: Esc, which sends no close event, and the window's cross.
+/// Called for every way of closing the dialog. A close event would not do: Esc sends none.
 void CutNum::done(int result)
 {
     if (const auto unload = std::exchange(m_unload, {}))
@@ -44,7 +44,7 @@ void CutNum::done(int result)
     QDialog::done(result);
 }
 
-/// Fills the grid. The active row stays, the last one at most.
+/// Fills the grid and keeps the active row, or activates the last one if there are fewer rows.
 void CutNum::LoadNumrunup()
 {
     const int row = std::max(m_ui->fpSpread1->activeRow(), 1);
@@ -52,13 +52,13 @@ void CutNum::LoadNumrunup()
     m_ui->fpSpread1->setActiveRow(std::min(row, m_cutOut.grid.rows()));
 }
 
-/// A click on a line, or Space: says whose it is. Moving the active row by itself says nothing.
+/// A click on a line, or Space: shows its customer. The arrow keys alone show none.
 void CutNum::fpSpread1_Click()
 {
     m_ui->Tname->setText(m_cutOut.grid.text(m_ui->fpSpread1->activeRow(), CutColumn::Customer));
 }
 
-/// "ยืนยัน": lays off the amount from the active row's line.
+/// "ยืนยัน": lays off the amount from the line in the active row.
 void CutNum::lvButtons_H3_Click()
 {
     if (m_cutOut.grid.rows() == 0 || !checkFields())
@@ -101,7 +101,7 @@ void CutNum::refuseAmount(const QString &text)
     m_ui->text1->setFocus();
 }
 
-/// " ลบรายการที่เลือกนี้ออกจากฐานข้อมูล": takes the active row's line out of the book.
+/// " ลบรายการที่เลือกนี้ออกจากฐานข้อมูล": deletes the line in the active row from the book.
 void CutNum::lvButtons_H1_Click()
 {
     if (m_cutOut.grid.rows() == 0)

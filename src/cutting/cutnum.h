@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The dialog "คัดหวย ( ตีออก )": lays off money of the lines behind one number.
+// The dialog "คัดหวย ( ตีออก )": lists the bet lines of one number and lays off money from them.
 #pragma once
 
 #include "cutting/cutout.h"
@@ -19,7 +19,8 @@ class CutNum : public QDialog
     Q_OBJECT
 
 public:
-    /// For the selected class and number. @p unload runs once as the dialog closes, whichever way.
+    /// Lists the lines of the selected class and number. @p unload is called once, before the
+    /// dialog closes.
     CutNum(std::function<void()> unload, QWidget *parent);
     ~CutNum() override;
 

@@ -24,7 +24,7 @@ constexpr std::array Columns{
     GridColumn{CutColumn::Amount, u"ยอดซื้อ", Qt::AlignRight, Qt::AlignHCenter},
 };
 
-/// Places of what the list of lines reads.
+/// Columns of the SELECT statement in LoadNumrunup().
 enum class Read { Key, Name, Buyer, Money, User };
 
 const QVariant &field(const QVariantList &line, Read place)
@@ -32,8 +32,8 @@ const QVariant &field(const QVariantList &line, Read place)
     return line[qsizetype(place)];
 }
 
-/// Lines of equal money stand by age. The engine takes the money's order from its index, which
-/// knows no age, and would have to sort all lines for it.
+/// Sorts lines of equal money by NPK, oldest first. The index of tblNumber has the order of money
+/// but not that of NPK: with NPK in ORDER BY, SQLite would have to sort all lines.
 void sortEqualMoneyByKey(QList<QVariantList> &lines)
 {
     const auto older = [](const QVariantList &left, const QVariantList &right) {
@@ -55,7 +55,7 @@ void removeLine(qint32 NPK, const QString &nuser)
                           {NPK, trimBlanks(nuser)});
 }
 
-/// Takes the amount off a line that stays in the book.
+/// Reduces the amount of a line that stays in the book.
 void takeOff(const CutLine &line, qint32 amount)
 {
     RecordsetA.open(u" SELECT tblNumber.numbuy FROM tblNumber WHERE [NPK] = ? AND [nUser] LIKE ?"_s,

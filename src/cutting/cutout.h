@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
-// The cut: money of one bet line is laid off, out of the book and into the cut numbers.
+// The cut: moves money of one bet line from the book to the cut numbers.
 #pragma once
 
 #include "widgets/spreadmodel.h"
 
-/// Columns of the list of lines. Those that are not shown name the line in the Ledger.
+/// Columns of the list of lines. Key, Buyer and User are hidden.
 namespace CutColumn {
-inline constexpr int Key = 0; ///< NPK
-inline constexpr int Place = 1;
+inline constexpr int Key = 0;   ///< NPK
+inline constexpr int Place = 1; ///< row number
 inline constexpr int Customer = 2;
 inline constexpr int Label = 3;
 inline constexpr int Number = 4;
@@ -16,7 +16,7 @@ inline constexpr int Buyer = 6; ///< nameFK
 inline constexpr int User = 7;  ///< nuser
 } // namespace CutColumn
 
-/// One bet line as a row of the list holds it.
+/// One bet line, read from a row of the list.
 struct CutLine
 {
     qint32 NPK;
@@ -25,26 +25,27 @@ struct CutLine
     qint32 amount; ///< whole baht
 };
 
-/// The single lines behind the selected number, of all customers, and what can be done to them.
+/// The bet lines of the selected number, of all customers, and the changes to them.
 class CutOut
 {
 public:
     CutOut();
 
-    SpreadModel grid; ///< its rows are told when they are looked at
+    SpreadModel grid;
 
-    /// Lists the lines, the biggest first, with their sum in the header. Raises "Overflow" when
-    /// that leaves 32 bits, "Invalid use of Null" for a line without money.
+    /// Lists the lines, largest amount first, with their sum in the header. Raises "Overflow" when
+    /// the sum exceeds 32 bits and "Invalid use of Null" for a line whose amount is NULL; the list
+    /// is then empty.
     void LoadNumrunup();
 
-    /// The line in a row. Raises "Type mismatch" for one without money.
+    /// Returns the line in a row. Raises "Type mismatch" if its amount is 0, which is shown as "".
     CutLine lineAt(int row) const;
 
-    /// Moves @p amount, at most the line's own, from tblNumber to tblNumberCut, first out of the
-    /// one and then into the other. What takes the whole line removes it.
+    /// Moves @p amount, at most the amount of the line, from tblNumber to tblNumberCut: first
+    /// reduces the line, or deletes it if nothing is left, then adds the cut line.
     void cut(const CutLine &line, qint32 amount);
 
-    /// Takes the line in a row out of the book for good, also one without money.
+    /// Deletes the line in a row from the book, also one with the amount 0.
     void remove(int row) const;
 
 private:

@@ -50,8 +50,7 @@ Form3::~Form3()
     m_strip.hide();
 }
 
-/// The page is worked from the first board on. As a focus proxy that board would have Tab jump
-/// past all that stands before it.
+/// Passes the focus to the first board. With a focus proxy, Tab would skip the controls before it.
 void Form3::focusInEvent(QFocusEvent *event)
 {
     m_ui->fpSpread1->setFocus(event->reason());
@@ -84,11 +83,11 @@ void Form3::Form_Load()
     FReLoad();
 }
 
-/// F5, wherever the focus is in the main window: leaves the filter.
+/// F5 anywhere in the main window: leaves the filter.
 void Form3::Form_KeyDown()
 {
     if (MemberFilterOn && !QApplication::activeModalWidget())
-        m_ui->lvButtons_H7->click(); // a cut has hidden it, maybe
+        m_ui->lvButtons_H7->click(); // works also while the button is hidden after a cut
 }
 
 void Form3::FReLoad()
@@ -100,7 +99,8 @@ void Form3::FReLoad()
     resumeNext([this] { LoadMember(readBuyers()); });
 }
 
-/// Loads all boards with the bets of the filter's customer. A board that fails is empty.
+/// Loads all boards with the bets of the filter's customer. If they cannot be read, all boards are
+/// empty. An error in one board does not keep the others from being loaded.
 void Form3::loadCustomer()
 {
     std::array<BoardLines, ClassCount> boards;
@@ -131,13 +131,14 @@ void Form3::load(int at, const BoardLines &lines, const HotNumbers &hotNumbers)
         Nubyod0();
 }
 
-/// Loads one board of the whole book, for a cut reaches no other.
+/// Loads one board with the whole book. A cut changes no other board.
 void Form3::loadClass(int at)
 {
     load(at, readBoard(BetClasses[at]), HotNumbers(readHotNumbers()));
     resumeNext([this] { LoadMember(readBuyers()); });
 }
 
+/// Shows the total of the top and the grand total, and the top tab.
 void Form3::Nubyod()
 {
     m_progress.finish();
@@ -146,7 +147,8 @@ void Form3::Nubyod()
     showGrandTotal();
 }
 
-/// Like Nubyod() for the bottom. The board ends on the side that is being cut.
+/// Like Nubyod() for the bottom, but shows the tab of the selection, so that the board stays on the
+/// side of a cut.
 void Form3::Nubyod0()
 {
     m_progress.finish();
@@ -178,7 +180,7 @@ void Form3::showGrandTotal()
     });
 }
 
-/// Lists the customers who hold a bet. While there are none, the old list stays.
+/// Lists the customers with a bet. If there are none, the old list stays.
 void Form3::LoadMember(const QStringList &buyers)
 {
     if (buyers.isEmpty())
@@ -188,18 +190,19 @@ void Form3::LoadMember(const QStringList &buyers)
     m_ui->Combo1->clearEditText();
 }
 
+/// Completes the name; Enter filters the boards by it.
 int Form3::Combo1_KeyPress(int code)
 {
     return nameKeyPress(*m_ui->Combo1, code, [this] { filterToCustomer(); });
 }
 
-/// Enter in the names: narrows the boards to one customer. The boards take the whole name, the
-/// discount is found by any part of it.
+/// Shows only the bets of one customer. The boards need the whole name, while any part of it finds
+/// the discount.
 void Form3::filterToCustomer()
 {
     MemberFilterOn = true;
     m_board.FilterName = m_ui->Combo1->currentText();
-    m_ui->SSTab1->setFocus(); // not into a number field, which would switch the keyboard
+    m_ui->SSTab1->setFocus(); // otherwise a number field would get it and switch the keyboard
     showFilter(true);
     if (!readCustomer()) {
         refuse(u"ไม่พบชื่อลูกค้ารายนี้ อยู่ใน ฐานข้อมูล โปรดลองใหม่อีกครั้ง ..."_s);
@@ -220,7 +223,7 @@ void Form3::filterToCustomer()
         refuse(u"ไม่พบข้อมูล ลูกค้ารายนี้ ( ไม่ได้ซื้อเลขใด ๆ ใน งวดนี้  ) . . ."_s);
 }
 
-/// Shows the customer of the filter in the strip; false if there is none.
+/// Shows the customer of the filter in the strip. Returns false if there is none.
 bool Form3::readCustomer()
 {
     const auto percent = customerPercent(m_board.FilterName);
@@ -232,7 +235,7 @@ bool Form3::readCustomer()
     return true;
 }
 
-/// Shows the control that leaves the filter in place of those that start it, or the reverse.
+/// Shows the button that leaves the filter or, with @p on false, the controls that start it.
 void Form3::showFilter(bool on)
 {
     m_ui->Combo1->setVisible(!on);
@@ -241,7 +244,7 @@ void Form3::showFilter(bool on)
     m_ui->lvButtons_H7->setVisible(on);
 }
 
-/// Puts the controls to the whole book, whatever MemberFilterOn says.
+/// Shows the controls of the whole book. Does not change MemberFilterOn.
 void Form3::showWholeBook()
 {
     m_ui->text2->setEnabled(true);
@@ -272,7 +275,7 @@ QString Form3::selectTab(int tab)
     return m_ui->SSTab1->tabText(tab);
 }
 
-/// Finds a number in all boards of its length, on both tabs. A hit is marked, a miss is silent.
+/// "ค้นหาเลข": finds a number in all boards of its length, on both tabs, and activates its rows.
 void Form3::lvButtons_H3_Click()
 {
     QList<Spread *> boards;
@@ -283,7 +286,7 @@ void Form3::lvButtons_H3_Click()
     searchNumber(*m_ui->text1, NumberColumn, boards);
 }
 
-/// A double click on a number, or Enter: hands it to the cut-out.
+/// A double click on a number, or Enter: opens the cut-out dialog for it.
 void Form3::fpSpread_DblClick(int at)
 {
     const SpreadModel &grid = m_board.grids[at];
@@ -295,10 +298,10 @@ void Form3::fpSpread_DblClick(int at)
     SelNum23 = quint8(CInt(grid.text(row, DigitsColumn)));
     SelUpDown = grid.text(row, SideColumn) == u"True"_s;
     showCutNum(window());
-    m_spreads[at]->setActiveRow(std::min(row, grid.rows())); // so that the next Enter goes on here
+    m_spreads[at]->setActiveRow(std::min(row, grid.rows())); // the next Enter continues here
 }
 
-/// Puts the focus on the first board shown that has rows, so that the next Enter opens one.
+/// Sets the focus to the first visible board with rows, so that the next Enter opens a row.
 void Form3::focusShownBoard()
 {
     const int first = m_ui->SSTab1->tab() == TopTab ? 0 : TopClassCount;
@@ -315,30 +318,30 @@ void Form3::showCutNum(QWidget *owner, const std::function<void()> &scanAgain)
     runDialog(dialog);
 }
 
-/// What the closing of the cut-out brings about. Under the filter the whole book comes back, and
-/// MemberFilterOn stays.
+/// Called when the cut-out dialog closes. A filtered board shows the whole book again, but
+/// MemberFilterOn stays set.
 void Form3::closeCut(const std::function<void()> &scanAgain)
 {
-    const auto *focus = qobject_cast<Spread *>(window()->focusWidget()); // behind the cut-out
+    const auto *focus = qobject_cast<Spread *>(window()->focusWidget()); // in the main window
     if (MemberFilterOn)
         FReLoad();
     else if (const int at = selectedClass(); at >= 0)
         loadClass(at);
     if (scanAgain)
         scanAgain();
-    showWholeBook(); // last, so that the total was not written while the strip was still shown
-    if (focus && focus->isHidden()) // the reload has ended on the other tab
+    showWholeBook(); // after the reload, which keeps the grand total while the strip is shown
+    if (focus && focus->isHidden()) // the reload has switched to the other tab
         focusShownBoard();
 }
 
-/// " &แสดงเลขที่คัดออก": what has been laid off.
+/// " &แสดงเลขที่คัดออก": shows the cut numbers.
 void Form3::lvButtons_H4_Click()
 {
     Numcut dialog(m_openers.printCuts, window());
     runDialog(dialog);
 }
 
-/// " &ปริ้นข้อมูล": the boards as they are shown.
+/// " &ปริ้นข้อมูล": opens the report of the boards.
 void Form3::lvButtons_H5_Click()
 {
     if (m_board.isEmpty())
@@ -347,7 +350,7 @@ void Form3::lvButtons_H5_Click()
         m_openers.printBoard(*this);
 }
 
-/// " &ซ่อนแทบ " and " &แสดงแทบ ": hides the estimates from who looks on, and shows them again.
+/// " &ซ่อนแทบ " and " &แสดงแทบ ": hides the estimates from onlookers, and shows them again.
 void Form3::showBar(bool shown)
 {
     m_ui->Frame3->setVisible(shown);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The page "คัดหวย": what each number could cost, and the way to lay it off.
+// The page "คัดหวย": the board with the money on each number, from which numbers are cut.
 #pragma once
 
 #include "cutting/board.h"
@@ -17,7 +17,8 @@ namespace Ui {
 class Form3;
 }
 
-/// What the board opens without knowing it. A board that nobody sees needs none.
+/// Functions that open the windows of folders that cutting/ must not include. A board that is never
+/// shown needs none.
 struct BoardOpeners
 {
     std::function<void(Form3 &board)> showScan; ///< " &วิเคราะห์เลข"
@@ -30,22 +31,22 @@ class Form3 : public QWidget
     Q_OBJECT
 
 public:
-    /// @p frame lends the progress bar and the customer strip, which must outlive the page.
+    /// The parts of @p frame must outlive the page.
     Form3(const Frame &frame, BoardOpeners openers, QWidget *parent);
     ~Form3() override;
 
-    /// The eight boards as they were loaded last.
+    /// Returns the eight boards, as last loaded.
     const Board &board() const { return m_board; }
 
-    /// Shows a tab, 1 top or 0 bottom; gives its caption.
+    /// Shows TopTab or BottomTab and returns its caption.
     QString selectTab(int tab);
 
-    /// Reloads all boards with the whole book and ends on the top tab. Touches no control of the
-    /// filter.
+    /// Reloads all boards with the whole book and shows the top tab. Does not change the controls
+    /// of the filter.
     void FReLoad();
 
-    /// Opens the cut-out for the selected class and number over @p owner. When it closes, the
-    /// board is loaded anew, @p scanAgain runs if there is one, then the filter is let go of.
+    /// Opens the cut-out dialog for the selected class and number over @p owner. When it closes,
+    /// reloads the board, calls @p scanAgain if it is set, and shows the controls of the whole book.
     void showCutNum(QWidget *owner, const std::function<void()> &scanAgain = {});
 
 protected:

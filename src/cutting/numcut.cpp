@@ -19,7 +19,7 @@ Numcut::Numcut(std::function<void(Numcut &)> print, QWidget *parent)
     for (size_t list = 0; list < m_spreads.size(); ++list)
         m_spreads[list]->setSpreadModel(&m_cutBoard.grids[list]);
     for (Spread *spread : m_spreads)
-        spread->setColumnDigits(CutTypeColumn, 12); // less than its share
+        spread->setColumnDigits(CutTypeColumn, 12); // narrower than an equal share
     m_ui->lvButtons_H3->setIcon(searchIcon());
     new FieldGuard(this, &m_focus,
                    {{.field = m_ui->text1, .longest = 3, .enterClicks = m_ui->lvButtons_H3}});
@@ -36,17 +36,17 @@ void Numcut::Form_Load()
     placeDialog(*this);
     m_cutBoard.LoadNumcutup(*m_ui->pb1);
     m_cutBoard.LoadNumcutdown(*m_ui->pb1);
-    m_ui->pb1->hide(); // full as it is
+    m_ui->pb1->hide();
     m_ui->fpSpread1->setFocus();
 }
 
-/// Finds a number in both lists. A hit is marked, a miss is silent.
+/// "ค้นหาเลข": finds a number in both lists and activates its rows.
 void Numcut::lvButtons_H3_Click()
 {
     searchNumber(*m_ui->text1, CutNumberColumn, {m_spreads.begin(), m_spreads.end()});
 }
 
-/// " &ปริ้นข้อมูล": the lists as they are shown.
+/// " &ปริ้นข้อมูล": opens the report of both lists.
 void Numcut::lvButtons_H5_Click()
 {
     if (m_cutBoard.isEmpty())

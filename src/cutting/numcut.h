@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The dialog "เลขที่ถูกคัดออก ( ตีออก )": what has been laid off.
+// The dialog "เลขที่ถูกคัดออก ( ตีออก )": shows the cut numbers.
 #pragma once
 
 #include "cutting/cutboard.h"
@@ -21,7 +21,7 @@ class Numcut : public QDialog
     Q_OBJECT
 
 public:
-    /// @p print shows the lists on paper.
+    /// @p print opens the report of the lists.
     Numcut(std::function<void(Numcut &)> print, QWidget *parent);
     ~Numcut() override;
 

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// What is being cut: a class and a number, handed from a grid to the cut-out.
+// The selected class and number, which a grid sets before it opens the cut-out dialog.
 #pragma once
 
 #include <QString>
 
 extern quint8 SelNum23;
 extern quint8 SelNumType;
-extern bool SelUpDown; ///< also says on which tab the board ends its load
+extern bool SelUpDown; ///< also decides which tab the board shows after loading
 extern QString SelNumValue;
 
-/// True once the board was filtered to one customer, until F5 there. A cut brings the whole book back
-/// to the screen and leaves this as it is: F5 still works then.
+/// True from filtering the board to one customer until F5 there. Stays true when a cut shows the
+/// whole book again, so that F5 still works.
 extern bool MemberFilterOn;
 
-/// Place of the selected class in BetClasses, or -1 for a combination that is no class.
+/// Returns the index of the selected class in BetClasses, or -1 for a combination that is no class.
 int selectedClass();

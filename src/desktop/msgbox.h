@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Message boxes. Code without windows calls these functions too: what shows a box, a window or a
-// test with prepared answers, is set by setBoxShower().
+// Message boxes. Code without windows calls these functions too: setBoxShower() sets whether a
+// window shows a box or a test answers it.
 #pragma once
 
 #include <QString>

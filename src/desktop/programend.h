@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Ends the program from inside a handler: closes what has to be closed, then ends the process
+// Ends the program from inside a handler: calls the registered functions, then ends the process
 // without asking and without running another handler.
 #pragma once
 

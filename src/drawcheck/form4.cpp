@@ -38,7 +38,7 @@ Form4::Form4(ProgressBar &progress, Printer printer, QWidget *parent)
     setBackground(m_ui->profitBox, ProfitColor);
     m_ui->fpSpread1->setSpreadModel(&m_check.winners);
     m_ui->fpSpread1->setRowPoints(19);
-    setFocusProxy(m_ui->text4); // so that keying can begin at once
+    setFocusProxy(m_ui->text4); // so that typing can begin at once
     connectControls();
     Form_Load();
 }
@@ -68,8 +68,8 @@ void Form4::connectControls()
     connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form4::lvButtons_H5_Click);
 }
 
-/// The focus moves on with each key, so that the seventeen digits are typed in one run. Enter moves
-/// it on too, but stops at the end of a prize.
+/// Each digit moves the focus to the next box, so that all seventeen can be typed in one go. Enter
+/// moves it too, except at the end of a prize.
 QList<FieldRule> Form4::digitRules() const
 {
     QList<FieldRule> rules;
@@ -118,7 +118,7 @@ void Form4::showAmounts()
     m_ui->Label21->setText(m_check.Label21);
 }
 
-/// " &ประมวลผล": checks the chosen book against the digits. Sixteen do not do, whichever is missing.
+/// " &ประมวลผล": checks the selected book against the digits. All seventeen are required.
 void Form4::Command18_Click()
 {
     m_check.zeroAmounts();
@@ -130,11 +130,12 @@ void Form4::Command18_Click()
         box->setFocus();
         return;
     }
-    const auto show = qScopeGuard([this] { showAmounts(); }); // also behind the report of a failure
+    const auto show = qScopeGuard([this] { showAmounts(); }); // also after an error
     m_check.LoadnumberT(keyedDigits(), m_progress);
 }
 
-/// The radios: the digits stay, so that the same result is run against the other book by one press.
+/// "เลข(ของเรา)" and "เลข(ที่ถูกคัดออก)": selects the book to check. The digits stay, so that the same
+/// result can be checked against the other book at once.
 void Form4::Option_Click(Book book)
 {
     m_check.book = book;
@@ -143,7 +144,7 @@ void Form4::Option_Click(Book book)
     showAmounts();
 }
 
-/// "&ล้างเลข": empties the boxes. Winners and amounts stay.
+/// "&ล้างเลข": clears the digits. Winners and amounts stay.
 void Form4::lvButtons_H1_Click()
 {
     for (QLineEdit *box : m_boxes)
@@ -151,7 +152,7 @@ void Form4::lvButtons_H1_Click()
     m_ui->text4->setFocus();
 }
 
-/// "&ปริ้นข้อมูล": the winners on paper.
+/// "&ปริ้นข้อมูล": opens the report of the winners.
 void Form4::lvButtons_H5_Click()
 {
     if (m_check.winners.rows() == 0) {

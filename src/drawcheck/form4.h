@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The page "ตรวจหวย": the official result goes in digit by digit, out come the winners, what they
-// are paid and what is left.
+// The page "ตรวจหวย": takes the official result digit by digit and shows the winners, their payouts
+// and the profit.
 #pragma once
 
 #include "desktop/focustracker.h"
@@ -21,15 +21,15 @@ class Form4 : public QWidget
     Q_OBJECT
 
 public:
-    /// Shows a check on paper, in a window over @p opener.
+    /// Opens the report of a check, in a window over @p opener.
     using Printer = std::function<void(const DrawCheck &check, QWidget *opener)>;
 
-    /// @p progress covers the wait of a check; it must outlive the page.
+    /// @p progress shows the progress of a check. It must outlive the page.
     Form4(ProgressBar &progress, Printer printer, QWidget *parent);
     ~Form4() override;
 
 protected:
-    /// Selects the digit of a box that was clicked, so that keying replaces it.
+    /// Selects the digit in a clicked box, so that the next key replaces it.
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:

@@ -1,24 +1,24 @@
 // SPDX-License-Identifier: MIT
-// The official result of a draw: seventeen digits, the prizes that they spell, and the numbers
-// that win in each class of bet.
+// The official result of a draw: seventeen digits, the prizes that they form, and the numbers that
+// win in each class of bet.
 #pragma once
 
 #include "entry/vocabulary.h"
 
 #include <QStringList>
 
-/// Digits of a result, each the text of one box, in reading order: the top number, the four bottom
-/// numbers of three digits, the bottom number of two.
+/// The digits of a result in reading order, each as the text of its box: the top number, the four
+/// bottom numbers of three digits, the bottom number of two digits.
 inline constexpr int DigitCount = 17;
 using ResultDigits = std::array<QString, DigitCount>;
 
-/// The digits of each prize, in the order of ResultColumns, which begins with the prizes. Places of
-/// digits are lettered "a" to "q" in reading order.
+/// The digits of each prize, as letters: "a" is the first digit in reading order, "q" the last. The
+/// prizes have the same order as in ResultColumns, where they are the first columns.
 inline constexpr std::array PrizePlaces{"abc", "def", "ghi", "jkl", "mno", "pq"};
 
-/// What wins in each class, in the order of BetClasses: places of digits, numbers parted by a
-/// blank. A bet of two digits on top wins straight on the last two alone, in any order on any two.
-/// The bottom numbers of three digits take part in no run.
+/// The winning numbers of each class, in the order of BetClasses: digits as letters, numbers
+/// separated by spaces. On top, two digits straight win only with the last two digits, two digits
+/// tod with any two. A run at the bottom wins only with the digits of the number of two digits.
 inline constexpr std::array<const char *, ClassCount> WinningPlaces{
     "abc",                     // 3 top straight
     "abc acb bca bac cba cab", // 3 tod
@@ -30,8 +30,10 @@ inline constexpr std::array<const char *, ClassCount> WinningPlaces{
     "p q",                     // run bottom
 };
 
-/// The number that the digits at @p places spell, blanks left out.
+/// Returns the number formed by the digits at @p places, letters as in PrizePlaces. Leaves out
+/// spaces.
 QString resultNumber(const ResultDigits &digits, const char *places);
 
-/// The numbers that win in the class at @p betClass of BetClasses, each once.
+/// Returns the winning numbers of the class with the index @p betClass in BetClasses, without
+/// duplicates.
 QStringList winningNumbers(const ResultDigits &digits, size_t betClass);

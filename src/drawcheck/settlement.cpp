@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// An amount as shown, as the number that is stored; an empty one is 0.
+/// Converts a displayed amount to the number to store. An empty one means 0.
 double storedAmount(const QString &shown)
 {
     const QString text = trimBlanks(shown);
@@ -72,7 +72,7 @@ void DrawCheck::LoadnumberT(const ResultDigits &digits, ProgressBar &progress)
     progress.finish();
 }
 
-/// What the book took in, the discounts taken off.
+/// Sets the profit to the sum of all stakes minus the discounts.
 void DrawCheck::showTakings()
 {
     RecordsetA.open(u" SELECT  SUM(tblNumber.numBuy) as TotalMoneyA FROM tblNumber "_s);
@@ -84,7 +84,7 @@ void DrawCheck::showTakings()
 
 void DrawCheck::listWinners(ProgressBar &progress)
 {
-    // Hot numbers are read once: they cannot change while the check runs.
+    // Read only once, since hot numbers cannot change during the check.
     const HotNumbers hot = book == Book::Ours ? HotNumbers(readHotNumbers()) : HotNumbers();
     for (int row = 1; !RecordsetA.eof(); RecordsetA.moveNext(), ++row) {
         writeWinner(winners, row);
@@ -94,7 +94,7 @@ void DrawCheck::listWinners(ProgressBar &progress)
     RecordsetA.close();
 }
 
-/// Totals the payouts as the grid shows them.
+/// Sums the payouts as displayed in the grid, after halving and rounding.
 void DrawCheck::Nubyod2()
 {
     qint32 sum = 0;
@@ -103,7 +103,8 @@ void DrawCheck::Nubyod2()
     Label19 = formatBaht(sum);
 }
 
-/// Reckons with the texts shown: an amount of 0 shows as "", which is no number.
+/// Subtracts the payout from the profit, to which it adds the discounts again. Calculates with the
+/// displayed texts: an amount of 0 is "", which raises "Type mismatch".
 void DrawCheck::showProfit()
 {
     Label21 = formatBaht(CDbl(Label21) + iTotalB - CDbl(Label19));

@@ -1,38 +1,37 @@
 // SPDX-License-Identifier: MIT
-// The check of a draw: the winners' grid, the two amounts beneath it, and the one row of tblTrue
-// that keeps them for the history.
+// The draw check: the grid of winners, the two amounts below it, and the row of tblTrue that stores
+// result and amounts for the history.
 #pragma once
 
 #include "drawcheck/winners.h"
 #include "widgets/progressbar.h"
 
-/// What the page of the draw check holds. Its members are public as the page shows them and the
-/// report prints them; the amounts are kept as the texts that are shown, and the settlement
-/// reckons with these.
+/// The data of the draw check page. Its members are public, since the page shows them and the report
+/// prints them. The amounts are stored as their displayed texts, and calculated from these texts.
 class DrawCheck
 {
 public:
     DrawCheck() { SetupSpread(); }
 
     SpreadModel winners;
-    QString Label19 = QStringLiteral("0"); ///< payout to all winners
-    QString Label21 = QStringLiteral("0"); ///< profit after it, a loss with a leading minus
+    QString Label19 = QStringLiteral("0"); ///< total payout
+    QString Label21 = QStringLiteral("0"); ///< profit; a loss has a leading minus
     Book book = Book::Ours;
 
-    /// Reads the discounts of all tickets saved up to now. Whatever fails, they count as 0.
+    /// Reads the discounts of all saved tickets. If that fails, they count as 0.
     void readDiscounts();
 
-    /// Empties the grid.
+    /// Empties the grid and writes its header.
     void SetupSpread() { setupWinners(winners); }
 
-    /// Shows both amounts as 0.
+    /// Sets both amounts to "0".
     void zeroAmounts();
 
-    /// Runs the check: fills the grid, sets the amounts, keeps result and money in tblTrue. Without
-    /// a winner the discounts are taken off the profit, with winners they are not. A check of the
-    /// lines cut out keeps nothing unless it finds no winner; then it keeps zeros. Raises "Type
-    /// mismatch" where a payout of 0 is halved or summed, "Overflow" beyond 32 bits, with what was
-    /// done up to then standing.
+    /// Checks the book against a result: fills the grid, sets the amounts and stores result and
+    /// amounts in tblTrue. The discounts reduce the profit only if there is no winner. A check of
+    /// Book::CutOut stores only a result without a winner, with amounts of 0. Call zeroAmounts()
+    /// first. Raises "Type mismatch" if it calculates with a displayed amount of 0, which is "",
+    /// and "Overflow" beyond 32 bits; what was done before the error is not undone.
     void LoadnumberT(const ResultDigits &digits, ProgressBar &progress);
 
 private:
@@ -43,5 +42,5 @@ private:
     void SaveTrue(const ResultDigits &digits) const;
     void Savefalse(const ResultDigits &digits) const;
 
-    qint32 iTotalB = 0; ///< discounts of all tickets of the draw
+    qint32 iTotalB = 0; ///< discounts of all saved tickets
 };

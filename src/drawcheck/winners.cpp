@@ -21,8 +21,8 @@ constexpr std::array WinnerColumns{
     GridColumn{WinTelephoneColumn, u"เบอร์ติดต่อ"},
 };
 
-/// The clause of one class: its lines that hold one of the winning numbers. A line is sought for
-/// the digits within it, so that one filed with a stray blank is paid all the same.
+/// Returns the condition for the winning lines of one class, with a parameter for each winning
+/// number. It uses instr(), so that a number stored with a stray space is paid too.
 QString classClause(const BetClass &betClass, qsizetype numbers)
 {
     const QStringList tests(numbers, u"instr(numValue, ?) > 0"_s);
@@ -41,8 +41,7 @@ int whole(const QString &column)
     return CInt(numberOf(RecordsetA.field(column)));
 }
 
-/// Payout per baht of the current row's class. All winning lines have a class: the search asks
-/// for no others.
+/// Returns the payout rate of the current row. winnerSearch() finds only rows of a class.
 double rateOfCurrent()
 {
     return classRate(classOf(whole(u"num23"_s), isTop(), whole(u"numType"_s)));
@@ -60,8 +59,9 @@ BoundStatement winnerSearch(Book book, const ResultDigits &digits)
         for (const QString &number : numbers)
             values += number;
     }
-    // One pass over the table: a run wins on every tenth line, and to fetch so many lines one by
-    // one through an index takes longer. Customers join last, once a row and not once a line.
+    // NOT INDEXED, since many run bets win, and fetching so many lines through an index takes
+    // longer than reading the whole table. tblMember is joined to the grouped rows, not to each
+    // line.
     return {
         u" SELECT Mpercen, Mber, Mname, win.* FROM"
         " (SELECT NameFK, num23, updown, numType, numValue, sum(numBuy) AS nMoney"
@@ -81,7 +81,7 @@ void setupWinners(SpreadModel &grid)
 void writeWinner(SpreadModel &grid, int row)
 {
     const QVariant stake = RecordsetA.field(u"nMoney"_s);
-    const bool paid = !stake.isNull(); // a line without an amount is worth nothing
+    const bool paid = !stake.isNull(); // lines whose amount is NULL are paid nothing
     grid.setText(row, WinKindColumn, twoPartLabel(whole(u"numType"_s), isTop()));
     grid.setText(row, WinPayoutColumn,
                  paid ? formatBaht(numberOf(stake) * rateOfCurrent()) : QString());

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Who has won: one statement finds the winning lines of a book, and each becomes a row of the
-// grid with the money that it is paid.
+// The winners: one statement finds the winning lines of a book, and each of its rows becomes a row
+// of the grid, with the payout.
 #pragma once
 
 #include "drawcheck/result.h"
@@ -9,13 +9,13 @@
 
 #include <QVariant>
 
-/// Which lines are checked.
+/// The book to check.
 enum class Book {
-    Ours,   ///< "เลข(ของเรา)", those that stayed with the agent: tblNumber
-    CutOut, ///< "เลข(ที่ถูกคัดออก)", those laid off: tblNumberCut
+    Ours,   ///< "เลข(ของเรา)": the agent's own lines, tblNumber
+    CutOut, ///< "เลข(ที่ถูกคัดออก)": the lines laid off, tblNumberCut
 };
 
-/// Columns of the winners' grid. The text of WinPayoutColumn is the only store of a payout.
+/// Columns of the grid of winners. A payout is stored only as the text of WinPayoutColumn.
 inline constexpr int WinKindColumn = 1;
 inline constexpr int WinNumberColumn = 2;
 inline constexpr int WinPercentColumn = 3;
@@ -24,25 +24,26 @@ inline constexpr int WinPayoutColumn = 5;
 inline constexpr int WinNameColumn = 6;
 inline constexpr int WinTelephoneColumn = 7;
 
-/// A statement and the values that are bound to it.
+/// A statement and its bound values.
 struct BoundStatement
 {
     QString sql;
     QVariantList values;
 };
 
-/// The search for the winning lines: one row for each customer, class and number, with the sum
-/// of the stakes, by name, top lines first. Lines of a customer who is gone are not found.
+/// Returns the statement that finds the winning lines: a row for each customer, class and number
+/// with the sum of its stakes, ordered by name, then top before bottom. Lines without a row in
+/// tblMember are not found.
 BoundStatement winnerSearch(Book book, const ResultDigits &digits);
 
 /// Empties the grid and writes its header.
 void setupWinners(SpreadModel &grid);
 
-/// Writes the current row of RecordsetA, opened with winnerSearch(), to @p row of the grid: the
-/// stake paid at the rate of its class. A payout of 0 is an empty text.
+/// Writes the current row of RecordsetA, opened with winnerSearch(), to @p row of the grid. The
+/// payout is the stake times the rate of its class; the text of 0 is "".
 void writeWinner(SpreadModel &grid, int row);
 
-/// Halves the payout of @p row as often as hot numbers reach the current row of RecordsetA, each
-/// time from the text that the time before left. Raises "Type mismatch" for an empty payout and
-/// "Overflow" for one beyond 32 bits.
+/// Halves the payout in @p row once for each hot number that applies to the current row of
+/// RecordsetA. Each step starts from the displayed text, so it rounds. Raises "Type mismatch" for
+/// an empty payout and "Overflow" for one beyond 32 bits.
 void halvePayout(SpreadModel &grid, int row, const HotNumbers &hot);

@@ -48,8 +48,8 @@ qsizetype partEnd(const QString &text, qsizetype from)
 /// Draws Thai text so that it can be copied from the PDF. Thai fonts have glyph variants for
 /// letters and marks that meet, but QPdfWriter maps only the glyphs of single characters back to
 /// text, so variants would be missing in a copy. Marks and variants are therefore drawn as
-/// outlines, which readers do not take for text, and the glyphs of the single characters over
-/// them, transparent.
+/// outlines, which PDF readers do not treat as text, and over them, transparent, the glyphs of the
+/// single characters.
 class CopyableText
 {
 public:
@@ -119,8 +119,8 @@ private:
         }
     }
 
-    /// Readers sort characters by position, so each mark starts a little before the next letter and
-    /// before the mark that follows it.
+    /// PDF readers sort characters by position, so each mark starts a little before the next letter
+    /// and before the mark that follows it.
     static QList<QPointF> positionsOf(const Part &part, const QString &text)
     {
         const double offset = part.font.pixelSize() / 128;

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-// Coverage: how many of the numbers that a class has are bought.
+// Coverage: how many of the numbers of a class are bought.
 #pragma once
 
 #include "entry/vocabulary.h"
 
-/// What the bar of a class is called, and how many numbers the class has. Of tod bets those are the
-/// families of digits that are not all equal.
+/// The label of a class's bar, and how many numbers the class has. Tod numbers with the same digits
+/// count as one, and those of equal digits cannot be bet.
 struct CoverageBar
 {
     QStringView words;
@@ -24,9 +24,9 @@ inline constexpr std::array<CoverageBar, ClassCount> CoverageBars{{
     {u"วิ่งล่าง", 10},
 }};
 
-/// What the bar's label says of @p bought numbers.
+/// Returns the text of the bar's label for @p bought numbers.
 QString coverageText(const CoverageBar &bar, int bought);
 
-/// How far the bar goes: not at all once a family stands in the book under two spellings and more
-/// is bought than there is.
+/// Returns the value of the bar: @p bought, or 0 if it exceeds the numbers of the class. It can do
+/// so for a tod class, if the book has the same digits in several orders.
 int coverageValue(const CoverageBar &bar, int bought);

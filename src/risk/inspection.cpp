@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Payout per baht of a row's class; nothing for a class that no scan lists.
+/// Returns the payout rate of a row's class, or std::nullopt for a class that no scan lists.
 std::optional<qint16> rateOf(const QString &number, const QString &type)
 {
     const bool top = CutOrigin == FromTopScan;

@@ -14,10 +14,9 @@ Number::Number(const SpreadModel &scan, QWidget *parent)
     : QDialog(parent), m_ui(std::make_unique<Ui::Number>())
 {
     m_ui->setupUi(this);
-    /// "ออกจากหน้านี้"
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &QDialog::reject);
     Form_Load(scan);
-    m_ui->lvButtons_H0->setFocus(); // it takes no repeat of the Enter that has opened the dialog
+    m_ui->lvButtons_H0->setFocus(); // ignores the auto-repeat of the Enter that opened the dialog
 }
 
 Number::~Number() = default;

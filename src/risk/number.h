@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The dialog "ตรวจสอบเลข": one row of the risk scan in full.
+// The dialog "ตรวจสอบเลข": the details of one row of the risk scan.
 #pragma once
 
 #include <QDialog>

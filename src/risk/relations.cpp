@@ -9,31 +9,31 @@
 
 namespace {
 
-/// What ties a number to a longer one.
-enum class Tie {
-    Holds,    ///< the longer one holds its first and its last digit, in any place
-    EndsWith, ///< the longer one ends with it
-    AnyOrder, ///< the same digits in any order
+/// How a number has to match another one to be related to it.
+enum class Match {
+    Contains, ///< the other one contains its first and last digit, anywhere
+    EndsWith, ///< the other one ends with it
+    AnyOrder, ///< both have the same digits, in any order
 };
 
 struct Relation
 {
     bool updown;
-    int num23; ///< of the number, with its numType
+    int num23; ///< of the number itself
     int numType;
-    Tie tie;
+    Match match;
     int relatedNum23;
-    bool withTod; ///< relates to tod lines beside the straight ones
+    bool withTod; ///< straight and tod lines are related, otherwise only straight ones
 };
 
-// On top every kind of bet is held against the three digits, at the bottom only the run, and
-// against two: that is what the results of each side can hit at once.
+// All bets on top depend on the three digits of the top number. At the bottom, only runs and bets
+// on two digits depend on the same digits.
 constexpr std::array Relations{
-    Relation{true, 1, Run, Tie::Holds, 3, false},
-    Relation{true, 2, Tod, Tie::Holds, 3, true},
-    Relation{true, 2, Straight, Tie::EndsWith, 3, true},
-    Relation{true, 3, Tod, Tie::AnyOrder, 3, false},
-    Relation{false, 1, Run, Tie::Holds, 2, false},
+    Relation{true, 1, Run, Match::Contains, 3, false},
+    Relation{true, 2, Tod, Match::Contains, 3, true},
+    Relation{true, 2, Straight, Match::EndsWith, 3, true},
+    Relation{true, 3, Tod, Match::AnyOrder, 3, false},
+    Relation{false, 1, Run, Match::Contains, 2, false},
 };
 
 QString sorted(QString digits)
@@ -42,15 +42,15 @@ QString sorted(QString digits)
     return digits;
 }
 
-bool isTied(Tie tie, const QString &number, const QString &longer)
+bool matches(Match match, const QString &number, const QString &other)
 {
-    switch (tie) {
-    case Tie::Holds:
-        return longer.contains(number.front()) && longer.contains(number.back());
-    case Tie::EndsWith:
-        return longer.endsWith(number);
-    case Tie::AnyOrder:
-        return sorted(longer) == sorted(number);
+    switch (match) {
+    case Match::Contains:
+        return other.contains(number.front()) && other.contains(number.back());
+    case Match::EndsWith:
+        return other.endsWith(number);
+    case Match::AnyOrder:
+        return sorted(other) == sorted(number);
     }
     return false;
 }
@@ -90,7 +90,7 @@ QList<ScanLine> RelatedLines::of(const ScanLine &line) const
         const bool counts =
             other.numType == Straight || (other.numType == Tod && relation->withTod);
         if (other.num23 == relation->relatedNum23 && counts
-            && isTied(relation->tie, line.numValue, other.numValue))
+            && matches(relation->match, line.numValue, other.numValue))
             related += other;
     }
     return related;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Which bets are lost together: the relations between a number and the longer numbers of its side.
-// What they find is counted and listed alike.
+// Relations between a number and other numbers of its side, of two or three digits, that one result
+// can hit together with it.
 #pragma once
 
 #include <QList>
 #include <QString>
 
-/// A number of one class with all the money on it, whoever bought it.
+/// A number of one class with the money of all customers on it.
 struct ScanLine
 {
     int num23;
@@ -15,17 +15,17 @@ struct ScanLine
     QString nMoney; ///< whole baht, unformatted; "" for none
 };
 
-/// True for the classes whose numbers can have related lines on a side: a scan lists no others.
+/// Returns true for classes whose numbers can have related lines. A scan lists no others.
 bool isScanned(bool updown, int num23, int numType);
 
-/// The lines of one side, each number of a class once, ready to be searched.
+/// Finds related lines among the lines of one side, which have each number of a class once.
 class RelatedLines
 {
 public:
     RelatedLines(bool updown, QList<ScanLine> lines);
 
-    /// The lines that one result would hit together with @p line, straight before tod, in each the
-    /// lower number first. Empty for a class that the side relates to nothing.
+    /// Returns the lines that one result can hit together with @p line: straight before tod, both
+    /// by number. Empty for a class without a relation.
     QList<ScanLine> of(const ScanLine &line) const;
 
 private:

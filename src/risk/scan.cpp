@@ -18,11 +18,11 @@ constexpr std::array Columns{
     GridColumn{ScanColumn::Inspect, u" "},     GridColumn{ScanColumn::Cut, u" "},
 };
 
-/// The numbers of a side in all classes, the most money first.
+/// Returns the numbers of a side in all classes, most money first.
 QList<ScanLine> readLines(bool updown)
 {
     QList<ScanLine> lines;
-    // The last column parts lines that are equal in both, as two classes of two digits may be.
+    // By numType too, since a number may have the same money in two classes.
     RecordsetA.open(u"SELECT num23, numType, numValue, Sum(numBuy) AS nMoney FROM tblNumber"
                     " WHERE updown = ? GROUP BY num23, updown, numType, numValue"
                     " ORDER BY Sum(numBuy) DESC, numValue, numType"_s,
@@ -73,11 +73,11 @@ bool RiskScan::run(bool updown, ProgressBar &progress)
         return true;
     const int risky = relate(updown, lines);
     grid.sortDescending(ScanColumn::Risk, countOf);
-    grid.setRows(risky); // those without a related line stand last
+    grid.setRows(risky); // rows without related lines are at the end
     return risky > 0;
 }
 
-/// Writes all that is bought on a side and gives it in the order of the rows.
+/// Lists all numbers bought on a side and returns them in the order of the rows.
 QList<ScanLine> RiskScan::fill(bool updown, ProgressBar &progress)
 {
     QList<ScanLine> lines;
@@ -105,7 +105,7 @@ QList<ScanLine> RiskScan::fill(bool updown, ProgressBar &progress)
     return lines;
 }
 
-/// Writes the related lines of each row and their count; gives how many rows have some.
+/// Writes the related lines of each row and their count. Returns how many rows have any.
 int RiskScan::relate(bool updown, const QList<ScanLine> &lines)
 {
     const RelatedLines book(updown, lines);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The risk scan: the numbers of one side on which other bets depend, so that one result would hit
-// several classes at once. It weighs no rates: one related line makes a number risky.
+// The risk scan: finds the numbers of one side that one result could hit together with others.
+// Rates do not matter: one related line makes a number risky.
 #pragma once
 
 #include "risk/relations.h"
@@ -9,16 +9,16 @@
 
 /// Columns of the scan.
 namespace ScanColumn {
-inline constexpr int Related = 0; ///< the related lines, one to a line of text; not shown
+inline constexpr int Related = 0; ///< hidden: the related lines, one per line of text
 inline constexpr int Type = 1;
 inline constexpr int Number = 2;
 inline constexpr int Amount = 3;
-inline constexpr int Risk = 4;    ///< how many lines are related, with "%" behind
-inline constexpr int Inspect = 5; ///< the two buttons of a row
-inline constexpr int Cut = 6;
+inline constexpr int Risk = 4;    ///< number of related lines, followed by "%"
+inline constexpr int Inspect = 5; ///< button
+inline constexpr int Cut = 6;     ///< button
 } // namespace ScanColumn
 
-/// The row handed to the inspector.
+/// The row that the dialog Number shows.
 extern qint32 ScanRow;
 
 /// The scan of one side and the grid that shows it.
@@ -29,10 +29,10 @@ public:
 
     SpreadModel grid;
 
-    /// Fills the grid with the risky numbers of a side: those with the most related lines first,
-    /// of equal ones that with the most money. The money of hot numbers is halved. If the book
-    /// cannot be read the grid stays empty; without the hot numbers nothing is halved. False if
-    /// something is bought on that side and nothing of it is risky. Shows the progress.
+    /// Fills the grid with the risky numbers of a side, ordered by their number of related lines,
+    /// then by money. The money of hot numbers is halved. If the book cannot be read, the grid is
+    /// empty; if the hot numbers cannot be read, no money is halved. Returns false if the side has
+    /// bets, but no risky number. Starts the progress bar; the caller hides it.
     bool run(bool updown, ProgressBar &progress);
 
 private:

@@ -21,7 +21,7 @@ ViKoC::ViKoC(const Board &board, CutOpener showCutNum, QWidget *parent)
       m_showCutNum(std::move(showCutNum))
 {
     m_ui->setupUi(this);
-    m_ui->topCoverage->hide(); // until a scan says what is bought
+    m_ui->topCoverage->hide(); // until the first scan
     m_ui->bottomCoverage->hide();
     m_ui->fpSpread1->setSpreadModel(&m_scan.grid);
     m_ui->fpSpread1->setRowPoints(19);
@@ -47,14 +47,14 @@ void ViKoC::connectControls()
     connect(buttons, &SpreadButtons::pressed, this, &ViKoC::fpSpread1_ButtonClicked);
 }
 
-/// "วิเคราะห์เลขบน": scans the top.
+/// "วิเคราะห์เลขบน": scans the numbers on top.
 void ViKoC::lvButtons_H0_Click()
 {
     CutOrigin = FromTopScan;
     analyse(true);
 }
 
-/// " วิเคราะห์เลขล่าง": scans the bottom.
+/// " วิเคราะห์เลขล่าง": scans the numbers at the bottom.
 void ViKoC::lvButtons_H1_Click()
 {
     CutOrigin = FromBottomScan;
@@ -74,7 +74,8 @@ void ViKoC::analyse(bool updown)
         refuse(u"ไม่พบ ( เลขที่มีความเสี่ยง !! ) ยินดีด้วย . . ."_s);
 }
 
-/// Shows how much of each class of a side is bought, by what the board shows at this moment.
+/// Shows the coverage of the classes of a side. Counts the rows of the board, so under its filter
+/// only the numbers of one customer.
 void ViKoC::showCoverage(bool updown)
 {
     const std::array bars{m_ui->pb31,    m_ui->pb32, m_ui->pb21, m_ui->pb22,
@@ -94,6 +95,7 @@ void ViKoC::showCoverage(bool updown)
     m_ui->bottomCoverage->setVisible(!updown);
 }
 
+/// A button in a row: shows the row's details or opens the cut-out dialog.
 void ViKoC::fpSpread1_ButtonClicked(int column, int row)
 {
     if (column == ScanColumn::Cut)
@@ -102,7 +104,7 @@ void ViKoC::fpSpread1_ButtonClicked(int column, int row)
         inspectRow(row);
 }
 
-/// "ตรวจสอบ" in a row: shows it in full.
+/// "ตรวจสอบ": shows the details of a row.
 void ViKoC::inspectRow(int row)
 {
     ScanRow = row;
@@ -110,7 +112,7 @@ void ViKoC::inspectRow(int row)
     runDialog(number);
 }
 
-/// "คัดออก" in a row: hands its number to the cut-out, which re-runs the scan as it closes.
+/// "คัดออก": opens the cut-out dialog for the number of a row. The scan runs again when it closes.
 void ViKoC::cutRow(int row)
 {
     SelNumType = quint8(numTypeOf(m_scan.grid.text(row, ScanColumn::Type)));
@@ -123,6 +125,6 @@ void ViKoC::cutRow(int row)
         else if (CutOrigin == FromBottomScan)
             lvButtons_H1_Click();
     });
-    if (m_scan.grid.rows() > 0) // so that the next key goes on here
+    if (m_scan.grid.rows() > 0) // the next key continues here
         m_ui->fpSpread1->setActiveRow(std::min(row, m_scan.grid.rows()));
 }

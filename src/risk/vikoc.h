@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The dialog "วิเคราะห์เลขที่มีความเสี่ยง": bets that one result would hit together.
+// The dialog "วิเคราะห์เลขที่มีความเสี่ยง": bets that one result could hit together.
 #pragma once
 
 #include "cutting/board.h"
@@ -14,8 +14,8 @@ namespace Ui {
 class ViKoC;
 }
 
-/// Opens the cut-out for the selected class and number over @p owner. When it closes, it loads the
-/// board anew and then runs @p scanAgain.
+/// Opens the cut-out dialog for the selected class and number over @p owner. When it closes, the
+/// board is reloaded and @p scanAgain is called.
 using CutOpener = std::function<void(QWidget *owner, const std::function<void()> &scanAgain)>;
 
 class ViKoC : public QDialog
@@ -23,10 +23,10 @@ class ViKoC : public QDialog
     Q_OBJECT
 
 public:
-    /// @p board, whose rows are the coverage, must outlive the dialog.
+    /// The coverage is that of @p board, which must outlive the dialog.
     ViKoC(const Board &board, CutOpener showCutNum, QWidget *parent);
 
-    /// Ends the scan: a cut from the board re-runs none.
+    /// Sets CutOrigin back to FromBoard.
     ~ViKoC() override;
 
     void lvButtons_H0_Click();

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The customer strip in the banner: whose bets the board shows, and his discount on them.
+// The customer strip in the banner: the customer whose bets the board shows, and the discount.
 #pragma once
 
 #include <QLineEdit>
@@ -24,7 +24,7 @@ public:
     }
 
     QLineEdit &Tname; ///< name of the customer
-    QLineEdit &text2; ///< his discount in percent
+    QLineEdit &text2; ///< the discount in percent
     QLineEdit &text3; ///< the discount in baht, as "#,##"
 
 private:

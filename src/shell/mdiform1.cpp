@@ -148,7 +148,7 @@ bool MDIForm1::MDIForm_QueryUnload()
     resumeNext(deleteTemporaryFiles);
     resumeNext(CloseLedger);
     if (isModalOpen)
-        endProgram(0); // the code behind the box must not go on without a Ledger
+        endProgram(0); // the code that opened the box must not go on without a Ledger
     QApplication::quit();
     return true;
 }

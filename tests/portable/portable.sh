@@ -56,7 +56,7 @@ rows=$(sqlcipher "$book" "PRAGMA key = '639417'; PRAGMA cipher_compatibility = 3
     SELECT NameFK, num23, updown, numType, numValue, numBuy FROM tblNumber;" | tail -n 1)
 [[ $rows == '0|3|-1|1|123|100' ]] || fail "the ticket stands in the book as: $rows"
 [[ ! -e $book-wal ]] || fail "the book was not closed"
-[[ $(saw type) == 'Noto Sans, Noto Sans Thai' ]] || fail "Thai is drawn with: $(saw type)"
+[[ $(saw font) == 'Noto Sans, Noto Sans Thai' ]] || fail "Thai is drawn with: $(saw font)"
 pdffonts "$place/paper.pdf" | grep -q 'NotoSansThai.*Identity-H *yes' || fail "Thai is not printed"
 
 [[ $(saw icon) == 1 ]] || fail "the window has no icon"

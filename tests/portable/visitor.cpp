@@ -45,7 +45,7 @@ void type(const QString &text)
 const QString Thai = u"งวดนี้ น้ำ 123"_s;
 
 /// Families that draw a Thai text with its marks, or "no letters" where one is missing.
-QString typeOfThai()
+QString fontOfThai()
 {
     QTextLayout layout(Thai, QApplication::font());
     layout.beginLayout();
@@ -89,7 +89,7 @@ void keyOneTicket(QWidget *window)
         QTimer::singleShot(20, window, [window] { keyOneTicket(window); });
         return;
     }
-    tell(u"type: "_s + typeOfThai());
+    tell(u"font: "_s + fontOfThai());
     tell(u"icon: "_s + QString::number(QApplication::windowIcon().availableSizes().size()));
     printThai();
     window->findChild<QWidget *>(u"Tnumber"_s)->setFocus();
