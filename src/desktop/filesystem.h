@@ -24,11 +24,9 @@ struct FileId
 std::optional<FileId> fileIdAt(const QByteArray &path);
 
 /// Returns false if the file at @p path is missing or is not @p id. Returns true if that cannot be
-/// determined: reading and writing fail there anyway.
-inline bool leadsTo(const QByteArray &path, const FileId &id)
-{
-    return fileIdAt(path).value_or(id) == id;
-}
+/// determined: reading and writing fail there anyway. Under Windows the id is read again only after
+/// the size or the times of the file have changed.
+bool leadsTo(const QByteArray &path, const FileId &id);
 
 /// Checks the write permission of a file or folder. Under Windows folders always count as
 /// writable.

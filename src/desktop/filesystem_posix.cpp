@@ -17,6 +17,11 @@ std::optional<FileId> fileIdAt(const QByteArray &path)
     return std::nullopt;
 }
 
+bool leadsTo(const QByteArray &path, const FileId &id)
+{
+    return fileIdAt(path).value_or(id) == id;
+}
+
 bool mayBeWritten(const QByteArray &path)
 {
     return faccessat(AT_FDCWD, path.constData(), W_OK, AT_EACCESS) == 0;

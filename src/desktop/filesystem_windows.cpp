@@ -3,66 +3,83 @@
 // replaced while they are open. The server of a network share may still allow it.
 #include "desktop/filesystem.h"
 
-#include <QDir>
 #include <QFileInfo>
-#include <QScopeGuard>
+#include <QHash>
 
-#include <array>
+#include <utility>
 
 #include <windows.h>
 
 namespace {
 
-std::wstring wide(const QString &text)
+/// What Windows gives away about a file without opening it.
+struct Stamp
 {
-    return QDir::toNativeSeparators(text).toStdWString();
+    explicit Stamp(const WIN32_FILE_ATTRIBUTE_DATA &data)
+        : size((quint64(data.nFileSizeHigh) << 32) | data.nFileSizeLow),
+          created(ticks(data.ftCreationTime)), written(ticks(data.ftLastWriteTime))
+    {}
+
+    bool operator==(const Stamp &) const = default;
+
+    static quint64 ticks(const FILETIME &time)
+    {
+        return (quint64(time.dwHighDateTime) << 32) | time.dwLowDateTime;
+    }
+
+    quint64 size;
+    quint64 created;
+    quint64 written;
+};
+
+std::wstring toNative(const QByteArray &path)
+{
+    return QFile::decodeName(path).toStdWString();
 }
 
-/// Returns the index of the file @p name in an open folder, 0 if it has no such file, std::nullopt
-/// if that cannot be determined.
-std::optional<quint64> indexInFolder(HANDLE folder, const QString &name)
+/// Returns what a failed call means for the file: zeros if there is none.
+std::optional<FileId> idAfterError()
 {
-    alignas(FILE_ID_BOTH_DIR_INFO) std::array<char, 16384> entries;
-    while (GetFileInformationByHandleEx(folder, FileIdBothDirectoryInfo, entries.data(),
-                                        DWORD(entries.size()))) {
-        const char *at = entries.data();
-        for (DWORD step = 1; step != 0;) {
-            const auto *entry = reinterpret_cast<const FILE_ID_BOTH_DIR_INFO *>(at);
-            const auto length = qsizetype(entry->FileNameLength / sizeof(wchar_t));
-            if (name.compare(QStringView(entry->FileName, length), Qt::CaseInsensitive) == 0)
-                return quint64(entry->FileId.QuadPart);
-            step = entry->NextEntryOffset;
-            at += step;
-        }
-    }
-    return GetLastError() == ERROR_NO_MORE_FILES ? std::optional<quint64>(0) : std::nullopt;
+    const DWORD error = GetLastError();
+    if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
+        return FileId{};
+    return std::nullopt;
 }
 
 } // namespace
 
-/// Reads the id from the folder. Wine keeps each handle of a locked file open until the lock is
-/// released, so opening the Ledger for every row would use up its file descriptors.
 std::optional<FileId> fileIdAt(const QByteArray &path)
 {
-    const QFileInfo file(QFile::decodeName(path));
-    const HANDLE folder =
-        CreateFileW(wide(file.path()).c_str(), FILE_LIST_DIRECTORY | FILE_READ_ATTRIBUTES,
-                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr, OPEN_EXISTING,
-                    FILE_FLAG_BACKUP_SEMANTICS, nullptr);
-    if (folder == INVALID_HANDLE_VALUE) {
-        const DWORD error = GetLastError();
-        if (error == ERROR_FILE_NOT_FOUND || error == ERROR_PATH_NOT_FOUND)
-            return FileId{};
+    const HANDLE file = CreateFileW(toNative(path).c_str(), FILE_READ_ATTRIBUTES,
+                                    FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (file == INVALID_HANDLE_VALUE)
+        return idAfterError();
+    BY_HANDLE_FILE_INFORMATION found{};
+    const bool known = GetFileInformationByHandle(file, &found) != 0;
+    CloseHandle(file);
+    if (!known)
         return std::nullopt;
-    }
-    const auto closer = qScopeGuard([folder] { CloseHandle(folder); });
-    BY_HANDLE_FILE_INFORMATION about{};
-    if (!GetFileInformationByHandle(folder, &about))
-        return std::nullopt;
-    const std::optional<quint64> index = indexInFolder(folder, file.fileName());
-    if (!index)
-        return std::nullopt;
-    return *index ? FileId{about.dwVolumeSerialNumber, *index} : FileId{};
+    return FileId{found.dwVolumeSerialNumber,
+                  (quint64(found.nFileIndexHigh) << 32) | found.nFileIndexLow};
+}
+
+/// Opening the file for each row would be slow. Wine also keeps every handle of a locked file until
+/// the lock is released, and would run out of file descriptors.
+bool leadsTo(const QByteArray &path, const FileId &id)
+{
+    static QHash<QByteArray, std::pair<Stamp, FileId>> known;
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    if (!GetFileAttributesExW(toNative(path).c_str(), GetFileExInfoStandard, &data))
+        return idAfterError().value_or(id) == id;
+    const std::pair now(Stamp(data), id);
+    const auto last = known.constFind(path);
+    if (last != known.cend() && *last == now)
+        return true;
+    if (fileIdAt(path).value_or(id) != id)
+        return false;
+    known.insert(path, now);
+    return true;
 }
 
 bool mayBeWritten(const QByteArray &path)
