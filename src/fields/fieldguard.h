@@ -20,7 +20,7 @@ struct FieldRule
     FieldFilter filter = FieldFilter::Digits;
     QWidget *enterFocuses = nullptr;        ///< gets the focus on Enter
     QAbstractButton *enterClicks = nullptr; ///< clicked on Enter
-    QWidget *keyFocuses = nullptr;          ///< gets the focus after any other key
+    QWidget *keyFocuses = nullptr; ///< gets the focus after any other key with a character code
 };
 
 class FieldGuard : public QObject
