@@ -12,7 +12,7 @@
 Combo::Combo(QWidget *parent) : QComboBox(parent)
 {
     setInsertPolicy(NoInsert);
-    setFocusPolicy(Qt::StrongFocus); // the wheel must not even take the focus
+    setFocusPolicy(Qt::StrongFocus); // no focus by the wheel
     connect(this, &QComboBox::activated, this, &Combo::clicked);
     connect(this, &QComboBox::editTextChanged, this, &Combo::dropIndexOfForeignText);
 }
@@ -24,8 +24,8 @@ void Combo::setList(const QStringList &entries)
     if (isEditable())
         setCompleter(nullptr);
     clear();
-    addItems(entries); // the toolkit now has chosen the first entry by itself
-    setCurrentIndex(-1);
+    addItems(entries);
+    setCurrentIndex(-1); // QComboBox has selected the first entry
     if (isEditable())
         setEditText(text);
 }
@@ -83,7 +83,7 @@ void Combo::dropIndexOfForeignText(const QString &text)
     const int cursor = lineEdit()->cursorPosition();
     const QSignalBlocker quiet(this);
     const QSignalBlocker quietText(lineEdit());
-    setCurrentIndex(-1); // empties the text, which has to stay
+    setCurrentIndex(-1); // also clears the text
     setEditText(text);
     lineEdit()->setCursorPosition(cursor);
 }
@@ -93,7 +93,7 @@ int ComboAutoComplete(Combo &combo, int code)
     QLineEdit &edit = *combo.lineEdit();
     if (edit.hasSelectedText())
         edit.del();
-    // A key that a filter has dropped adds nothing, and the proposal comes back as it was.
+    // A filter that rejected the key has set the code to 0: propose the same entry again.
     const QString search = code == 0 ? edit.text() : edit.text() + QChar(code);
     const int found = search.isEmpty() ? -1 : combo.findStart(search);
     if (found < 0)

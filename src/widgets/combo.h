@@ -1,16 +1,16 @@
 // SPDX-License-Identifier: MIT
-// Combo box whose index and text go their own ways, as a keyer of names needs it.
+// Combo box for customer names, whose text need not be an entry of its list.
 #pragma once
 
 #include <QComboBox>
 
 #include <functional>
 
-/// The toolkit adds typed text to the list, completes it and keeps the index of an entry that
-/// has been typed over; none of that is wanted, since the index says whether the text is a known
-/// name. Typing over an entry drops the index and keeps the text. A text that is an entry to the
-/// letter chooses that entry when the combo is left. The wheel does nothing, as a touch of it
-/// would change the customer unseen.
+/// The index says whether the text is a known name. So editing the text of an entry sets the index
+/// to -1 and keeps the text, where QComboBox would keep the index. Typed text is not added to the
+/// list, and QCompleter is not used. As in QComboBox, a text that equals an entry exactly selects
+/// that entry when the combo box loses the focus. The mouse wheel is ignored, since scrolling could
+/// change the customer unnoticed.
 class Combo : public QComboBox
 {
     Q_OBJECT
@@ -18,22 +18,26 @@ class Combo : public QComboBox
 public:
     explicit Combo(QWidget *parent = nullptr);
 
-    /// Filter of the keys that give characters, called with the character's code before the
-    /// combo takes the key; 0 as result swallows it. Text of an input method passes it too.
+    /// Key filter, called with the characterCode() of a key before the combo box handles it. The
+    /// key is discarded if the filter returns 0. Characters committed by an input method
+    /// are filtered too.
     std::function<int(int code)> keyPress;
 
-    /// Replaces the list and keeps the text. No entry is chosen.
+    /// Replaces the list and keeps the text. No entry is selected.
     void setList(const QStringList &entries);
 
-    /// Chooses an entry, or none with -1, which empties the text. Emits clicked() in any case.
+    /// Selects an entry, or none if @p index is -1, which clears the text. Emits clicked() in any
+    /// case.
     void setListIndex(int index);
+
+    /// Returns the index of the selected entry, or -1.
     int listIndex() const { return currentIndex(); }
 
-    /// Index of the first entry that starts with @p text, letters without regard to case, or -1.
+    /// Returns the index of the first entry that starts with @p text (case-insensitive), or -1.
     int findStart(const QString &text) const;
 
 signals:
-    /// An entry was chosen, by the user or by code, also the one that already was.
+    /// Emitted when the user or setListIndex() selects an entry, even if it was selected already.
     void clicked();
 
 protected:
@@ -45,7 +49,7 @@ private:
     void dropIndexOfForeignText(const QString &text);
 };
 
-/// Type-ahead for a name combo: proposes the first entry that starts with what is typed and
-/// selects the tail, which the next key replaces. Gives the code to pass on, 0 once an entry is
-/// found.
+/// Type-ahead for names, to be called from Combo::keyPress. Selects the first entry that starts
+/// with the text plus the typed character, and highlights the rest of its text, so that the next
+/// key replaces it. Returns @p code if no entry is found, otherwise 0.
 int ComboAutoComplete(Combo &combo, int code);

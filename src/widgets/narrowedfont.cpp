@@ -5,11 +5,11 @@
 
 #include <algorithm>
 
-QFont narrowedFont(QFont font, const QString &text, int room)
+QFont narrowedFont(QFont font, const QString &text, int maxWidth)
 {
-    constexpr int Narrowest = 60; // percent
+    constexpr int MinStretch = 60; // percent
     const int width = QFontMetrics(font).horizontalAdvance(text);
-    if (room > 0 && width > room)
-        font.setStretch(std::max(Narrowest, (100 * room - width) / width));
+    if (maxWidth > 0 && width > maxWidth)
+        font.setStretch(std::max(MinStretch, (100 * maxWidth - width) / width));
     return font;
 }

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-// Amounts and captions that must not be cut off where room is short.
+// Narrower fonts for amounts and captions that must not be cut off.
 #pragma once
 
 #include <QFont>
 
-/// @p font, narrowed so far that @p text fits into @p room pixels, to six tenths at most. An amount
-/// that is cut off would read as another amount.
-QFont narrowedFont(QFont font, const QString &text, int room);
+/// Returns @p font, narrowed as far as needed for @p text to fit into @p maxWidth pixels, but not
+/// below 60 percent. An amount that is cut off would read as a different amount.
+QFont narrowedFont(QFont font, const QString &text, int maxWidth);

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-// The progress bar as logic sees it: long work moves it without knowing any window.
+// Interface through which code without windows shows the progress of long work.
 #pragma once
 
-/// A bar that covers the wait of long work. Work takes no other event meanwhile.
+/// The progress of work that runs without processing events.
 class ProgressBar
 {
 public:
     virtual ~ProgressBar() = default;
 
-    /// Begins at 0, with @p maximum as the full length. Work that is soon done shows no bar.
+    /// Starts at 0 of @p maximum steps. The bar stays hidden if the work is done quickly.
     virtual void start(int maximum) = 0;
 
-    /// Moves on by 1 unless the bar is full.
+    /// Advances by one step unless the bar is full.
     virtual void step() = 0;
 
-    /// Hides the bar and sets it back to 0.
+    /// Hides the bar and resets it to 0.
     virtual void finish() = 0;
 };

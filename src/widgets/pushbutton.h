@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Push button that Enter presses as well as Space, with room around its caption.
+// Push button that Enter clicks too.
 #pragma once
 
 #include <QKeyEvent>
 #include <QPushButton>
 
+/// Enter clicks the button once, however long the key is held. The button is wider than QPushButton
+/// to leave space around the caption.
 class PushButton : public QPushButton
 {
     Q_OBJECT

@@ -7,7 +7,7 @@
 
 QIcon searchIcon()
 {
-    QPixmap picture(64, 64); // larger than any button shows it
+    QPixmap picture(64, 64); // scaled down by the buttons
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// The sign on buttons that search.
+// Icon of the search buttons.
 #pragma once
 
 #include <QIcon>
 
-/// A magnifying glass in the desktop's text colour.
+/// Returns a magnifying glass in the colour of button captions.
 QIcon searchIcon();

@@ -17,7 +17,7 @@
 
 namespace {
 
-/// Narrows what is wider than its cell.
+/// Narrows the font of texts that are wider than their cell.
 class CellDelegate : public QStyledItemDelegate
 {
 public:
@@ -64,8 +64,8 @@ void Spread::setSpreadModel(SpreadModel *model)
     });
     connect(model, &SpreadModel::modelReset, this, [this] {
         fitColumns();
-        setAutoScroll(rows() != m_rowsBefore); // the same rows again stay where they are scrolled
-        if (m_rowBefore > 0 && rows() > 0)     // Enter goes on working after a reload
+        setAutoScroll(rows() != m_rowsBefore); // same number of rows: do not scroll
+        if (m_rowBefore > 0 && rows() > 0)     // Enter still works after a reload
             setActiveRow(std::min(m_rowBefore, rows()));
         setAutoScroll(true);
     });
@@ -125,7 +125,7 @@ void Spread::currentChanged(const QModelIndex &current, const QModelIndex &previ
         emit rowPicked(current.row() + 1);
 }
 
-/// A press beside the rows picks none, nor does a move of the mouse that begins there.
+/// Ignores presses outside the rows, and drags that start there.
 void Spread::mousePressEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton) // no other button moves the active row
@@ -145,7 +145,7 @@ void Spread::mouseMoveEvent(QMouseEvent *event)
         QTableView::mouseMoveEvent(event);
 }
 
-/// A slip of the mouse moves the active row while the button is held: the click is where it ends.
+/// The active row follows the mouse while the button is held, so a click counts on release.
 void Spread::mouseReleaseEvent(QMouseEvent *event)
 {
     QTableView::mouseReleaseEvent(event);
@@ -153,20 +153,20 @@ void Spread::mouseReleaseEvent(QMouseEvent *event)
         emit rowClicked();
 }
 
-/// The second half of a double click counts by itself: the first may have answered a box or closed
-/// a list in front of the grid, and then has made no row active.
+/// Makes a row active like a single press: the first press of the double click may have gone to a
+/// box or a list that covered the grid.
 void Spread::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() != Qt::LeftButton)
         return;
     mousePressEvent(event);
-    if (!std::exchange(m_rowPressed, false)) // the release may go to what is opened
+    if (!std::exchange(m_rowPressed, false)) // the release may go to the window that opens
         return;
     emit rowClicked();
     emit rowOpened();
 }
 
-/// Letters do not move the active row: an amount typed in the wrong place would.
+/// Disabled: an amount typed with the focus in the wrong place would move the active row.
 void Spread::keyboardSearch(const QString &) {}
 
 void Spread::keyPressEvent(QKeyEvent *event)
@@ -176,7 +176,7 @@ void Spread::keyPressEvent(QKeyEvent *event)
         QTableView::keyPressEvent(event);
         return;
     }
-    if (event->isAutoRepeat()) // a key that is held down would open row after row
+    if (event->isAutoRepeat()) // a held key would open one row after another
         return;
     emit rowPicked(activeRow());
     if (enter)
@@ -188,7 +188,7 @@ void Spread::keyPressEvent(QKeyEvent *event)
 void Spread::focusInEvent(QFocusEvent *event)
 {
     QTableView::focusInEvent(event);
-    if (currentIndex().isValid()) // reached by Tab the toolkit makes a row active and marks none
+    if (currentIndex().isValid()) // on Tab, QTableView makes a row current without selecting it
         selectRow(currentIndex().row());
 }
 
@@ -198,7 +198,7 @@ QItemSelectionModel::SelectionFlags Spread::selectionCommand(const QModelIndex &
     if (!index.isValid())
         return QItemSelectionModel::NoUpdate;
     return QItemSelectionModel::ClearAndSelect
-           | QItemSelectionModel::Rows; // never unmarked by Ctrl
+           | QItemSelectionModel::Rows; // Ctrl must not deselect the row
 }
 
 void Spread::changeEvent(QEvent *event)
@@ -229,8 +229,8 @@ void Spread::fitRowHeights()
 {
     verticalHeader()->setMinimumSectionSize(1);
     constexpr double PointsPerInch = 72;
-    const int least = int(m_rowPoints * logicalDpiY() / PointsPerInch);
-    verticalHeader()->setDefaultSectionSize(std::max(least, SpreadHeader::rowHeight(font())));
+    const int minimum = int(m_rowPoints * logicalDpiY() / PointsPerInch);
+    verticalHeader()->setDefaultSectionSize(std::max(minimum, SpreadHeader::rowHeight(font())));
 }
 
 void searchNumber(QLineEdit &field, int column, const QList<Spread *> &grids)

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The grid on the screen: shows a SpreadModel with its header rows above the rows.
+// Grid view of a SpreadModel, with its header rows above the rows.
 #pragma once
 
 #include "widgets/spreadmodel.h"
@@ -10,9 +10,9 @@
 
 class QLineEdit;
 
-/// One row is active at a time and shown whole; column 0 is hidden, and so may be others that carry
-/// what code wants to know of a row. Rows and columns count from 1, header rows from
-/// FirstHeaderRow, for automation as for code.
+/// At most one row is active, which is selected as a whole. Column 0 is hidden, and so may be other
+/// columns with data that only code needs. Rows and columns count from 1, header rows from
+/// FirstHeaderRow, for automation and code alike.
 class Spread : public QTableView
 {
     Q_OBJECT
@@ -20,30 +20,36 @@ class Spread : public QTableView
 public:
     explicit Spread(QWidget *parent = nullptr);
 
-    /// Shows @p model, which must outlive this.
+    /// Shows @p model, which must outlive the view.
     void setSpreadModel(SpreadModel *model);
+
+    /// Returns the model, or null before setSpreadModel().
     SpreadModel *spreadModel() const { return m_model; }
 
+    /// These return the values of the model, for automation.
     Q_INVOKABLE QString text(int row, int column) const;
     Q_INVOKABLE int rows() const;
     Q_INVOKABLE QColor color(int row, int column) const;
 
-    /// The active row, or 0 while there is none. Setting it is no picking.
+    /// Returns the active row, or 0 if there is none.
     Q_INVOKABLE int activeRow() const;
+
+    /// Makes a row active without emitting rowPicked().
     Q_INVOKABLE void setActiveRow(int row);
 
-    /// Hides @p columns beside column 0.
+    /// Hides @p columns in addition to column 0.
     void hideColumns(const QList<int> &columns);
 
-    /// Gives a column a width of its own, in digits; those without share the rest of the grid.
+    /// Fixes the width of a column, in digits. Columns without a fixed width share the rest of the
+    /// grid.
     void setColumnDigits(int column, int digits);
 
-    /// Height of the rows in points; they are higher where the type needs it.
+    /// Sets the minimum height of the rows in points. They are higher if the font needs it.
     void setRowPoints(int points);
 
 signals:
-    /// The user has picked a row: by moving to it, by a click, or by Space or Enter on the one that
-    /// is active.
+    /// Emitted when the user makes another row active, or presses the mouse button, Space or Enter
+    /// on the active row.
     void rowPicked(int row);
 
     void rowClicked(); ///< a click on a row, or Space on the active one
@@ -69,13 +75,14 @@ private:
     SpreadModel *m_model = nullptr;
     QMap<int, int> m_columnDigits;
     int m_rowPoints = 18;
-    int m_rowBefore = 0;  ///< the active row before the model was reset
-    int m_rowsBefore = 0; ///< how many rows it had
+    int m_rowBefore = 0;  ///< active row before the model was reset
+    int m_rowsBefore = 0; ///< number of rows before the model was reset
     QList<int> m_hidden{0};
     bool m_picking = true;     ///< false while code sets the active row
-    bool m_rowPressed = false; ///< the mouse button went down on a row and is held
+    bool m_rowPressed = false; ///< true while the left button is held after a press on a row
 };
 
-/// Makes the row of the number in @p field active in each of @p grids that has it; a miss is
-/// silent. An empty field gets the focus instead.
+/// Finds the first row of each of @p grids whose text in @p column equals that of @p field, and
+/// makes it active. Grids without such a row stay as they are. An empty field gets the focus
+/// instead.
 void searchNumber(QLineEdit &field, int column, const QList<Spread *> &grids);

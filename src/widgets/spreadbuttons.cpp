@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr QRgb MarkColor = 0xF0B429; // as the look marks the focus elsewhere
+constexpr QRgb MarkColor = 0xF0B429; // focus colour of the style sheet
 
 } // namespace
 
@@ -43,7 +43,7 @@ void SpreadButtons::paint(QPainter *painter, const QStyleOptionViewItem &option,
                    | (m_down == index ? QStyle::State_Sunken : QStyle::State_Raised);
     const bool marked = m_grid->hasFocus() && index.row() == m_grid->currentIndex().row()
                         && index.column() == markedColumn();
-    if (marked) { // the focus frame of a button would be lost in the colour of the active row
+    if (marked) { // a focus frame is hard to see on the colour of the active row
         button.palette.setColor(QPalette::Button, QColor(MarkColor));
         button.palette.setColor(QPalette::ButtonText, Qt::black);
     }
@@ -57,33 +57,34 @@ bool SpreadButtons::eventFilter(QObject *object, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::KeyPress:
-        return object == m_grid && keyPress(static_cast<const QKeyEvent &>(*event));
+        return object == m_grid && handleKey(static_cast<const QKeyEvent &>(*event));
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
     case QEvent::MouseMove:
     case QEvent::MouseButtonRelease:
-        return object == m_grid->viewport() && mouse(static_cast<const QMouseEvent &>(*event));
+        return object == m_grid->viewport()
+               && handleMouse(static_cast<const QMouseEvent &>(*event));
     default:
         return false;
     }
 }
 
-bool SpreadButtons::keyPress(const QKeyEvent &event)
+bool SpreadButtons::handleKey(const QKeyEvent &event)
 {
     const int row = m_grid->activeRow();
     if (row == 0)
         return false;
     switch (event.key()) {
     case Qt::Key_Left:
-        mark(-1);
+        moveMark(-1);
         return true;
     case Qt::Key_Right:
-        mark(1);
+        moveMark(1);
         return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
     case Qt::Key_Space:
-        if (!event.isAutoRepeat()) // a key that is held down would open row after row
+        if (!event.isAutoRepeat()) // a held key would open one row after another
             press(markedColumn(), row);
         return true;
     default:
@@ -91,9 +92,9 @@ bool SpreadButtons::keyPress(const QKeyEvent &event)
     }
 }
 
-/// Takes a press on a button and what follows until the release, so that the grid, whose rows the
-/// work of the button may replace, is in the middle of nothing.
-bool SpreadButtons::mouse(const QMouseEvent &event)
+/// Consumes a press on a button and all mouse events up to its release. A slot connected to
+/// pressed() may replace the rows of the grid, so the grid must not be handling a mouse event then.
+bool SpreadButtons::handleMouse(const QMouseEvent &event)
 {
     const QModelIndex under = m_grid->indexAt(event.pos());
     const bool pressing =
@@ -109,27 +110,28 @@ bool SpreadButtons::mouse(const QMouseEvent &event)
     if (!m_down.isValid())
         return false;
     if (event.type() == QEvent::MouseButtonRelease && event.button() == Qt::LeftButton) {
-        const bool released = m_down == under; // and not somewhere else
+        const bool releasedOnButton = m_down == under;
         m_down = QModelIndex();
         m_grid->viewport()->update();
-        if (released)
+        if (releasedOnButton)
             press(under.column(), under.row() + 1);
     }
     return true;
 }
 
-/// The button that the keys press: that of the active cell, or the row's first.
+/// Returns the column of the button that keys press: the active cell if it is a button, otherwise
+/// the first button of the row.
 int SpreadButtons::markedColumn() const
 {
     const int active = m_grid->currentIndex().column();
     return m_columns.contains(active) ? active : m_columns.first();
 }
 
-/// Marks the button @p by places further.
-void SpreadButtons::mark(int by)
+/// Moves the mark by @p step buttons, negative to the left.
+void SpreadButtons::moveMark(int step)
 {
     const auto at =
-        std::clamp<qsizetype>(m_columns.indexOf(markedColumn()) + by, 0, m_columns.size() - 1);
+        std::clamp<qsizetype>(m_columns.indexOf(markedColumn()) + step, 0, m_columns.size() - 1);
     m_grid->setCurrentIndex(m_grid->currentIndex().siblingAtColumn(m_columns[at]));
     m_grid->viewport()->update();
 }

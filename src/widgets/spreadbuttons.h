@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Buttons in the rows of a grid.
+// Push buttons in the rows of a grid.
 #pragma once
 
 #include <QList>
@@ -10,35 +10,36 @@ class QKeyEvent;
 class QMouseEvent;
 class Spread;
 
-/// Shows the cells of some columns as push buttons, captioned with the cells' texts. On the active
-/// row one of them is marked: Left and Right change which, Space and Enter press it.
+/// Paints the cells of some columns as push buttons with the cell texts as captions. One button of
+/// the active row is marked: Left and Right move the mark, Space and Enter press the button.
 class SpreadButtons : public QStyledItemDelegate
 {
     Q_OBJECT
 
 public:
-    /// For @p columns of @p grid, which owns this.
+    /// Handles @p columns of @p grid, which owns this object.
     SpreadButtons(Spread *grid, QList<int> columns);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;
 
-    /// Presses the button of a cell.
+    /// Presses the button of a cell, for automation.
     Q_INVOKABLE void press(int column, int row) { emit pressed(column, row); }
 
 signals:
+    /// Emitted when a button is pressed by a click, a key or press(). Both arguments count from 1.
     void pressed(int column, int row);
 
 protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    bool keyPress(const QKeyEvent &event);
-    bool mouse(const QMouseEvent &event);
+    bool handleKey(const QKeyEvent &event);
+    bool handleMouse(const QMouseEvent &event);
     int markedColumn() const;
-    void mark(int by);
+    void moveMark(int step);
 
     Spread *m_grid;
     QList<int> m_columns;
-    QPersistentModelIndex m_down; ///< the button that the mouse holds down
+    QPersistentModelIndex m_down; ///< button held down with the mouse
 };

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int CellMargin = 6;
-constexpr int LeastRowHeight = 24; // 18 points
+constexpr int MinRowHeight = 24; // 18 points at 96 dpi
 
 } // namespace
 
@@ -29,8 +29,8 @@ SpreadHeader::SpreadHeader(QWidget *parent) : QHeaderView(Qt::Horizontal, parent
 int SpreadHeader::rowHeight(const QFont &font)
 {
     const QFontMetrics metrics(font);
-    const int thai = metrics.boundingRect(u"ปี้ฎู"_s).height();
-    return std::max({LeastRowHeight, metrics.height() + 2, thai + 2});
+    const int thaiHeight = metrics.boundingRect(u"ปี้ฎู"_s).height();
+    return std::max({MinRowHeight, metrics.height() + 2, thaiHeight + 2});
 }
 
 QSize SpreadHeader::sizeHint() const
@@ -49,7 +49,7 @@ void SpreadHeader::setModel(QAbstractItemModel *model)
     }
 }
 
-/// Has the view lay itself out anew if there are more or fewer header rows than before.
+/// Makes the view update its layout if the number of header rows has changed.
 void SpreadHeader::fitHeight()
 {
     if (std::exchange(m_rows, spread()->headerRows()) != m_rows)
@@ -83,16 +83,16 @@ void SpreadHeader::paintCell(QPainter &painter, int row, int column) const
     int width = 0;
     for (int spanned = column; spanned < column + cell.span; ++spanned)
         width += sectionSize(spanned);
-    const QRect place(sectionViewportPosition(column), (row - FirstHeaderRow) * height, width,
-                      height);
+    const QRect cellRect(sectionViewportPosition(column), (row - FirstHeaderRow) * height, width,
+                         height);
     painter.setPen(palette().color(QPalette::Mid));
-    painter.drawLine(place.bottomLeft(), place.bottomRight());
-    painter.drawLine(place.topRight(), place.bottomRight());
+    painter.drawLine(cellRect.bottomLeft(), cellRect.bottomRight());
+    painter.drawLine(cellRect.topRight(), cellRect.bottomRight());
 
     QFont shown = font();
     shown.setBold(cell.bold);
-    const QRect room = place.adjusted(CellMargin, 0, -CellMargin, 0);
-    painter.setFont(narrowedFont(shown, cell.text, room.width()));
+    const QRect textRect = cellRect.adjusted(CellMargin, 0, -CellMargin, 0);
+    painter.setFont(narrowedFont(shown, cell.text, textRect.width()));
     painter.setPen(palette().color(QPalette::ButtonText));
-    painter.drawText(room, int(cell.alignment) | Qt::TextSingleLine, cell.text);
+    painter.drawText(textRect, int(cell.alignment) | Qt::TextSingleLine, cell.text);
 }

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: MIT
-// The header rows of a grid: caption, total and titles above the columns.
+// Header of a grid, with several rows: caption, total and column titles.
 #pragma once
 
 #include <QHeaderView>
 
 class SpreadModel;
 
-/// Paints all header rows of a SpreadModel, cells spanning columns included.
+/// Paints the header rows of a SpreadModel, including cells that span columns.
 class SpreadHeader : public QHeaderView
 {
     Q_OBJECT
@@ -14,7 +14,8 @@ class SpreadHeader : public QHeaderView
 public:
     explicit SpreadHeader(QWidget *parent);
 
-    /// Height of a grid's row: 18 points at least, and room for Thai marks above and below.
+    /// Returns the height of a header row in pixels, which is also the minimum for other rows: 18
+    /// points at 96 dpi, or more if Thai vowels and tone marks need it.
     static int rowHeight(const QFont &font);
 
     QSize sizeHint() const override;
@@ -28,5 +29,5 @@ private:
     void fitHeight();
     void paintCell(QPainter &painter, int row, int column) const;
 
-    int m_rows = 0; ///< header rows when the view was laid out last
+    int m_rows = 0; ///< number of header rows at the last layout
 };

@@ -59,14 +59,14 @@ void SpreadModel::removeRow(int row)
     endRemoveRows();
 }
 
-bool SpreadModel::holds(int row, int column) const
+bool SpreadModel::hasCell(int row, int column) const
 {
     return row >= 1 && row <= rows() && column >= 0 && column <= columns();
 }
 
 SpreadModel::Cell &SpreadModel::cell(int row, int column)
 {
-    Q_ASSERT(holds(row, column));
+    Q_ASSERT(hasCell(row, column));
     return m_rows[row - 1][column];
 }
 
@@ -88,7 +88,7 @@ QString SpreadModel::text(int row, int column) const
 {
     if (row < 0)
         return header(row, column).text;
-    return holds(row, column) ? m_rows[row - 1][column].text : QString();
+    return hasCell(row, column) ? m_rows[row - 1][column].text : QString();
 }
 
 void SpreadModel::setText(int row, int column, const QString &text)
@@ -104,7 +104,7 @@ void SpreadModel::setText(int row, int column, const QString &text)
 
 void SpreadModel::setRow(int row, std::span<const QString> texts)
 {
-    Q_ASSERT(holds(row, int(texts.size()) - 1));
+    Q_ASSERT(hasCell(row, int(texts.size()) - 1));
     Row &cells = m_rows[row - 1];
     auto cell = cells.begin();
     for (const QString &text : texts)
@@ -115,7 +115,7 @@ void SpreadModel::setRow(int row, std::span<const QString> texts)
 
 QColor SpreadModel::color(int row, int column) const
 {
-    return holds(row, column) ? m_rows[row - 1][column].color : QColor();
+    return hasCell(row, column) ? m_rows[row - 1][column].color : QColor();
 }
 
 void SpreadModel::setColor(int row, int column, const QColor &color)
@@ -202,7 +202,7 @@ QVariant SpreadModel::data(const QModelIndex &index, int role) const
         return int(m_columns[index.column()]);
     case Qt::BackgroundRole:
         return shown.color.isValid() ? QVariant(shown.color) : QVariant();
-    case Qt::ForegroundRole: // a fixed background needs a text that stays readable on it
+    case Qt::ForegroundRole: // cell colours are light, and a dark desktop has white text
         return shown.color.isValid() ? QVariant(QColor(Qt::black)) : QVariant();
     default:
         return {};
@@ -213,7 +213,7 @@ QVariant SpreadModel::headerData(int section, Qt::Orientation orientation, int r
 {
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || m_headers.isEmpty())
         return {};
-    return m_headers.last()[section].text; // what a screen reader says of the column
+    return m_headers.last()[section].text; // read out by screen readers
 }
 
 bool allEmpty(std::span<const SpreadModel> grids)

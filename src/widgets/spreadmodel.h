@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The grid's content: text, alignment and colour of each cell. The text is the data; a ticket or
-// a board is what its cells say.
+// Content of a grid: texts, alignments and colours. The texts are data: a ticket or a board is read
+// back from the texts of its cells.
 #pragma once
 
 #include <QAbstractTableModel>
@@ -11,10 +11,10 @@
 #include <functional>
 #include <span>
 
-/// Header rows count up from here: -1000 is the first, -999 the second, -998 the third.
+/// Number of the first header row; the second is -999, the third -998.
 inline constexpr int FirstHeaderRow = -1000;
 
-/// A column of a list: its title, and on which side cells and title stand.
+/// Title and alignments of a column.
 struct GridColumn
 {
     int column;
@@ -23,8 +23,9 @@ struct GridColumn
     Qt::Alignment titleAlignment = alignment;
 };
 
-/// A grid of text cells. Rows and columns count from 1; column 0 is the hidden row-header
-/// column. Above the rows stand the header rows, numbered from FirstHeaderRow on.
+/// A grid of text cells. Rows and columns count from 1; column 0 is the hidden row-header column.
+/// Header rows are numbered from FirstHeaderRow. In the functions of QAbstractTableModel, rows
+/// count from 0 and header rows are not included.
 class SpreadModel : public QAbstractTableModel
 {
     Q_OBJECT
@@ -43,45 +44,48 @@ public:
 
     explicit SpreadModel(QObject *parent = nullptr);
 
-    /// Empties the grid and gives it @p columns columns beside column 0 and @p headers header
-    /// rows of empty cells.
+    /// Clears the grid and gives it @p columns columns besides column 0, and @p headers header rows
+    /// of empty cells.
     void setup(int columns, int headers);
 
     int rows() const { return int(m_rows.size()); }
-    int columns() const { return int(m_columns.size()) - 1; }
+    int columns() const { return int(m_columns.size()) - 1; } ///< without column 0
     int headerRows() const { return int(m_headers.size()); }
 
-    /// Sets the number of rows: new ones are blank and stand last, surplus ones fall off the end.
+    /// Sets the number of rows by adding blank rows or removing rows at the end.
     void setRows(int rows);
 
-    void insertRow(int row); ///< a blank row at @p row; those from there on move down
+    void insertRow(int row); ///< inserts a blank row before @p row
     void removeRow(int row);
 
-    /// Text of a cell, header cells included; "" outside the grid.
+    /// Returns the text of a cell or header cell, or "" outside the grid.
     QString text(int row, int column) const;
     void setText(int row, int column, const QString &text);
 
-    /// Writes the texts of a whole row, from column 0 on.
+    /// Sets the texts of a row, starting with column 0.
     void setRow(int row, std::span<const QString> texts);
 
-    /// Background of a cell; invalid where the grid's own colour shows.
+    /// Returns the background of a cell; invalid if it is the default one.
     QColor color(int row, int column) const;
+
+    /// Sets the background of a cell. It must be light, since the text becomes black.
     void setColor(int row, int column, const QColor &color);
 
-    /// Alignment of all rows of a column.
+    /// Sets the horizontal alignment of all cells of a column, except header cells.
     void setAlignment(int column, Qt::Alignment alignment);
 
+    /// Returns a header cell, or an empty one outside the header rows.
     const HeaderCell &header(int row, int column) const;
     void setHeader(int row, int column, const HeaderCell &cell);
 
-    /// Writes the titles of @p columns to a header row and aligns their cells.
+    /// Sets the titles of @p columns in a header row, and the alignment of the columns.
     void setTitles(int row, std::span<const GridColumn> columns, bool bold = false);
 
-    /// Sorts the rows by what @p valueOf makes of their text in @p column, the highest first. Rows
-    /// of equal value keep their order.
+    /// Sorts the rows by the value that @p valueOf returns for their text in @p column, the highest
+    /// first. Rows of equal value keep their order.
     void sortDescending(int column, const std::function<double(const QString &text)> &valueOf);
 
-    /// First row whose text in @p column equals @p text exactly, or -1.
+    /// Returns the first row whose text in @p column equals @p text exactly, or -1.
     int searchColumn(int column, const QString &text) const;
 
     int rowCount(const QModelIndex &parent = {}) const override;
@@ -97,7 +101,7 @@ private:
     };
     using Row = QList<Cell>;
 
-    bool holds(int row, int column) const;
+    bool hasCell(int row, int column) const;
     Cell &cell(int row, int column);
     void changed(int row, int column);
     void headerChanged(int column);
@@ -105,14 +109,14 @@ private:
     QList<Qt::Alignment> m_columns;
     QList<QList<HeaderCell>> m_headers;
     QList<Row> m_rows;
-    int m_rebuilds = 0; ///< how many Rebuilds are at work
+    int m_rebuilds = 0; ///< number of Rebuild objects
 };
 
-/// True while none of the grids has a row.
+/// Returns true if no grid has a row.
 bool allEmpty(std::span<const SpreadModel> grids);
 
-/// Writes a grid anew: views hear of it once, when this goes, also when an error ends the work half
-/// way. Without it they hear of each cell.
+/// Resets a model during its lifetime: views are notified once, when it is destroyed, instead of
+/// for each cell. This also holds if an exception is thrown. Rebuilds of one model may be nested.
 class SpreadModel::Rebuild
 {
 public:

@@ -20,7 +20,7 @@ void TabStrip::setTab(int tab)
         const QSignalBlocker quiet(this);
         setCurrentIndex(tab);
     }
-    update(); // what the blocked signals would have brought about
+    update();
     emit clicked();
 }
 
@@ -28,17 +28,17 @@ void TabStrip::tabLayoutChange()
 {
     const bool isNarrowed = font().stretch() != QFont::AnyStretch;
     if (m_fitting || (!isNarrowed && sizeHint().width() <= width()))
-        return; // Thai texts are dear to measure, and there is nothing to do but on small screens
+        return; // measuring Thai texts is slow, and only small screens need narrower captions
     const QScopedValueRollback fitting(m_fitting, true);
     QString captions;
     for (int tab = 0; tab < count(); ++tab)
         captions += tabText(tab);
     if (m_padding < 0)
         m_padding = tabSizeHint(0).width() - QFontMetrics(font()).horizontalAdvance(tabText(0));
-    const int room = width() - m_padding * count();
+    const int textWidth = width() - m_padding * count();
     QFont full = font();
     full.setStretch(QFont::AnyStretch);
-    const QFont type = narrowedFont(full, captions, room);
-    if (type.stretch() != font().stretch())
-        setFont(type);
+    const QFont narrowed = narrowedFont(full, captions, textWidth);
+    if (narrowed.stretch() != font().stretch())
+        setFont(narrowed);
 }

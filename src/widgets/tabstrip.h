@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// Tab strip whose click fires with each setting of the tab, the tab that already shows included.
-// Its captions are narrowed where there is no room for them all.
+// Tab bar that also reports tabs set by code.
 #pragma once
 
 #include <QTabBar>
 
+/// Narrows the font of its captions if they do not fit into its width.
 class TabStrip : public QTabBar
 {
     Q_OBJECT
@@ -12,18 +12,20 @@ class TabStrip : public QTabBar
 public:
     explicit TabStrip(QWidget *parent = nullptr);
 
+    /// Returns the current tab, counted from 0.
     int tab() const { return currentIndex(); }
 
-    /// Shows a tab and emits clicked() inside the call.
+    /// Makes a tab current. Emits clicked() before returning, even if the tab was current already.
     void setTab(int tab);
 
 signals:
-    void clicked(); ///< a tab was set, by hand or by the program
+    /// Emitted when the user changes the tab and by setTab().
+    void clicked();
 
 protected:
     void tabLayoutChange() override;
 
 private:
-    int m_padding = -1;     ///< around each caption, once it is known
-    bool m_fitting = false; ///< the type is being narrowed, which lays the tabs out again
+    int m_padding = -1;     ///< width of a tab without its caption; -1 until it is measured
+    bool m_fitting = false; ///< true while setFont() updates the layout again
 };

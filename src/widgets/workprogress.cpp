@@ -3,9 +3,10 @@
 
 WorkProgress::WorkProgress(QWidget *parent) : QProgressBar(parent)
 {
-    QSizePolicy keepsItsPlace = sizePolicy();
-    keepsItsPlace.setRetainSizeWhenHidden(true); // or showing it would wait for a layout
-    setSizePolicy(keepsItsPlace);
+    // Showing the bar must not change the layout: that would need the event loop.
+    QSizePolicy policy = sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    setSizePolicy(policy);
     hide();
 }
 
@@ -14,19 +15,19 @@ void WorkProgress::start(int maximum)
     setRange(0, maximum);
     setValue(0);
     m_steps = 0;
-    m_unseen.start();
+    m_sincePaint.start();
 }
 
 void WorkProgress::step()
 {
-    constexpr qint64 SightMsecs = 40; // what passes sooner is not seen
+    constexpr qint64 PaintMsecs = 40; // more frequent changes cannot be seen
     if (m_steps == maximum())
         return;
     ++m_steps;
-    if (m_unseen.elapsed() >= SightMsecs) {
+    if (m_sincePaint.elapsed() >= PaintMsecs) {
         show();
-        setValue(m_steps); // paints
-        m_unseen.start();
+        setValue(m_steps); // repaints at once
+        m_sincePaint.start();
     } else if (m_steps == maximum()) {
         setValue(m_steps);
     }

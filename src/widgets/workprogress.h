@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The progress bar on the screen.
+// Progress bar widget.
 #pragma once
 
 #include "widgets/progressbar.h"
@@ -7,8 +7,8 @@
 #include <QElapsedTimer>
 #include <QProgressBar>
 
-/// Shows and paints itself from within the work, which takes no events; work that is done before
-/// a bar would be seen goes without.
+/// Shows and repaints itself in step(), since no events are processed during the work. Stays hidden
+/// if the work is done before the bar could be seen.
 class WorkProgress : public QProgressBar, public ProgressBar
 {
     Q_OBJECT
@@ -22,5 +22,5 @@ public:
 
 private:
     int m_steps = 0;
-    QElapsedTimer m_unseen; ///< since the start, or since the bar was painted last
+    QElapsedTimer m_sincePaint; ///< since start() or the last repaint
 };
