@@ -12,7 +12,7 @@ QStringList readHotNumbers()
 {
     QStringList numbers;
     RecordsetB.open(u" SELECT tblNumberFix.* FROM tblNumberFix ORDER BY PK"_s);
-    const qsizetype place = RecordsetB.place(u"Fnumber"_s);
+    const qsizetype place = RecordsetB.columnIndex(u"Fnumber"_s);
     for (; !RecordsetB.eof(); RecordsetB.moveNext())
         numbers += RecordsetB.field(place).toString();
     RecordsetB.close();

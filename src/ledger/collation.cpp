@@ -11,8 +11,8 @@ int compareAnyCase(QStringView left, QStringView right)
 
 namespace {
 
-/// The place of the first letter of @p text from @p at on; vowel and tone marks, which a list
-/// heeds last, are passed over.
+/// Returns the index of the first character from @p at on that is not a combining mark. Thai has
+/// vowels and tone marks of this kind.
 qsizetype skipMarks(QStringView text, qsizetype at)
 {
     while (at < text.size() && text[at].isMark())
@@ -25,9 +25,9 @@ bool isThai(QChar letter)
     return letter.script() == QChar::Script_Thai;
 }
 
-/// Thai letters stand before Latin ones, as in a Thai list. Left to itself, each desktop has its
-/// own way with the two, and one book would be listed in two orders. Gives 0 where the first
-/// difference is not one between the two.
+/// Sorts Thai letters before all others, as Thai lists do. QCollator alone sorts the scripts
+/// differently under Linux and Windows. Returns 0 if the first difference is not between a Thai
+/// letter and another one.
 int compareScripts(QStringView left, QStringView right)
 {
     for (qsizetype one = 0, other = 0;; ++one, ++other) {

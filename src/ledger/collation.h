@@ -1,17 +1,18 @@
 // SPDX-License-Identifier: MIT
-// How the Ledger compares texts. Statements name these collations, tables do not, so that a
-// stock tool of the engine can read and mend the file.
+// Collations of the Ledger. Only statements name them, never tables, so that SQLCipher's own shell
+// can read and repair the file.
 #pragma once
 
 #include <QStringView>
 
-/// Name of the collation for tests of equality: letters without regard to case.
+/// Name of the case-insensitive collation, which is for tests of equality.
 inline constexpr const char *AnyCaseCollation = "AnyCase";
 
-/// Name of the collation for lists of names: the order of a Thai dictionary, in which a leading
-/// vowel sorts behind its consonant.
+/// Name of the case-insensitive collation for lists of names. It has the order of a Thai
+/// dictionary, in which a leading vowel sorts after its consonant.
 inline constexpr const char *ThaiCollation = "ThaiOrder";
 
-/// Below, equal to or above 0 as @p left stands before, with or behind @p right.
+/// The comparisons of the two collations. They return a value less than, equal to or greater than 0
+/// if @p left sorts before, equal to or after @p right.
 int compareAnyCase(QStringView left, QStringView right);
 int compareThai(QStringView left, QStringView right);

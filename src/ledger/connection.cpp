@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The WAL lies beside the file that a link leads to.
+/// Resolves symbolic links: SQLite keeps the WAL beside the real file.
 QString realPath(const QString &path)
 {
     const QString real = QFileInfo(path).canonicalFilePath();
@@ -29,8 +29,9 @@ QString walOf(const QString &path)
     return path + u"-wal"_s;
 }
 
-/// The WAL and the folder have to be writable as well as the file. Permissions alone do not tell,
-/// so both are tried; the file itself may be in use and is only asked.
+/// Checks that the file, its WAL and its folder can be written. Permissions alone do not say so for
+/// sure. So this opens the WAL and makes a temporary file in the folder. For the file itself, which
+/// may be in use, it checks the permissions only.
 void refuseUnwritable(const QString &path)
 {
     QFile wal(walOf(path));
@@ -40,46 +41,46 @@ void refuseUnwritable(const QString &path)
         raiseDatabaseFailure(Refusal::ReadOnly);
 }
 
-/// What a killed program left in the WAL. A WAL that was written for another file is renamed, so
-/// that SQLite does not apply it.
+/// Returns what a killed program left in the WAL. Renames a WAL that was written for another file,
+/// so that SQLite does not apply it.
 WalContents leftWal(const QString &path, const QByteArray &password)
 {
     if (QFileInfo(walOf(path)).size() == 0)
         return {};
-    const Database held(path, Database::Access::Write);
-    held.lock(); // or another process could be writing the WAL
+    const Database locked(path, Database::Access::Write);
+    locked.lock(); // another process must not write the WAL meanwhile
     WalContents wal = readWal(walOf(path));
-    if (belongsTo(path, held.firstBytes(SaltSize), password, wal))
+    if (belongsTo(path, locked.firstBytes(SaltSize), password, wal))
         return wal;
-    setAside(walOf(path));
+    renameForeignWal(walOf(path));
     return {};
 }
 
-/// Looks for damage as deep as the start may take: a broken last page always, every page of a book
-/// of common size. Pages of a longer book are checked as they are read. Only after a crash the whole
-/// book is checked, indexes included.
+/// Refuses a damaged file. To keep the start fast, the pages of a long file are not checked here
+/// but as they are read; an incomplete last page is always found. After a crash (@p walApplied) the
+/// whole file is checked, and indexes that do not match their tables are rebuilt.
 void refuseDamaged(Database &file, WalKeeper &wal, const QString &path, bool walExisted,
                    bool walApplied)
 {
-    constexpr qint64 CheckedBytes = 4'000'000;
-    const auto answer = [&](const QString &pragma) { return file.run(pragma).rows[0][0]; };
-    const auto passes = [&](const QString &check) { return answer(check) == u"ok"_s; };
-    const qint64 pageSize = answer(u"PRAGMA page_size"_s).toLongLong();
+    constexpr qint64 MaxCheckedSize = 4'000'000;
+    const auto result = [&](const QString &pragma) { return file.run(pragma).rows[0][0]; };
+    const auto passes = [&](const QString &check) { return result(check) == u"ok"_s; };
+    const qint64 pageSize = result(u"PRAGMA page_size"_s).toLongLong();
     const auto isTorn = [&] { return QFile(path).size() % pageSize != 0; };
-    const bool isCommon = QFile(path).size() <= CheckedBytes;
+    const bool isShort = QFile(path).size() <= MaxCheckedSize;
     if (!walExisted && isTorn())
         raiseDatabaseFailure(Refusal::Damaged);
-    if (!walApplied && isCommon && !passes(u"PRAGMA quick_check(1)"_s))
+    if (!walApplied && isShort && !passes(u"PRAGMA quick_check(1)"_s))
         raiseDatabaseFailure(Refusal::Damaged);
     if (walApplied && !passes(u"PRAGMA integrity_check(1)"_s)) {
-        if (!passes(u"PRAGMA quick_check(1)"_s)) // does not compare indexes with their tables
+        if (!passes(u"PRAGMA quick_check(1)"_s)) // damage beyond mismatched indexes
             raiseDatabaseFailure(Refusal::Damaged);
         file.execute("REINDEX");
         if (!passes(u"PRAGMA integrity_check(1)"_s))
             raiseDatabaseFailure(Refusal::Damaged);
     }
-    // A checkpoint repairs a torn page that the WAL has. A WAL without it leaves the page torn, and
-    // the next start would refuse what this one took.
+    // A checkpoint repairs an incomplete last page if the WAL contains it. If not, the next start
+    // would refuse the file, so this one does too.
     if (isTorn())
         wal.moveIntoFile();
     if (isTorn())
@@ -88,7 +89,7 @@ void refuseDamaged(Database &file, WalKeeper &wal, const QString &path, bool wal
 
 } // namespace
 
-/// Where the open file is, for as long as nobody moves it.
+/// The paths of the open file and its WAL, and the ids of the files they led to when opened.
 struct Connection::Place
 {
     Place(const QString &givenPath, const QByteArray &key)
@@ -97,7 +98,7 @@ struct Connection::Place
           folder(QFile::encodeName(QFileInfo(realPath).path()))
     {}
 
-    /// To be called once SQLite has opened both.
+    /// Stores the ids. To be called once SQLite has opened both files.
     void remember()
     {
         file = fileIdAt(encodedPath).value_or(FileId{});
@@ -111,7 +112,7 @@ struct Connection::Place
     QByteArray encodedPath;
     QByteArray encodedWal;
     QByteArray folder;
-    FileId file; ///< all 0 while the file is being made
+    FileId file; ///< zeros if unknown or in a Connection of create(): not checked
     FileId wal;
     QFile::Permissions permissions;
 };
@@ -124,13 +125,12 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
 {
     if (!QFileInfo(path).isFile())
         raiseDatabaseFailure(Refusal::CannotOpen);
-    // SQLite would take an emptied file for a new one and delete the WAL beside it. One byte is
-    // empty to it as well.
+    // SQLite treats a file of 0 or 1 bytes as a new one and would delete the WAL beside it.
     if (QFile(path).size() <= 1)
         raiseDatabaseFailure(Refusal::NotALedger);
     auto place = std::make_unique<Place>(path, password);
     const QString real = place->realPath;
-    // SQLite would speak of a disk error where the file and its folder may only be read.
+    // For a read-only file or folder SQLite itself would report a disk error.
     refuseUnwritable(real);
     const WalContents left = leftWal(real, password);
     const bool walExists = QFile::exists(walOf(real));
@@ -138,21 +138,21 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
     Database &file = ledger->m_database;
     try {
         const QByteArray salt = left.firstImage.left(SaltSize);
-        const bool isSpoilt = !salt.isEmpty() && salt != file.firstBytes(SaltSize);
-        file.setKey(isSpoilt ? keyWithSalt(password, salt) : password);
+        const bool isSaltDamaged = !salt.isEmpty() && salt != file.firstBytes(SaltSize);
+        file.setKey(isSaltDamaged ? keyWithSalt(password, salt) : password);
         file.configure();
-        // SQLite takes an empty file with any password, and a file that it may only read; both
-        // would fail later, in the middle of a ticket.
+        // SQLite opens a read-only file as well, and an empty one with any password. Both would
+        // fail only later, during the save of a ticket.
         if (file.isReadOnly())
             raiseDatabaseFailure(Refusal::ReadOnly);
         if (!isLedger(file))
             raiseDatabaseFailure(Refusal::NotALedger);
         auto wal = std::make_unique<WalKeeper>(file, left, password);
-        refuseDamaged(file, *wal, real, walExists, left.holdsPages);
+        refuseDamaged(file, *wal, real, walExists, left.hasPages);
         ledger->m_wal = std::move(wal);
         ledger->m_place->remember();
     } catch (const RunTimeError &) {
-        if (walExists) // a refused file stays untouched, and the program is about to end
+        if (walExists) // closing would move the WAL into the refused file
             file.leaveOpen();
         throw;
     }
@@ -163,7 +163,7 @@ std::unique_ptr<Connection> Connection::create(const QString &path, const QByteA
 {
     if (QFile::exists(path))
         raiseDatabaseFailure(u"file exists: "_s + path);
-    if (QFile::exists(walOf(path))) // SQLite would delete it, and a book may need it
+    if (QFile::exists(walOf(path))) // SQLite would delete it, with bets of a file that was moved
         raiseDatabaseFailure(u"WAL of a missing file exists: "_s + path);
     std::unique_ptr<Connection> fresh(
         new Connection(std::make_unique<Place>(path, password), Database::Access::Create));
@@ -175,7 +175,7 @@ std::unique_ptr<Connection> Connection::create(const QString &path, const QByteA
 Connection::~Connection()
 {
     if (m_lost || !isInPlace())
-        m_database.leaveOpen(); // what lies at the WAL's path may be another file's
+        m_database.leaveOpen(); // the WAL at the path may belong to another file
     else if (m_wal)
         resumeNext([this] { m_wal->prepareToClose(); });
 }
@@ -190,8 +190,8 @@ ResultRows Connection::run(const QString &sql, const QVariantList &values)
     return result;
 }
 
-/// Raises once the folder turned read-only. SQLite holds its WAL open and would write on, but could
-/// not remove it at the end, and the next start would be refused. Cheap enough for each row.
+/// Raises if the folder has become read-only. SQLite could still write to the open WAL, but could
+/// not delete it on closing, and the next start would be refused.
 void Connection::prepareToWrite()
 {
     if (m_lost)
@@ -209,9 +209,9 @@ void Connection::moveWalIntoFile()
     m_wal->moveIntoFile();
 }
 
-void Connection::setMostWalPages(int pages)
+void Connection::setMaxWalPages(int pages)
 {
-    m_wal->setMostPages(pages);
+    m_wal->setMaxPages(pages);
 }
 
 bool Connection::isInPlace() const
@@ -229,12 +229,12 @@ void Connection::requireOwnFile()
     if (leadsTo(m_place->encodedPath, m_place->file)) // only the WAL is gone
         resumeNext([this] { m_wal->moveIntoFile(); });
     const QString name = QFileInfo(m_place->path).fileName();
-    QString words = u"ไฟล์ %1 ถูกลบหรือถูกแทนที่ขณะโปรแกรมเปิดอยู่ "_s.arg(name);
+    QString message = u"ไฟล์ %1 ถูกลบหรือถูกแทนที่ขณะโปรแกรมเปิดอยู่ "_s.arg(name);
     try {
-        words += u"ข้อมูลทั้งหมดเก็บไว้ในไฟล์ "_s
-                 + rescue(m_database, m_place->path, m_place->password, m_place->permissions);
+        message += u"ข้อมูลทั้งหมดเก็บไว้ในไฟล์ "_s
+                   + rescue(m_database, m_place->path, m_place->password, m_place->permissions);
     } catch (const RunTimeError &error) {
-        words += u"และเก็บข้อมูลไว้ไม่ได้ : "_s + error.description();
+        message += u"และเก็บข้อมูลไว้ไม่ได้ : "_s + error.description();
     }
-    throw FatalError(RunTimeError::DatabaseFailure, words);
+    throw FatalError(RunTimeError::DatabaseFailure, message);
 }

@@ -9,46 +9,54 @@
 
 class WalKeeper;
 
+/// The password of all Ledgers. It is in the source, so it keeps nothing secret.
 inline constexpr const char *LedgerPassword = "639417";
 
-/// An object that exists is an open, working Ledger. Every member raises RunTimeError
-/// DatabaseFailure with SQLite's words when SQLite fails.
+/// Exists only while the Ledger is open and usable: open() and create() raise otherwise. All
+/// members raise RunTimeError DatabaseFailure with SQLite's error message if SQLite fails.
 ///
-/// Before and after each statement that writes, and before the file is closed, the path still has to
-/// lead to the open file. If it does not, what the open file holds is written to a new one beside
-/// it, and FatalError says so.
+/// The file or its WAL may be deleted or replaced while it is open. This is checked before and
+/// after each statement that writes, and by requireOwnFile(). If it has happened, all data is
+/// written to a new file, see rescue(), and FatalError is raised with its path.
 class Connection
 {
 public:
-    /// Opens an existing Ledger for this process alone. Never creates or alters a file: one that
-    /// is missing, empty, foreign, damaged, wrongly keyed or not writable is refused. A WAL of
-    /// another file is renamed.
+    /// Opens an existing Ledger for this process alone. Raises if the file is missing, empty, not a
+    /// Ledger, damaged, encrypted with another password, not writable or in use.
+    ///
+    /// Never creates a Ledger and changes no rows, but does write: a temporary file beside the
+    /// Ledger probes whether the folder is writable, and SQLite creates the WAL. A WAL of another
+    /// file is renamed; to recognise one, copies of its first page are read from temporary files.
+    /// After a crash, damaged indexes are rebuilt, and the WAL is checkpointed if the file has an
+    /// incomplete last page.
     static std::unique_ptr<Connection> open(const QString &path,
                                             const QByteArray &password = LedgerPassword);
 
-    /// Makes a new, empty, encrypted database file for the maker of the empty Ledger. Raises
-    /// when a file of that name exists.
+    /// Creates an encrypted database file without tables, for makeEmptyLedger(). Raises if the file
+    /// or its WAL exists.
     static std::unique_ptr<Connection> create(const QString &path,
                                               const QByteArray &password = LedgerPassword);
 
-    /// Closes the file. Errors are passed over: what is not moved into the file stays in the WAL.
+    /// Closes the file. Errors are ignored: the WAL keeps what could not be moved into the file. A
+    /// file that was deleted or replaced is left open, see Database::leaveOpen().
     ~Connection();
     Q_DISABLE_COPY_MOVE(Connection)
 
-    /// Runs a statement with @p values bound to its question marks; gives what it reads.
-    /// Booleans of the tables are -1 and 0. Numbers come back as qlonglong or double, texts as
-    /// QString, NULL as an invalid QVariant.
+    /// Runs a statement with @p values bound to its placeholders and returns the rows it reads. A
+    /// bool is stored as -1 or 0. Numbers are returned as qlonglong or double, texts as QString,
+    /// NULL as an invalid QVariant.
     ResultRows run(const QString &sql, const QVariantList &values = {});
 
-    /// Moves the WAL into the file, where deleted rows are overwritten only then.
+    /// Moves the WAL into the file. Only this overwrites deleted rows in the file.
     void moveWalIntoFile();
 
-    /// Raises FatalError if the path leads to another file by now. To be called before closing.
+    /// Raises FatalError if the file or its WAL was deleted or replaced, unless that was reported
+    /// before. To be called before closing.
     void requireOwnFile();
 
-    /// Has the WAL be moved into the file when it has @p pages. Only tests set another number than
-    /// the default.
-    void setMostWalPages(int pages);
+    /// Sets the number of pages from which on the WAL is moved into the file before the next
+    /// statement. Only tests change the default.
+    void setMaxWalPages(int pages);
 
 private:
     struct Place;
@@ -60,6 +68,6 @@ private:
 
     std::unique_ptr<Place> m_place;
     Database m_database;
-    std::unique_ptr<WalKeeper> m_wal; ///< none while the file is being made
-    bool m_lost = false;              ///< and reported
+    std::unique_ptr<WalKeeper> m_wal; ///< null in a Connection of create()
+    bool m_lost = false;              ///< true once requireOwnFile() has raised FatalError
 };

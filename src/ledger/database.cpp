@@ -68,7 +68,7 @@ int flagsFor(Database::Access access)
         return SQLITE_OPEN_READWRITE;
     case Database::Access::Create:
         return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    case Database::Access::ReadAlone:
+    case Database::Access::Immutable:
         break;
     }
     return SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
@@ -76,7 +76,7 @@ int flagsFor(Database::Access access)
 
 QByteArray nameFor(const QString &path, Database::Access access)
 {
-    if (access != Database::Access::ReadAlone)
+    if (access != Database::Access::Immutable)
         return path.toUtf8();
     const QByteArray begin = path.startsWith(u'/') ? "file://" : "file:///"; // C:/ on Windows
     return begin + path.toUtf8().toPercentEncoding("/:") + "?immutable=1";
@@ -84,9 +84,9 @@ QByteArray nameFor(const QString &path, Database::Access access)
 
 } // namespace
 
-void raiseDatabaseFailure(const QString &words)
+void raiseDatabaseFailure(const QString &message)
 {
-    throw RunTimeError(RunTimeError::DatabaseFailure, words);
+    throw RunTimeError(RunTimeError::DatabaseFailure, message);
 }
 
 void raiseDatabaseFailure(Refusal reason)
@@ -97,7 +97,7 @@ void raiseDatabaseFailure(Refusal reason)
 
 Database::Database(const QString &path, Access access)
 {
-    // One thread works on it, so no call needs to lock.
+    // SQLITE_NOMUTEX, since the program has one thread.
     const int code = sqlite3_open_v2(nameFor(path, access).constData(), &m_handle,
                                      flagsFor(access) | SQLITE_OPEN_NOMUTEX, nullptr);
     auto closed = qScopeGuard([this] { sqlite3_close(m_handle); });
@@ -138,7 +138,8 @@ void Database::lock() const
 
 QByteArray Database::firstBytes(qsizetype count) const
 {
-    // Through SQLite, since its locks would go if the file were opened and closed once more here.
+    // Read through SQLite: on POSIX, closing a second descriptor of the file would drop SQLite's
+    // locks.
     sqlite3_file *file = nullptr;
     QByteArray bytes(count, '\0');
     if (sqlite3_file_control(m_handle, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK
@@ -150,7 +151,7 @@ QByteArray Database::firstBytes(qsizetype count) const
 void Database::setKey(const QByteArray &key) const
 {
     check(sqlite3_key(m_handle, key.constData(), int(key.size())));
-    // Newer versions default to another file format; this one is read everywhere.
+    // The format of SQLCipher 3, which newer versions read too but do not use by default.
     execute("PRAGMA cipher_compatibility = 3");
 }
 
@@ -164,13 +165,13 @@ void Database::configure()
         *static_cast<int *>(pages) = count;
         return SQLITE_OK;
     };
-    sqlite3_wal_hook(m_handle, countPages, &m_walPages); // in place of SQLite's own checkpoints
-    // Exclusive from the first read on, so no file for shared memory is needed beside it.
+    sqlite3_wal_hook(m_handle, countPages, &m_walPages); // replaces SQLite's automatic checkpoints
+    // Locks the file from the first read on, so that SQLite needs no shared memory file (-shm).
     execute("PRAGMA locking_mode = EXCLUSIVE");
     execute("PRAGMA synchronous = FULL");
     execute("PRAGMA secure_delete = ON");
-    // Room for the lines of a big book, so that boards need not decrypt them again and again.
-    // Only a book of that size fills it.
+    // 32 MB hold the bet lines of a large book, so that boards need not decrypt them each time.
+    // Memory is used only as far as the cache fills.
     execute("PRAGMA cache_size = -32000");
 }
 
@@ -210,7 +211,7 @@ void Database::execute(const QByteArray &sql) const
 
 std::optional<qint32> Database::firstPageVersion() const
 {
-    // Has SQLite accept a first page that counts more pages than the file has.
+    // With writable_schema SQLite accepts a first page whose page count exceeds the file.
     execute("PRAGMA writable_schema = ON");
     sqlite3_stmt *statement = nullptr;
     int code = sqlite3_prepare_v2(m_handle, "PRAGMA user_version", -1, &statement, nullptr);
@@ -249,15 +250,15 @@ bool Database::isReadOnly() const
 void Database::leaveOpen()
 {
     finalizeAll();
-    // Never destroyed, so that what is left open stays known to the end of the process.
+    // Never destroyed: the handles stay reachable, so they do not count as leaks.
     static auto &leftOpen = *new QList<sqlite3 *>;
     leftOpen.append(std::exchange(m_handle, nullptr));
 }
 
 sqlite3_stmt *Database::prepare(const QString &sql)
 {
-    constexpr qsizetype MostPrepared = 200; // few statements have a text that varies
-    if (m_prepared.size() >= MostPrepared && !m_prepared.contains(sql))
+    constexpr qsizetype MaxPrepared = 200; // only statements with a varying text reach it
+    if (m_prepared.size() >= MaxPrepared && !m_prepared.contains(sql))
         finalizeAll();
     sqlite3_stmt *&statement = m_prepared[sql];
     if (!statement) {
@@ -265,7 +266,7 @@ sqlite3_stmt *Database::prepare(const QString &sql)
         const char *rest = nullptr;
         check(sqlite3_prepare_v2(m_handle, text.constData(), int(text.size()) + 1, &statement,
                                  &rest));
-        if (*rest != '\0') { // a text spliced in must never smuggle in a second statement
+        if (*rest != '\0') { // an inserted text must not add a second statement
             sqlite3_finalize(m_prepared.take(sql));
             raiseDatabaseFailure(QString::fromUtf8(sqlite3_errstr(SQLITE_ERROR)));
         }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// An encrypted SQLite file and its prepared statements. What makes a file a Ledger, and when one is
-// refused, is the Connection's business.
+// Wrapper of SQLite: an encrypted file and its prepared statements. Connection decides which files
+// are opened.
 #pragma once
 
 #include <QHash>
@@ -12,69 +12,83 @@
 struct sqlite3;
 struct sqlite3_stmt;
 
-/// What a reading statement brought: column names as the statement gives them, and its rows.
+/// The result of a statement: its column names as SQLite returns them, and its rows.
 struct ResultRows
 {
     QStringList columns;
     QList<QVariantList> rows;
 };
 
-/// Reasons for which the program itself refuses a file, in SQLite's words.
+/// Why the program refuses a file that SQLite itself may accept.
 enum class Refusal { CannotOpen, ReadOnly, NotALedger, Damaged };
 
-[[noreturn]] void raiseDatabaseFailure(const QString &words);
+/// Raises RunTimeError DatabaseFailure with a message, or with SQLite's message for a Refusal.
+[[noreturn]] void raiseDatabaseFailure(const QString &message);
 [[noreturn]] void raiseDatabaseFailure(Refusal reason);
 
-/// Every member raises RunTimeError DatabaseFailure with SQLite's words when SQLite fails.
+/// All members raise RunTimeError DatabaseFailure with SQLite's error message if SQLite fails,
+/// except where they say otherwise.
 class Database
 {
 public:
     enum class Access {
         Write,
         Create,
-        ReadAlone, ///< the file as it is, without its WAL; takes no lock
+        Immutable, ///< read-only, without the WAL and without a lock
     };
 
-    /// Opens the file, without reading anything.
+    /// Opens the file. Does not read from it.
     Database(const QString &path, Access access);
     ~Database();
     Q_DISABLE_COPY_MOVE(Database)
 
-    /// Keeps other processes off the file. For a Database that is never given a key.
+    /// Locks the file against other processes until this object is destroyed. Bypasses SQLite's own
+    /// locking, so no statement may run on this object.
     void lock() const;
 
-    /// What the file begins with, as it is encrypted; empty if it cannot be read.
+    /// Returns the first bytes of the file, not decrypted, or an empty array if they cannot be
+    /// read.
     QByteArray firstBytes(qsizetype count) const;
 
+    /// Sets the password, or the key in the form of keyWithSalt(). To be called before all
+    /// statements. A wrong one makes the first statement that reads the file raise.
     void setKey(const QByteArray &key) const;
 
-    /// Has this process use the file alone, each statement durable when it returns.
+    /// Adds the collations and sets up exclusive use of the file, with statements that are durable
+    /// when they return and deleted rows that are overwritten.
     void configure();
 
-    /// Runs a statement with @p values bound to its question marks; gives what it reads.
+    /// Runs a statement with @p values bound to its placeholders and returns the rows it reads. The
+    /// prepared statement is kept for the next call.
     ResultRows run(const QString &sql, const QVariantList &values = {});
+
+    /// Returns true if a statement does not write to the file.
     bool onlyReads(const QString &sql);
+
+    /// Runs statements without values and without a result.
     void execute(const QByteArray &sql) const;
 
-    /// PRAGMA user_version of a file read alone, of which only the first page need be there;
-    /// nothing if that cannot be decrypted.
+    /// Returns PRAGMA user_version of a file opened as Immutable, which need not have more than its
+    /// first page; std::nullopt if that page cannot be decrypted.
     std::optional<qint32> firstPageVersion() const;
 
-    /// Moves the WAL into the file. Writing goes on at its beginning, which is faster while the WAL
-    /// keeps its length.
     enum class WalLength { Keep, Truncate };
+
+    /// Moves the WAL into the file. The next statement writes to the beginning of the WAL, which is
+    /// faster if the WAL keeps its length.
     void checkpoint(WalLength length) const;
 
-    /// Pages in the WAL as of the last statement.
+    /// Returns the number of pages in the WAL after the last statement that wrote.
     int walPages() const { return m_walPages; }
 
-    /// Writes all that this file holds to the empty file @p target.
+    /// Copies all data to the empty file @p target.
     void copyTo(Database &target) const;
 
+    /// Returns true if SQLite could open the file only for reading.
     bool isReadOnly() const;
 
-    /// Has the file stay open, WAL and all, to the end of the process. Closing would move the WAL
-    /// into the file and delete what lies at the WAL's path.
+    /// Keeps the file and its WAL open until the process ends; this object cannot be used any more.
+    /// Closing would move the WAL into the file and delete the file at the WAL's path.
     void leaveOpen();
 
 private:

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: MIT
-# Creates the empty Ledger LEDGER with the command MAKER unless it exists. Renames it when it is
-# complete, so that an interrupted build leaves no partial file.
+# Creates the empty Ledger LEDGER with the command MAKER unless it exists. The file is renamed when
+# it is complete, so that an interrupted build leaves no partial Ledger.
 if(NOT EXISTS "${LEDGER}")
-    if(EXISTS "${LEDGER}-wal") # has the latest bets of a book that was moved away
+    if(EXISTS "${LEDGER}-wal") # has the latest bets of a Ledger that was moved away
         message(FATAL_ERROR "${LEDGER} is missing, but its WAL exists: move both away or back")
     endif()
     file(REMOVE "${LEDGER}.new" "${LEDGER}.new-wal")

@@ -10,9 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Boards, scans and spelling searches read by class and number, the lists of buyers by customer.
-// Whose line it is stands in the index as well, so that the lines behind a number are listed
-// without looking up each in the table.
+// Boards, scans and spelling searches read by class and number, lists of buyers by customer. The
+// first index also has the customer and the user, so that the lines of a number are listed without
+// reading the table.
 constexpr std::array Indexes{
     "CREATE INDEX %1_class ON %1 (num23, updown, numType, numValue, numBuy, NameFK, nuser)",
     "CREATE INDEX %1_buyer ON %1 (NameFK)",

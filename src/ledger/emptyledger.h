@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-// The program works on a ready-made Ledger. Only make-empty-ledger, a program of the build, and tests
-// make one.
+// Creates an empty Ledger. The program itself never does: only make-empty-ledger, which runs during
+// the build, and tests use this.
 #pragma once
 
 #include <QString>
 
-/// Makes an empty Ledger at @p path: eight tables, default rates, the customer "-". Raises
-/// RunTimeError when the file exists or cannot be written.
+/// Creates a Ledger at @p path with eight tables, default rates and the customer "-". Raises
+/// RunTimeError if the file or its WAL exists, or if it cannot be written.
 void makeEmptyLedger(const QString &path);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The Ledger as all forms share it: the one connection, the two working slots, and the helpers
-// that every room uses.
+// The Ledger as all forms share it: the connection, two recordsets, and functions that several
+// folders need.
 #pragma once
 
 #include "ledger/recordset.h"
@@ -9,35 +9,36 @@
 
 #include <memory>
 
-/// Open from ConnectLedger() to CloseLedger(); no form opens one of its own.
+/// The only connection; null before ConnectLedger() and after CloseLedger().
 extern std::unique_ptr<Connection> LedgerConnection;
 
-/// The two working slots. A procedure that holds one must not call another that reuses it.
-/// RecordsetB is for what is asked while RecordsetA is held: next keys, names, hot numbers.
+/// Recordsets for all statements. A function that uses one must not call a function that opens the
+/// same one. RecordsetB is for lookups while RecordsetA is open: next keys, names, hot numbers.
 extern Recordset RecordsetA;
 extern Recordset RecordsetB;
 
-/// Who keys, written to each bet line; set at start and never changed after.
+/// Name of the user, written to each bet line. Set once at the start.
 extern QString CurrentUser;
 
-/// Opens data/ztkdata.ZDB below the program's folder. On failure shows SQLite's words and
-/// ends the program with status 1.
+/// Opens data/ztkdata.ZDB in the program's folder. If that fails, shows a box with the error
+/// message and ends the program with status 1.
 void ConnectLedger();
 
-/// Closes the Ledger if it is open. A clean end leaves one file and nothing beside it. Ends the
-/// program with the report if the file was deleted or replaced while it was open.
+/// Closes the Ledger if it is open, which removes the WAL. If the file was deleted or replaced
+/// while it was open, shows a box that says so and ends the program with status 1.
 void CloseLedger();
 
-/// The largest @p key of @p table plus 1, or 1 on an empty table. Asked anew before each row,
-/// so no counter in the file can be wrong.
+/// Returns the largest @p key of @p table plus 1, or 1 if the table is empty. To be called for each
+/// new row: the program stores no counter, which could be wrong. Uses RecordsetB.
 qint32 nextKey(const QString &table, const QString &key);
 
-/// Texts of @p display for a combo, one of each row of @p table in the order of @p order; a null
-/// is an empty entry.
+/// Returns the entries of a combo box: the texts of column @p display in all rows of @p table,
+/// sorted by @p order. NULL becomes an empty entry. Uses RecordsetB.
 QStringList FillCombo(const QString &table, const QString &order, const QString &display);
 
-/// Key of the row whose @p textColumn is the text of a combo, blanks around it left out, letters
-/// without regard to case. "-" and "" are key 0, no customer. A text that is not in the table is
-/// added to it with the next key. A key above 32,767 raises "Overflow".
+/// Returns the @p key of the row of @p table whose @p textColumn equals the text of a combo box.
+/// The comparison is case-insensitive and ignores blanks around @p comboText. "-" and "" return 0,
+/// which means no customer. A text that is not found is added unchanged, with the next key. Raises
+/// "Overflow" if the key is above 32,767. Uses RecordsetB.
 qint16 LookupKey(const QString &comboText, const QString &table, const QString &key,
                  const QString &textColumn);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Program of the build: makes the empty Ledger that ships beside the program. It links only
-// desk_core, the proof that the logic stands without windows.
+// Build tool that creates the empty Ledger shipped with the program. It links only desk_core, which
+// shows that desk_core does not need QtWidgets.
 #include "ledger/emptyledger.h"
 #include "runtime/runtimeerror.h"
 

@@ -44,7 +44,7 @@ void Recordset::openRow(const QString &table, const QString &key, const QVariant
     m_editValue = value;
 }
 
-qsizetype Recordset::place(const QString &column) const
+qsizetype Recordset::columnIndex(const QString &column) const
 {
     const auto found =
         std::find_if(m_read.columns.begin(), m_read.columns.end(), [&](const QString &name) {
@@ -55,16 +55,16 @@ qsizetype Recordset::place(const QString &column) const
     return found - m_read.columns.begin();
 }
 
-const QVariant &Recordset::field(qsizetype place) const
+const QVariant &Recordset::field(qsizetype index) const
 {
     if (eof())
         raiseNoCurrentRow();
-    return m_read.rows.at(m_current).at(place);
+    return m_read.rows.at(m_current).at(index);
 }
 
 QVariant Recordset::field(const QString &column) const
 {
-    return field(place(column));
+    return field(columnIndex(column));
 }
 
 QList<QVariantList> Recordset::takeRows()

@@ -1,56 +1,59 @@
 // SPDX-License-Identifier: MIT
-// Working slots for statements: a recordset holds the rows that a statement read, or the row
-// that is being added to a table.
+// Rows read by a statement, or a row that is being added or edited.
 #pragma once
 
 #include "ledger/connection.h"
 
 #include <memory>
 
-/// One slot. Opening it again drops what it held. All operations raise RunTimeError DatabaseFailure
-/// when SQLite fails.
+/// Opening a recordset again discards its content. All members raise RunTimeError DatabaseFailure
+/// if SQLite fails.
 class Recordset
 {
 public:
-    /// Works on what @p connection points to when an operation is called; it may change meanwhile.
+    /// Refers to the variable @p connection, which may be set later and must be set when a
+    /// statement runs.
     explicit Recordset(const std::unique_ptr<Connection> &connection) : m_connection(&connection) {}
 
-    /// Runs a reading statement; the first of its rows becomes the current one.
+    /// Runs a statement that reads. The first row becomes the current one.
     void open(const QString &sql, const QVariantList &values = {});
 
-    /// Starts a new row of @p table, none of whose rows are read.
+    /// Starts a new row of @p table. Reads nothing.
     void openTable(const QString &table);
 
-    /// Readies the slot for editing the row of @p table whose @p key is @p value: each column that
-    /// set() names is changed by update(). Raises DatabaseFailure "no current row" without one.
+    /// Starts editing the row of @p table whose @p key is @p value: update() changes the columns
+    /// that set() names. Raises DatabaseFailure "no current row" if there is no such row.
     void openRow(const QString &table, const QString &key, const QVariant &value);
 
-    /// Number of rows read.
+    /// Returns the number of rows read.
     int recordCount() const { return int(m_read.rows.size()); }
 
-    /// True once no current row is left.
+    /// Returns true if there is no current row: after the last one, or if no rows were read.
     bool eof() const { return m_current >= recordCount(); }
 
     void moveNext() { ++m_current; }
 
-    /// Value of a column in the current row; column names go without regard to case. Raises
-    /// DatabaseFailure without a current row or such a column.
+    /// Returns the value of a column in the current row. Column names are case-insensitive. Raises
+    /// DatabaseFailure if there is no current row or no such column.
     QVariant field(const QString &column) const;
 
-    /// Place of a column among those read, and its value in the current row: for long lists.
-    qsizetype place(const QString &column) const;
-    const QVariant &field(qsizetype place) const;
+    /// Returns the index of a column, for field(index). Raises DatabaseFailure if there is no such
+    /// column.
+    qsizetype columnIndex(const QString &column) const;
 
-    /// The rows read, for a list that keeps them. Lets go of everything.
+    /// As field(column), but faster: for long lists.
+    const QVariant &field(qsizetype index) const;
+
+    /// Returns all rows read and closes the recordset.
     QList<QVariantList> takeRows();
 
-    /// Sets one column of the row begun or opened for editing.
+    /// Sets a column of the row started by openTable() or openRow().
     void set(const QString &column, const QVariant &value);
 
     /// Writes the row. It is durable when this returns.
     void update();
 
-    /// Lets go of everything.
+    /// Discards all content.
     void close() { *this = Recordset(*m_connection); }
 
 private:
@@ -60,7 +63,7 @@ private:
     ResultRows m_read;
     int m_current = 0;
     QString m_table;
-    QString m_editKey; ///< column that names the row being edited; empty while one is added
+    QString m_editKey; ///< key column of the row being edited; empty for a new row
     QVariant m_editValue;
     QStringList m_columns;
     QVariantList m_values;

@@ -14,14 +14,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The name with the date in it that has @p number among those of the same second.
+/// Returns a file name with the date and time, and with @p number unless it is 1.
 QString datedName(const QString &begin, const QString &end, int number)
 {
     const QString date = currentDateTime().toString(u"yyyy-MM-dd-hhmmss"_s);
     return begin + date + (number == 1 ? QString() : u"-%1"_s.arg(number)) + end;
 }
 
-/// Makes an empty file of a name that is free.
+/// Creates an empty file with an unused name and returns its path.
 QString makeDated(const QString &begin, const QString &end, QFile::Permissions permissions)
 {
     for (int number = 1;; ++number) {
@@ -50,8 +50,7 @@ QString writeInto(const QString &folder, const Database &file, const QFileInfo &
         Database copy(path, Database::Access::Write);
         copy.setKey(password);
         copy.configure();
-        copy.execute(
-            "PRAGMA journal_mode = MEMORY"); // a copy that fails is removed, with nothing left
+        copy.execute("PRAGMA journal_mode = MEMORY"); // no second file that a failure would leave
         file.copyTo(copy);
     } catch (const RunTimeError &) {
         QFile::remove(path);
@@ -63,7 +62,7 @@ QString writeInto(const QString &folder, const Database &file, const QFileInfo &
 
 } // namespace
 
-void setAside(const QString &path)
+void renameForeignWal(const QString &path)
 {
     for (int number = 1;; ++number) {
         const QString aside = datedName(path + u"-of-another-file-"_s, {}, number);

@@ -1,17 +1,17 @@
 // SPDX-License-Identifier: MIT
-// What becomes of files that the program must neither use nor lose. They stay beside the Ledger,
-// under names that say what they are, with the date.
+// Keeps data that the program can no longer use but must not lose, in files whose names contain the
+// date and the reason.
 #pragma once
 
 #include <QFile>
 
 class Database;
 
-/// Renames the WAL at @p path, which is of another file. Raises RunTimeError if that fails.
-void setAside(const QString &path);
+/// Renames the WAL at @p path, which belongs to another file. Raises RunTimeError if that fails.
+void renameForeignWal(const QString &path);
 
-/// Writes all that @p file holds, whose path is lost, to a new Ledger beside @p path with the same
-/// @p password and @p permissions, or to a folder near by if it cannot be written there. Gives the
-/// new file's path; raises RunTimeError if there is no place to write to.
+/// Copies the data of @p file, which is open but no longer at @p path, to a new Ledger with the
+/// given @p password and @p permissions. The new file is beside @p path, or if that fails in the
+/// folder above, or in the home folder. Returns its path, or raises RunTimeError if all three fail.
 QString rescue(const Database &file, const QString &path, const QByteArray &password,
                QFile::Permissions permissions);

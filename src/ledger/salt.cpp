@@ -5,7 +5,7 @@
 
 namespace {
 
-/// The key that SQLCipher 3 derives from a password: PBKDF2 with HMAC-SHA1.
+/// Derives the key as SQLCipher 3 does: PBKDF2 with HMAC-SHA1.
 QByteArray derivedKey(const QByteArray &password, const QByteArray &salt)
 {
     constexpr int KeySize = 32;

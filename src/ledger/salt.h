@@ -1,15 +1,16 @@
 // SPDX-License-Identifier: MIT
-// The salt of the Ledger's key: the first bytes of the file, which nothing can be read without.
+// The salt of the encryption key, which is in the first bytes of the file.
 //
-// A power cut during a checkpoint can spoil the first page. All other pages come back from the WAL
-// by themselves, but SQLCipher takes the salt from the file alone. The WAL's copy of the first page
-// begins with it.
+// A power cut during a checkpoint can damage the first page. SQLite restores all pages from the
+// WAL, but SQLCipher reads the salt only from the file, and can decrypt nothing with a wrong one.
+// The salt is then taken from the copy of the first page in the WAL, which begins with it.
 #pragma once
 
 #include <QByteArray>
 
 inline constexpr qsizetype SaltSize = 16;
 
-/// The key that @p password makes with @p salt, with the salt behind it, as SQLCipher takes both in
-/// place of a password. A password that is a key already, x'...', is taken as that.
+/// Returns the key derived from @p password and @p salt, followed by the salt, in the form x'...'
+/// that SQLCipher accepts instead of a password. A password of the form x'...' is used as the key
+/// itself.
 QByteArray keyWithSalt(const QByteArray &password, const QByteArray &salt);

@@ -9,14 +9,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// A bet line: whole baht in numBuy; updown -1 is top, 0 bottom. Numbers are texts, since "012"
-// is not "12".
+// A bet line. numBuy is in whole baht; updown is -1 for top, 0 for bottom. Numbers are texts, since
+// "012" is not "12".
 constexpr const char *BetLineColumns =
     "NPK INTEGER PRIMARY KEY, NameFK INTEGER, num23 INTEGER, updown INTEGER, "
     "numType INTEGER, numValue TEXT, numBuy INTEGER, nuser TEXT";
 
 constexpr std::array Tables{
-    // No customer ever has an empty discount: those named only by a ticket get "0" too.
+    // The default of Mpercen is for customers added by saving a ticket, which sets no discount.
     LedgerTable{"tblMember", "MPK INTEGER PRIMARY KEY, Mname TEXT, Mber TEXT DEFAULT '', "
                              "Mpercen TEXT DEFAULT '0'"},
     LedgerTable{"tblNumber", BetLineColumns},

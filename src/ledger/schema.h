@@ -7,17 +7,17 @@
 
 class Database;
 
-/// Marks a file as a Ledger of this program, in PRAGMA application_id.
+/// PRAGMA application_id of a Ledger.
 inline constexpr int LedgerApplicationId = 0x4d444c31; // "MDL1"
 
-/// A column of a table and what it is declared as.
+/// A column of a table with its SQL declaration.
 struct TableColumn
 {
     const char *name;
     const char *declaration;
 };
 
-/// The payout rates in tblMoney, in the order of the classes of bets.
+/// The columns of the payout rates in tblMoney, in the order of the classes of bets.
 inline constexpr std::array RateColumns{
     TableColumn{"3up", "INTEGER DEFAULT 500"},  TableColumn{"3tod", "INTEGER DEFAULT 100"},
     TableColumn{"2up", "INTEGER DEFAULT 70"},   TableColumn{"2tod", "INTEGER DEFAULT 12"},
@@ -25,9 +25,9 @@ inline constexpr std::array RateColumns{
     TableColumn{"2down", "INTEGER DEFAULT 70"}, TableColumn{"rundown", "INTEGER DEFAULT 4"},
 };
 
-/// A result and its money in tblTrue and tblNumLog, the prizes first. moneyup is the agent's profit
-/// and moneydown the payout, whatever their names say. numdate is a day as "2026-11-22", which
-/// sorts by the calendar.
+/// The columns of tblTrue and tblNumLog: the prizes of a draw, its date and its money. moneyup is
+/// the agent's profit and moneydown the payout, despite their names. numdate has the form
+/// "2026-11-22", so that dates sort as texts.
 inline constexpr std::array ResultColumns{
     TableColumn{"num3up", "TEXT DEFAULT ''"},      TableColumn{"num3down1", "TEXT DEFAULT ''"},
     TableColumn{"num3down2", "TEXT DEFAULT ''"},   TableColumn{"num3down3", "TEXT DEFAULT ''"},
@@ -36,15 +36,16 @@ inline constexpr std::array ResultColumns{
     TableColumn{"moneydown", "NUMERIC DEFAULT 0"},
 };
 
+/// A table of the Ledger.
 struct LedgerTable
 {
     const char *name;
-    const char *columns;                      ///< as CREATE TABLE takes them
-    std::span<const TableColumn> listed = {}; ///< columns after those
+    const char *columns;                      ///< in the syntax of CREATE TABLE
+    std::span<const TableColumn> listed = {}; ///< further columns
 };
 
-/// The eight tables.
+/// Returns the eight tables of a Ledger.
 std::span<const LedgerTable> ledgerTables();
 
-/// True if the open file has the mark and the eight tables of a Ledger.
+/// Returns true if the open file has the application_id and the tables of a Ledger.
 bool isLedger(Database &file);

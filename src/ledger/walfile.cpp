@@ -8,7 +8,7 @@ namespace {
 
 constexpr qsizetype HeaderSize = 32;
 constexpr qsizetype FrameHeaderSize = 24;
-constexpr quint32 WalMark = 0x377f0682; ///< its last bit is the byte order of the checksums
+constexpr quint32 WalMagic = 0x377f0682; ///< the lowest bit is 1 for big-endian checksums
 constexpr quint32 SmallestPage = 512;
 constexpr quint32 LargestPage = 65'536;
 
@@ -17,7 +17,7 @@ quint32 wordAt(const QByteArray &bytes, qsizetype place)
     return qFromBigEndian<quint32>(bytes.constData() + place);
 }
 
-/// The running checksum that the WAL's header and each of its frames carry.
+/// The cumulative checksum in the WAL header and in the header of each frame.
 class Checksum
 {
 public:
@@ -31,7 +31,7 @@ public:
         }
     }
 
-    bool standsAt(const QByteArray &bytes, qsizetype place) const
+    bool isAt(const QByteArray &bytes, qsizetype place) const
     {
         return wordAt(bytes, place) == m_one && wordAt(bytes, place + 4) == m_two;
     }
@@ -55,12 +55,12 @@ WalContents readWal(const QString &path)
     if (!wal.open(QIODevice::ReadOnly))
         return {};
     const QByteArray header = wal.read(HeaderSize);
-    if (header.size() < HeaderSize || (wordAt(header, 0) & ~1U) != WalMark)
+    if (header.size() < HeaderSize || (wordAt(header, 0) & ~1U) != WalMagic)
         return {};
     Checksum sum((wordAt(header, 0) & 1U) != 0);
     sum.add(QByteArrayView(header).first(24));
     const quint32 pageSize = wordAt(header, 8);
-    if (!sum.standsAt(header, 24) || pageSize < SmallestPage || pageSize > LargestPage)
+    if (!sum.isAt(header, 24) || pageSize < SmallestPage || pageSize > LargestPage)
         return {};
     const qsizetype frameSize = FrameHeaderSize + qsizetype(pageSize);
     WalContents complete;
@@ -69,17 +69,17 @@ WalContents readWal(const QString &path)
          frame = wal.read(frameSize)) {
         sum.add(QByteArrayView(frame).first(8));
         sum.add(QByteArrayView(frame).sliced(FrameHeaderSize));
-        // Frames of an earlier round of the WAL stand behind those of this one.
-        const bool ofThisRound = frame.sliced(8, 8) == header.sliced(16, 8);
-        if (!ofThisRound || !sum.standsAt(frame, 16))
+        // A reused WAL may end with frames written before its last restart. Their salts differ.
+        const bool hasSaltOfHeader = frame.sliced(8, 8) == header.sliced(16, 8);
+        if (!hasSaltOfHeader || !sum.isAt(frame, 16))
             break;
-        read.holdsPages = true;
+        read.hasPages = true;
         if (wordAt(frame, 0) == 1) {
             read.lastImage = frame.sliced(FrameHeaderSize);
             if (read.firstImage.isEmpty())
                 read.firstImage = read.lastImage;
         }
-        if (wordAt(frame, 4) != 0) // ends a statement
+        if (wordAt(frame, 4) != 0) // a commit frame
             complete = read;
     }
     return complete;

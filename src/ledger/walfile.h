@@ -1,21 +1,20 @@
 // SPDX-License-Identifier: MIT
-// What a WAL file holds, read without SQLite: SQLite would take the WAL for that of the file
-// beside it, and that is still to be found out.
+// Reads a WAL without SQLite, which would apply it to the file beside it. Whether it belongs to
+// that file has to be known first.
 #pragma once
 
 #include <QByteArray>
 #include <QString>
 
-/// The complete statements of a WAL.
+/// The committed content of a WAL.
 struct WalContents
 {
-    bool holdsPages = false;
+    bool hasPages = false;
 
-    /// The file's first page, still encrypted, as the WAL has it first and last; empty where the
-    /// WAL does not have it.
+    /// The first and the last copy of page 1 in the WAL, still encrypted; empty if it has none.
     QByteArray firstImage;
     QByteArray lastImage;
 };
 
-/// Reads the WAL at @p path; no pages if there is none or it is damaged from the start.
+/// Reads the WAL at @p path. Returns no pages if there is no WAL or no complete statement in it.
 WalContents readWal(const QString &path);

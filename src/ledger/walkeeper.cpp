@@ -14,14 +14,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Returns the id of a file without its WAL.
 std::optional<qint32> idInFile(const QString &path, const QByteArray &password)
 {
-    const Database file(path, Database::Access::ReadAlone);
+    const Database file(path, Database::Access::Immutable);
     file.setKey(password);
     return file.firstPageVersion();
 }
 
-/// A first page is the beginning of a file, salt included, and is read as one.
+/// Returns the id in a copy of page 1. The page begins with the salt, so it can be opened as a
+/// file.
 std::optional<qint32> idInPage(const QByteArray &page, const QByteArray &password)
 {
     QTemporaryFile file;
@@ -37,7 +39,7 @@ std::optional<qint32> idInPage(const QByteArray &page, const QByteArray &passwor
 bool belongsTo(const QString &path, const QByteArray &salt, const QByteArray &password,
                const WalContents &wal)
 {
-    if (wal.firstImage.isEmpty()) // of a version that did not write ids
+    if (wal.firstImage.isEmpty()) // written by a version without ids
         return true;
     const auto id = idInFile(path, password);
     if (!id)
@@ -47,7 +49,7 @@ bool belongsTo(const QString &path, const QByteArray &salt, const QByteArray &pa
 }
 
 WalKeeper::WalKeeper(Database &file, const WalContents &left, const QByteArray &password)
-    : m_file(file), m_isEmpty(!left.holdsPages), m_hasFirstId(!left.firstImage.isEmpty()),
+    : m_file(file), m_isEmpty(!left.hasPages), m_hasFirstId(!left.firstImage.isEmpty()),
       m_hasNextId(left.firstImage != left.lastImage && idInPage(left.firstImage, password) != id())
 {}
 
@@ -84,7 +86,7 @@ void WalKeeper::startOver(Database::WalLength length)
 
 void WalKeeper::prepareToWrite()
 {
-    if (m_isOfSession && m_file.walPages() < m_mostPages)
+    if (m_isOfSession && m_file.walPages() < m_maxPages)
         return;
     startOver(Database::WalLength::Keep);
     writeId(id());

@@ -1,41 +1,44 @@
 // SPDX-License-Identifier: MIT
-// Which WAL belongs to which state of the file.
+// Recognises the file that a WAL belongs to.
 //
-// SQLite applies a WAL to whatever file lies beside it. A backup copy that was put beside the WAL
-// of a killed program would become a mixture of two states. So every state of the file that a WAL
-// starts from has a random id, in PRAGMA user_version. The WAL has that id in its first frame, and
-// in its last one the id that the file gets when the WAL is moved into it. A file that has neither
-// of the two is not the one that the WAL was written for.
+// SQLite applies a WAL to any file beside it. A backup restored beside the WAL of a killed program
+// would become a mixture of two states. So the file has a random id in PRAGMA user_version, which
+// changes with each checkpoint. The first frame of a WAL has the id of the file it was started for.
+// Before a checkpoint, the id that the file will have afterwards is appended to the WAL. A file
+// with neither id is not the one that the WAL belongs to.
 #pragma once
 
 #include "ledger/database.h"
 
 struct WalContents;
 
-/// True if @p wal was written for the file at @p path as it now is. A file whose first page a power
-/// cut spoilt counts as its file.
+/// Returns true if @p wal was written for the file at @p path in its present state, or if that
+/// cannot be determined: the WAL has no id, or a power cut has damaged the first page of the file.
+/// @p salt is read from the file.
 bool belongsTo(const QString &path, const QByteArray &salt, const QByteArray &password,
                const WalContents &wal);
 
-/// Writes the ids of an open file, and takes the place of SQLite's own checkpoints.
+/// Writes the ids of an open file and runs the checkpoints. SQLite's automatic ones would start a
+/// WAL without an id.
 class WalKeeper
 {
 public:
-    /// @p left is what the WAL held when the file was opened, @p password what it was opened with.
+    /// @p left is the content of the WAL before the file was opened with @p password.
     WalKeeper(Database &file, const WalContents &left, const QByteArray &password);
 
-    /// To be called before each statement that writes. Starts a new WAL before the first one, and
-    /// when the WAL has grown long.
+    /// To be called before each statement that writes. Moves the WAL into the file and starts a new
+    /// one before the first statement, and when the WAL has reached its maximum length.
     void prepareToWrite();
 
-    /// Moves the WAL into the file, which gets a new id, and empties it.
+    /// Moves the WAL into the file, which gets a new id, and truncates the WAL.
     void moveIntoFile();
 
-    /// To be called before the file is closed, which moves the WAL into it.
+    /// Appends the next id to the WAL. To be called before the file is closed, since SQLite then
+    /// moves the WAL into the file.
     void prepareToClose();
 
-    /// How many pages a WAL may have. Only tests set another number than the default.
-    void setMostPages(int pages) { m_mostPages = pages; }
+    /// Sets the maximum length of the WAL in pages. Only tests change the default.
+    void setMaxPages(int pages) { m_maxPages = pages; }
 
 private:
     qint32 id() const;
@@ -44,9 +47,9 @@ private:
     void startOver(Database::WalLength length);
 
     Database &m_file;
-    int m_mostPages = 1000;
+    int m_maxPages = 1000;
     bool m_isEmpty;
-    bool m_hasFirstId;          ///< its first page is that of the file it starts from
-    bool m_hasNextId;           ///< its last id is that of the file it will be moved into
-    bool m_isOfSession = false; ///< started by this process
+    bool m_hasFirstId;          ///< the WAL has the id of the file it was started for
+    bool m_hasNextId;           ///< the WAL ends with the id that the file will have
+    bool m_isOfSession = false; ///< the WAL was started by this object
 };

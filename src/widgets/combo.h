@@ -19,8 +19,8 @@ public:
     explicit Combo(QWidget *parent = nullptr);
 
     /// Key filter, called with the characterCode() of a key before the combo box handles it. The
-    /// key is discarded if the filter returns 0. Characters committed by an input method
-    /// are filtered too.
+    /// key is discarded if the filter returns 0. Characters committed by an input method are
+    /// filtered too.
     std::function<int(int code)> keyPress;
 
     /// Replaces the list and keeps the text. No entry is selected.

@@ -36,7 +36,7 @@ struct Outcome
                          endProgram(1);
                      }
                      try {
-                         LedgerConnection->setMostWalPages(20); // some WALs within the day
+                         LedgerConnection->setMaxWalPages(20); // some WALs within the day
                          day.perform([&] {
                              ++acknowledged;
                              done();

@@ -203,7 +203,7 @@ void FaultsTest::restoredCopyIsWhole()
         const ProgramFolder folder;
         const auto open = [&] {
             folder.open();
-            LedgerConnection->setMostWalPages(dice.bounded(10, 400)); // else there is one WAL
+            LedgerConnection->setMaxWalPages(dice.bounded(10, 400)); // else there is one WAL
         };
         const auto work = [&] {
             std::vector kinds(size_t(dice.bounded(1, 5)), Step::File);
