@@ -20,13 +20,7 @@ constexpr int OnlyChannel = 0;
 /// The sound device, shared by all controls.
 struct Device
 {
-    Device()
-    {
-        SDL_SetMainReady();
-        SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-        open = SDL_InitSubSystem(SDL_INIT_AUDIO) == 0
-               && Mix_OpenAudio(SamplesPerSecond, AUDIO_S16SYS, 1, BufferSamples) == 0;
-    }
+    Device() : open(start()) {}
     ~Device()
     {
         if (open)
@@ -35,7 +29,15 @@ struct Device
     }
     Q_DISABLE_COPY_MOVE(Device)
 
-    bool open = false;
+    static bool start()
+    {
+        SDL_SetMainReady();
+        SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+        return SDL_InitSubSystem(SDL_INIT_AUDIO) == 0
+               && Mix_OpenAudio(SamplesPerSecond, AUDIO_S16SYS, 1, BufferSamples) == 0;
+    }
+
+    const bool open;
 };
 
 /// Null until the device could be opened.

@@ -67,7 +67,7 @@ private:
     FocusTracker m_focus;
     Ticket m_ticket;
     MediaControl mmcAudio;
-    std::array<Spread *, ClassCount> m_spreads;
+    std::array<Spread *, ClassCount> m_spreads{};
     quint8 GridTouched = 0;  ///< 1 to 8: the grid that had the focus last; 0: none yet
     bool TnumberAway = true; ///< false while Tnumber has the focus
 };

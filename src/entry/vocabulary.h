@@ -12,9 +12,9 @@
 /// BetClasses.
 struct BetClass
 {
-    int num23;   ///< digits of the number
-    bool updown; ///< true = top (บน), false = bottom (ล่าง)
-    int numType; ///< 1 straight (ตรง), 2 tod (โต๊ด), 3 run (วิ่ง)
+    int num23 = 0;       ///< digits of the number
+    bool updown = false; ///< true = top (บน), false = bottom (ล่าง)
+    int numType = 0;     ///< 1 straight (ตรง), 2 tod (โต๊ด), 3 run (วิ่ง)
     QStringView caption;
 };
 

@@ -4,6 +4,9 @@
 
 #include "ledger/schema.h"
 
+#include <QString>
+
+#include <array>
 #include <optional>
 
 /// The eight rates in the order of RateColumns.

@@ -17,7 +17,7 @@ inline constexpr int FirstHeaderRow = -1000;
 /// Title and alignments of a column.
 struct GridColumn
 {
-    int column;
+    int column = 0;
     QStringView title;
     Qt::Alignment alignment = Qt::AlignHCenter;
     Qt::Alignment titleAlignment = alignment;
