@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
-// Prints the time in milliseconds when its first window has been painted, then its resident memory
-// in KiB, and ends. Usage: start_probe MODE FOLDER, where MODE is
+// Starts the program, prints the time of its first painted window, in milliseconds since 1970, and
+// its resident memory in KiB, and exits. Usage: start_probe MODE FOLDER. FOLDER is the program's
+// folder with the Ledger; MODE is
 //   program  the whole program;
-//   rest     the same, but reads the memory after two idle seconds;
-//   bare     the minimum: opens the Ledger and shows a window of the same size with one line of
-//            text, for which Qt loads the fonts and its rules for Thai words.
+//   rest     the same, but the memory is read two seconds after the first paint;
+//   bare     a minimal program to compare with: opens the Ledger and shows a window of the same
+//            size with one line of text. Like the whole program it makes Qt load the fonts and the
+//            dictionary that breaks Thai text into words.
 #include "desktop/application.h"
 #include "desktop/programfolder.h"
 #include "ledger/ledger.h"
@@ -21,9 +23,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void printClock()
+void printTime()
 {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch(); // same in all processes
+    // Not the steady clock: under Wine it is not the one that Linux programs read.
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
     std::printf("%.6f\n", std::chrono::duration<double, std::milli>(now).count());
 }
 
@@ -35,8 +38,8 @@ void printMemory()
     std::printf("%s\n", qPrintable(text.section(u"VmRSS:"_s, 1).section(u"kB"_s, 0, 0).trimmed()));
 }
 
-/// Prints time and memory after the first paint of a window, which includes all its widgets, and
-/// ends the program.
+/// Waits for the first paint event of any widget. When the window with all its widgets has been
+/// painted, prints the time. @p msecsAtRest later prints the memory and exits.
 class FirstPaint : public QObject
 {
 public:
@@ -51,7 +54,7 @@ protected:
         if (event->type() != QEvent::Paint || !object->isWidgetType())
             return false;
         qApp->removeEventFilter(this);
-        QTimer::singleShot(0, qApp, printClock);
+        QTimer::singleShot(0, qApp, printTime);
         QTimer::singleShot(m_msecsAtRest, qApp, [] {
             printMemory();
             Application::exit();

@@ -16,13 +16,14 @@ namespace {
 struct Start
 {
     double milliseconds; ///< from the start of the process to its first painted window
-    double megabytes;    ///< resident memory at the end
+    double megabytes;    ///< resident memory when start_probe exits
 };
 
-/// Returns the monotonic time in milliseconds, which is the same for all processes.
-double clockNow()
+/// Returns the milliseconds since 1970, as start_probe prints them. A steady clock cannot be used:
+/// under Wine it is CLOCK_MONOTONIC_RAW, which drifts from the CLOCK_MONOTONIC of Linux programs.
+double timeNow()
 {
-    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
     return std::chrono::duration<double, std::milli>(now).count();
 }
 
@@ -30,7 +31,7 @@ QProcessEnvironment probeEnvironment(const char *platform)
 {
     auto environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"QT_QPA_PLATFORM"_s, QLatin1String(platform));
-    environment.insert(u"TMPDIR"_s, programFolder()); // otherwise it would count as a second copy
+    environment.insert(u"TMPDIR"_s, programFolder()); // a lock file of its own
     return environment;
 }
 
@@ -40,12 +41,12 @@ void finish(QProcess &probe)
         qFatal("start_probe failed: %s", probe.readAllStandardError().constData());
 }
 
-/// Runs start_probe in the program's folder. For @p mode see startprobe.cpp.
+/// Runs start_probe with the program's folder. For @p mode see startprobe.cpp.
 Start startProbe(const char *platform, const QString &mode)
 {
     QProcess probe;
     probe.setProcessEnvironment(probeEnvironment(platform));
-    const double begin = clockNow();
+    const double begin = timeNow();
     probe.start(QCoreApplication::applicationDirPath() + u"/start_probe"_s,
                 {mode, programFolder()});
     finish(probe);
@@ -99,7 +100,7 @@ Measured measureStart(benchmark::State &state, const char *platform)
     const WorkFolder folder;
     Samples ours;
     Samples bare;
-    startProbe(platform, u"program"_s); // fills the disk cache for both
+    startProbe(platform, u"program"_s); // fills the page cache for both
     for ([[maybe_unused]] auto round : state) {
         ours.push_back(startProbe(platform, u"program"_s).milliseconds);
         bare.push_back(startProbe(platform, u"bare"_s).milliseconds);
@@ -129,12 +130,12 @@ Measured measureStartUnderWine(benchmark::State &state)
     const WorkFolder folder;
     copyShippedFonts();
     startUnderWine(); // creates the Wine prefix
-    // On Windows the desktop runs before a program starts. Wine ends its own with the last program,
-    // so keep one running.
-    QProcess desktop;
-    desktop.setProcessEnvironment(wineEnvironment());
-    desktop.start(QStringLiteral(WINE), {u"notepad"_s});
-    startUnderWine();
+    // On Windows the desktop runs before a program starts. Wine's desktop and services exit with
+    // the last program, so one program runs all the time.
+    QProcess keepAlive;
+    keepAlive.setProcessEnvironment(wineEnvironment());
+    keepAlive.start(QStringLiteral(WINE), {u"notepad"_s});
+    startUnderWine(); // not counted: the desktop may only now be starting
     Samples wine;
     Samples here;
     for ([[maybe_unused]] auto round : state) {
@@ -142,7 +143,7 @@ Measured measureStartUnderWine(benchmark::State &state)
         here.push_back(startProbe("xcb", u"program"_s).milliseconds);
         state.SetIterationTime(wine.back() / 1000);
     }
-    desktop.kill();
-    desktop.waitForFinished();
+    keepAlive.kill();
+    keepAlive.waitForFinished();
     return ratio(wine, here, "ms");
 }

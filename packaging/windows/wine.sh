@@ -63,9 +63,8 @@ if [[ -z ${DESK_SHIPPED-} ]]; then
     export WINEPATH
     export WINEQT_PLUGIN_PATH=$prefix/plugins${QT_PLUGIN_PATH:+;$QT_PLUGIN_PATH}
 fi
-# For measurements: the clock of this machine, in seconds, when Wine itself begins.
+# For measurements: the time just before Wine starts, in seconds since 1970.
 if [[ -n ${DESK_WINE_BEGIN-} ]]; then
-    read -r uptime _ </proc/uptime
-    echo "$uptime" >"$DESK_WINE_BEGIN"
+    echo "$EPOCHREALTIME" >"$DESK_WINE_BEGIN"
 fi
 exec "${plainly[@]}" wine "$@"
