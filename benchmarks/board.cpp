@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Measures the board: reloading and filtering it against the bare statements, and a cut with the
-// reload that follows it.
+// Measures the board: its reload and its filter against their bare statements, and a cut together
+// with the reload after it.
 #include "barefile.h"
 #include "drawlines.h"
 #include "figure.h"
@@ -98,8 +98,9 @@ public:
         return taken;
     }
 
-    /// Cuts one baht from a line in @p row of a board. Returns the seconds from the confirmation to
-    /// the reloaded board; @p allDone gets those to the closed dialog and the painted page.
+    /// Cuts one baht from a line behind row @p row of a board. Returns the seconds from Enter in
+    /// the dialog to the reloaded board. Sets @p allDone to the seconds from that Enter until the
+    /// dialog is gone and the page is painted.
     double cut(int board, int row, double &allDone)
     {
         double loaded = 0;

@@ -13,7 +13,8 @@ inline BetLine betLine(size_t betClass, int customer, int digits)
     return {&asked, customer, QByteArray::number(1000 + digits % 1000).right(asked.num23)};
 }
 
-/// Returns the lines of a draw: runs of fifty for each customer, with mixed classes and numbers.
+/// Returns the lines of a draw, with mixed classes and numbers. Fifty consecutive lines belong to
+/// the same customer, as in a ticket.
 inline std::vector<BetLine> drawLines(int count)
 {
     std::vector<BetLine> lines;

@@ -63,12 +63,12 @@ Measured measureEnter(benchmark::State &state, int firstNumber)
     const WorkFolder folder;
     Desk desk;
     Samples samples;
-    Samples slow; // 99th percentile of each hundred
+    Samples slow; // the 99th percentile of each hundred
     for ([[maybe_unused]] auto round : state) {
         // Steps of 137 visit all 500 numbers, near and far rows mixed.
         samples.push_back(desk.enter(firstNumber + int(samples.size()) * 137 % RowCount));
         state.SetIterationTime(samples.back() / 1000);
-        if (desk.rows().rows() > RowCount)
+        if (desk.rows().rows() > RowCount) // keep 500 rows
             desk.rows().removeRow(1);
         if (samples.size() % 100 == 0)
             slow.push_back(quantile({samples.end() - 100, samples.end()}, 0.99));
@@ -76,6 +76,6 @@ Measured measureEnter(benchmark::State &state, int firstNumber)
     if (desk.rows().rows() != RowCount)
         qFatal("the grid does not have 500 rows");
     CloseLedger();
-    // The median of them, since other work on the machine may disturb one hundred.
+    // The median of the 99th percentiles, since other work on the machine may disturb a hundred.
     return {quantile(slow, 0.5), QString::asprintf("median of all %.1f", quantile(samples, 0.5))};
 }

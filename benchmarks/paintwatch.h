@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Waits for a repaint, the end of the delay that the user notices.
+// Waits until a widget has been painted, which ends the delay that the user notices.
 #pragma once
 
 #include <QApplication>
@@ -7,7 +7,6 @@
 #include <QEvent>
 #include <QWidget>
 
-/// Detects that a widget is painted.
 class PaintWatch : public QObject
 {
 public:

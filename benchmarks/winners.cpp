@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// Measures a draw check against its bare statements, and until thousands of winners are painted.
+// Measures a draw check against its bare statements, and the time from the click on the check
+// button to thousands of painted winners.
 #include "barefile.h"
 #include "figure.h"
 #include "paintwatch.h"
@@ -73,7 +74,8 @@ public:
     }
 };
 
-/// Checks a draw and returns the seconds from the opened Ledger to the stored result.
+/// Reads rates and discounts, then checks a draw. Returns the seconds of the check alone, from the
+/// sum of the book to the stored result.
 double checkDraw(int &winners)
 {
     ConnectLedger();
