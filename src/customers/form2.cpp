@@ -93,7 +93,7 @@ void Form2::keyPressEvent(QKeyEvent *event)
 }
 
 /// Lists all customers or, with @p search, those whose name contains the text searched for. The
-/// active customer stays active if the new list contains him.
+/// active customer stays active if the new list contains that customer.
 void Form2::Loaddata(bool search)
 {
     const QString active = m_list.text(m_ui->fpSpread1->activeRow(), 0);
@@ -198,7 +198,7 @@ void Form2::lvButtons_H5_Click()
     Loaddata(true);
 }
 
-/// "ลบลูกค้า (Del)": deletes the customer in the active row unless he has bets in this draw. The
+/// "ลบลูกค้า (Del)": deletes the customer in the active row, but not one with bets in this draw. The
 /// winner search skips bets of missing customers, so they could never win.
 void Form2::cDel_Click()
 {

@@ -29,7 +29,8 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
-    /// Describes how one column of a customer is changed: its field, boxes and name.
+    /// A column of a customer that can be changed: its input field, the text of the box if that is
+    /// empty, the question before the change, and the column's name.
     struct Change
     {
         QLineEdit *field;

@@ -49,14 +49,14 @@ struct Board
     /// The grid of each class, in the order of BetClasses.
     std::array<SpreadModel, ClassCount> grids;
 
-    /// What the first number of each class would cost if it won, in whole baht as "#,##".
+    /// What the first number of each class would cost if it won, as formatBaht() writes it.
     std::array<QString, ClassCount> estimates;
 
     GridTotals BoardSums{};      ///< header total of each board
     qint32 TopSum = 0;           ///< keeps its last value when the top total becomes 0
     qint32 BottomSum = 0;        ///< keeps its last value when the bottom total becomes 0
     QString FilterName;          ///< customer of the filter
-    qint32 SavedTicketTotal = 0; ///< discount money of all saved tickets when the page was opened
+    qint32 SavedTicketTotal = 0; ///< discounts of all saved tickets; read at opening, not shown
 
     bool isEmpty() const; ///< returns true if no board has a row
 
@@ -64,9 +64,10 @@ struct Board
     void SetupSpread(int at);
 
     /// Fills a board with @p lines and sets its estimate. A hot number is listed with half its
-    /// money, but counts in full in the total in the header. Raises "Overflow" when that total
-    /// exceeds 32 bits and "Invalid use of Null" for a number without money; the rows before it are
-    /// then filled. Starts the progress bar unless there are no lines; the caller finishes it.
+    /// money, but counts in full in the total in the header. Throws "Overflow" when that total
+    /// exceeds 32 bits and "Invalid use of Null" for a number whose money is NULL; the rows before
+    /// it are then filled. Starts the progress bar unless there are no lines; the caller finishes
+    /// it.
     void load(int at, const BoardLines &lines, const HotNumbers &hotNumbers, ProgressBar &progress);
 
     /// Sets BoardSums[at] to the total in the board's header.

@@ -26,8 +26,8 @@ public:
 
     bool isEmpty() const; ///< returns true if both lists are empty
 
-    /// Load one list: straight, tod, run, each with the longer numbers first. Raise "Overflow" when
-    /// the total exceeds 32 bits and "Invalid use of Null" for a number without money. The
+    /// Load one list: straight, tod, run, each with the longer numbers first. Throw "Overflow" when
+    /// the total exceeds 32 bits and "Invalid use of Null" for a number whose money is NULL. The
     /// caller finishes the progress bar.
     void LoadNumcutup(ProgressBar &progress) { load(0, true, progress); }
     void LoadNumcutdown(ProgressBar &progress) { load(1, false, progress); }

@@ -4,16 +4,16 @@
 
 #include "widgets/spreadmodel.h"
 
-/// Columns of the list of lines. Key, Buyer and User are hidden.
+/// Columns of the list of lines. Key, Buyer and User are hidden: NPK, nameFK and nuser of the line.
 namespace CutColumn {
-inline constexpr int Key = 0;   ///< NPK
+inline constexpr int Key = 0;
 inline constexpr int Place = 1; ///< row number
 inline constexpr int Customer = 2;
 inline constexpr int Label = 3;
 inline constexpr int Number = 4;
 inline constexpr int Amount = 5;
-inline constexpr int Buyer = 6; ///< nameFK
-inline constexpr int User = 7;  ///< nuser
+inline constexpr int Buyer = 6;
+inline constexpr int User = 7;
 } // namespace CutColumn
 
 /// One bet line, read from a row of the list.
@@ -25,7 +25,8 @@ struct CutLine
     qint32 amount; ///< whole baht
 };
 
-/// The bet lines of the selected number, of all customers, and the changes to them.
+/// The bet lines of the selected number, of all customers, and the changes to them. Lines whose
+/// customer is missing in tblMember are left out.
 class CutOut
 {
 public:
@@ -33,12 +34,12 @@ public:
 
     SpreadModel grid;
 
-    /// Lists the lines, largest amount first, with their sum in the header. Raises "Overflow" when
+    /// Lists the lines, largest amount first, with their sum in the header. Throws "Overflow" when
     /// the sum exceeds 32 bits and "Invalid use of Null" for a line whose amount is NULL; the list
     /// is then empty.
     void LoadNumrunup();
 
-    /// Returns the line in a row. Raises "Type mismatch" if its amount is 0, which is shown as "".
+    /// Returns the line in a row. Throws "Type mismatch" if its amount is 0, which is shown as "".
     CutLine lineAt(int row) const;
 
     /// Moves @p amount, at most the amount of the line, from tblNumber to tblNumberCut: first

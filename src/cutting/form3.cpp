@@ -131,7 +131,7 @@ void Form3::load(int at, const BoardLines &lines, const HotNumbers &hotNumbers)
         Nubyod0();
 }
 
-/// Loads one board with the whole book. A cut changes no other board.
+/// Reloads one board, that of the selected class, after a cut, which changes no other board.
 void Form3::loadClass(int at)
 {
     load(at, readBoard(BetClasses[at]), HotNumbers(readHotNumbers()));
@@ -157,8 +157,8 @@ void Form3::Nubyod0()
     showGrandTotal();
 }
 
-/// Writes a tab's caption and sets @p sum. `formatBaht(0)` is empty and `CLng` rejects it, so @p sum
-/// keeps its value.
+/// Writes the total of a side into its tab's caption and into @p sum. A total of 0 is displayed as
+/// "", from which CLng() throws, so @p sum keeps its last value then.
 void Form3::showSum(int tab, const QString &caption, qint32 &sum)
 {
     resumeNext(
@@ -244,7 +244,8 @@ void Form3::showFilter(bool on)
     m_ui->lvButtons_H7->setVisible(on);
 }
 
-/// Shows the controls of the whole book. Does not change MemberFilterOn.
+/// Shows the controls of the whole book. Leaves MemberFilterOn to the caller: after a cut it stays
+/// set, so that F5 still works.
 void Form3::showWholeBook()
 {
     m_ui->text2->setEnabled(true);
@@ -318,18 +319,19 @@ void Form3::showCutNum(QWidget *owner, const std::function<void()> &scanAgain)
     runDialog(dialog);
 }
 
-/// Called when the cut-out dialog closes. A filtered board shows the whole book again, but
-/// MemberFilterOn stays set.
+/// Called when the cut-out dialog closes. A filtered board shows the whole book again.
 void Form3::closeCut(const std::function<void()> &scanAgain)
 {
-    const auto *focus = qobject_cast<Spread *>(window()->focusWidget()); // in the main window
+    // The grid that gets the focus back when the dialog is gone.
+    const auto *focus = qobject_cast<Spread *>(window()->focusWidget());
     if (MemberFilterOn)
         FReLoad();
     else if (const int at = selectedClass(); at >= 0)
         loadClass(at);
     if (scanAgain)
         scanAgain();
-    showWholeBook(); // after the reload, which keeps the grand total while the strip is shown
+    // Hides the strip only now: while it is shown, a reload does not write the grand total.
+    showWholeBook();
     if (focus && focus->isHidden()) // the reload has switched to the other tab
         focusShownBoard();
 }

@@ -17,13 +17,13 @@ namespace Ui {
 class Form3;
 }
 
-/// Functions that open the windows of folders that cutting/ must not include. A board that is never
-/// shown needs none.
+/// Functions that the buttons of the board call to open windows whose folders cutting/ must not
+/// include. A page that is never shown needs none.
 struct BoardOpeners
 {
-    std::function<void(Form3 &board)> showScan; ///< " &วิเคราะห์เลข"
-    std::function<void(Form3 &board)> printBoard; ///< " &ปริ้นข้อมูล" of the board
-    std::function<void(Numcut &cutBoard)> printCuts; ///< " &ปริ้นข้อมูล" of the cut numbers
+    std::function<void(Form3 &board)> showScan; ///< " &วิเคราะห์เลข": the risk scan
+    std::function<void(Form3 &board)> printBoard; ///< " &ปริ้นข้อมูล": report of the board
+    std::function<void(Numcut &cutBoard)> printCuts; ///< that of Numcut: report of the cuts
 };
 
 class Form3 : public QWidget
@@ -35,18 +35,19 @@ public:
     Form3(const Frame &frame, BoardOpeners openers, QWidget *parent);
     ~Form3() override;
 
-    /// Returns the eight boards, as last loaded.
+    /// The boards as last loaded, which the scan and the report show.
     const Board &board() const { return m_board; }
 
     /// Shows TopTab or BottomTab and returns its caption.
     QString selectTab(int tab);
 
-    /// Reloads all boards with the whole book and shows the top tab. Does not change the controls
-    /// of the filter.
+    /// Reloads all boards with the whole book and shows the top tab. Lists the customers again and
+    /// clears the field of the filter, but neither shows nor hides the filter's controls.
     void FReLoad();
 
     /// Opens the cut-out dialog for the selected class and number over @p owner. When it closes,
-    /// reloads the board, calls @p scanAgain if it is set, and shows the controls of the whole book.
+    /// reloads the board, calls @p scanAgain if it is set, and shows the controls of the whole
+    /// book.
     void showCutNum(QWidget *owner, const std::function<void()> &scanAgain = {});
 
 protected:

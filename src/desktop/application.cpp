@@ -15,8 +15,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Loads the fonts shipped in `fonts/`. The portable folder has them for machines without a Thai
-/// font; elsewhere the folder is missing and the installed fonts are used.
+/// Loads the fonts in `fonts/`. The portable folder for Linux, the Windows zip and the Windows
+/// build have them, since a machine may lack a Thai font; elsewhere the installed fonts are used.
 void loadShippedFonts()
 {
     const QDir folder(programFile(u"fonts"_s));
@@ -39,7 +39,8 @@ Application::Application(int &argc, char **argv) : QApplication(withFusionStyle(
 {
     setApplicationName(u"mirakla-desk"_s);
     loadShippedFonts();
-    // Noto Sans matches Noto Sans Thai; the symbols are the arrows in button texts.
+    // Noto Sans Thai has no Latin letters, and neither of the two has the arrows of the keyboard
+    // picture.
     QFont font(QStringList{u"Noto Sans"_s, u"Noto Sans Thai"_s, u"Noto Sans Symbols"_s});
     font.setPointSize(11);
     setFont(font);

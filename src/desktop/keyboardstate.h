@@ -21,8 +21,9 @@ bool capsLock();
 /// Returns true while Num Lock is on; false if its state is unknown.
 bool numLock();
 
-/// Returns the code of a key, as listed at keyCode(), from the native values of its event: 0 for a
-/// key without a code, -1 if the event has no native values, as a synthetic one.
+/// Returns the code of a key, one of those listed at keyCode(), from the native values of its
+/// event. Returns 0 for a key without a code, and -1 if the event was made by a program and has no
+/// native values.
 int nativeKeyCode(quint32 scanCode, quint32 virtualKey);
 
 } // namespace desktop

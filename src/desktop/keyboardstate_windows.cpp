@@ -9,12 +9,13 @@
 namespace desktop {
 namespace {
 
-/// keyCode() uses the virtual-key codes of Windows, but only these.
 struct KeyRange
 {
     quint32 first;
     quint32 last;
 };
+
+/// The keys that have a code. The codes of keyCode() are the virtual-key codes of Windows.
 constexpr std::array KnownKeys{
     KeyRange{VK_CONTROL, VK_CONTROL}, KeyRange{VK_PRIOR, VK_DOWN},
     KeyRange{VK_DELETE, VK_DELETE},   KeyRange{'0', '9'},

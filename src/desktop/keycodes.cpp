@@ -12,7 +12,8 @@ namespace {
 constexpr int CtrlEnter = 10;
 constexpr int CtrlBackspace = 127;
 
-/// Returns the character codes of keys whose QKeyEvent::text() cannot be used, -1 for all others.
+/// Returns the character code of Enter, Backspace, Esc, Tab or Delete, or -1 for any other key.
+/// Their QKeyEvent::text() is not used: it would be 127 for Delete and 9 for Tab.
 int namedKeyCode(int key, bool ctrl)
 {
     switch (key) {

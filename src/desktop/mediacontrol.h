@@ -9,7 +9,7 @@
 
 enum class MediaCommand {
     Close, ///< closes the file and stops its sound
-    Open,  ///< opens the file named by FileName
+    Open,  ///< loads the file named by FileName
     Play   ///< starts it from its beginning and returns at once
 };
 
@@ -22,8 +22,9 @@ public:
     ~MediaControl(); ///< closes the file
     Q_DISABLE_COPY_MOVE(MediaControl)
 
-    // Options of a player that runs in another process. They have no effect here: SDL_mixer sends
-    // no notification, completes each command before it returns, and shares the device.
+    // Part of the control's fixed interface, set by ReadKey() and without effect: SDL_mixer always
+    // does what these values ask for. It sends no notification, completes each command before it
+    // returns, and shares the device.
     bool Notify = false;
     bool Wait = true;
     bool Shareable = true;

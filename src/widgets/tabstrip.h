@@ -19,7 +19,7 @@ public:
     void setTab(int tab);
 
 signals:
-    /// Emitted when the user changes the tab and by setTab().
+    /// Emitted when the user changes the tab, by setTab(), and by the first addTab().
     void clicked();
 
 protected:
