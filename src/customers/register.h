@@ -28,7 +28,7 @@ inline constexpr QLatin1StringView PercentField("MPercen");
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress);
 
 /// Returns the number of customers with that name, case-insensitive. The name is not bound but part
-/// of the SQL text, so an apostrophe in it raises DatabaseFailure.
+/// of the SQL text, so an apostrophe in it throws DatabaseFailure.
 int countCustomersNamed(const QString &name);
 
 /// Adds a customer with the next key.

@@ -104,7 +104,7 @@ void DrawCheck::Nubyod2()
 }
 
 /// Subtracts the payout from the profit, to which it adds the discounts again. Calculates with the
-/// displayed texts: an amount of 0 is "", which raises "Type mismatch".
+/// displayed texts: an amount of 0 is "", from which CDbl() throws "Type mismatch".
 void DrawCheck::showProfit()
 {
     Label21 = formatBaht(CDbl(Label21) + iTotalB - CDbl(Label19));

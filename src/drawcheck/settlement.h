@@ -6,8 +6,9 @@
 #include "drawcheck/winners.h"
 #include "widgets/progressbar.h"
 
-/// The data of the draw check page. Its members are public, since the page shows them and the report
-/// prints them. The amounts are stored as their displayed texts, and calculated from these texts.
+/// The data of the draw check page. Its members are public, since the page shows them and the
+/// report prints them. The amounts are stored as their displayed texts, and calculated from these
+/// texts.
 class DrawCheck
 {
 public:
@@ -30,7 +31,7 @@ public:
     /// Checks the book against a result: fills the grid, sets the amounts and stores result and
     /// amounts in tblTrue. The discounts reduce the profit only if there is no winner. A check of
     /// Book::CutOut stores only a result without a winner, with amounts of 0. Call zeroAmounts()
-    /// first. Raises "Type mismatch" if it calculates with a displayed amount of 0, which is "",
+    /// first. Throws "Type mismatch" if it calculates with a displayed amount of 0, which is "",
     /// and "Overflow" beyond 32 bits; what was done before the error is not undone.
     void LoadnumberT(const ResultDigits &digits, ProgressBar &progress);
 

@@ -44,6 +44,6 @@ void setupWinners(SpreadModel &grid);
 void writeWinner(SpreadModel &grid, int row);
 
 /// Halves the payout in @p row once for each hot number that applies to the current row of
-/// RecordsetA. Each step starts from the displayed text, so it rounds. Raises "Type mismatch" for
+/// RecordsetA. Each step starts from the displayed text, so it rounds. Throws "Type mismatch" for
 /// an empty payout and "Overflow" for one beyond 32 bits.
 void halvePayout(SpreadModel &grid, int row, const HotNumbers &hot);

@@ -21,7 +21,7 @@ using GridTotals = std::array<qint32, ClassCount>;
 /// of columns, the two visible ones and the hidden ones after them.
 void setupBetGrid(SpreadModel &grid, const BetClass &betClass, int columns);
 
-/// Returns the total of the top grids. Like the next two, raises "Overflow" beyond 32 bits.
+/// Returns the total of the top grids. Like the next two, throws "Overflow" beyond 32 bits.
 qint32 topTotal(const GridTotals &totals);
 qint32 bottomTotal(const GridTotals &totals); ///< total of the bottom grids
 qint32 sumTotal(const GridTotals &totals);    ///< total of all grids

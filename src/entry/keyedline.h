@@ -29,6 +29,6 @@ enum FieldCheck : unsigned {
 };
 
 /// Runs the checks given as the bits of @p checks, with the spaces around each part removed. Shows
-/// the box of the first check that fails and returns false. Raises "Type mismatch" for an amount
+/// the box of the first check that fails and returns false. Throws "Type mismatch" for an amount
 /// that is no number.
 bool passesChecks(const Ticket &ticket, unsigned checks);

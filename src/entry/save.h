@@ -26,7 +26,7 @@ std::optional<TicketCustomer> ticketCustomer(const QString &name);
 QString todSpelling(const QString &number);
 
 /// Writes one bet line for each row of the grids, for the customer named @p customer. There is no
-/// transaction: each row is durable before the next one is written. If it raises RunTimeError, the
+/// transaction: each row is durable before the next one is written. If it throws RunTimeError, the
 /// rows written so far stay in the Ledger.
 void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progress);
 
@@ -34,6 +34,6 @@ void saveLines(const Ticket &ticket, const QString &customer, ProgressBar &progr
 /// for an empty text.
 void saveDiscount(const QString &discount);
 
-/// Returns the discounts of all tickets of the draw, in baht. Raises "Overflow" if they exceed 32
+/// Returns the discounts of all tickets of the draw, in baht. Throws "Overflow" if they exceed 32
 /// bits.
 qint32 savedDiscounts();

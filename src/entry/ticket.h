@@ -30,11 +30,11 @@ struct Ticket
     /// Searches the number, stores its row in FoundRow[@p slot], and calls writeLine().
     void AddLine(int grid, const QString &number, const QString &amount, int slot = 0);
 
-    /// Writes the total of each grid to its header and returns the totals. Raises "Overflow" if
+    /// Writes the total of each grid to its header and returns the totals. Throws "Overflow" if
     /// one exceeds 32 bits; only the headers of the grids before it are updated then.
     GridTotals totalGrids();
 };
 
 /// Returns the discount of a ticket in the format "#,##", from the texts of the fields that show
-/// its total and percentage. Raises "Type mismatch" if one is empty.
+/// its total and percentage. Throws "Type mismatch" if one is empty.
 QString discountMoney(const QString &total, const QString &percent);

@@ -190,7 +190,7 @@ ResultRows Connection::run(const QString &sql, const QVariantList &values)
     return result;
 }
 
-/// Raises if the folder has become read-only. SQLite could still write to the open WAL, but could
+/// Throws if the folder has become read-only. SQLite could still write to the open WAL, but could
 /// not delete it on closing, and the next start would be refused.
 void Connection::prepareToWrite()
 {

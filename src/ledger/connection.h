@@ -12,16 +12,16 @@ class WalKeeper;
 /// The password of all Ledgers. It is in the source, so it keeps nothing secret.
 inline constexpr const char *LedgerPassword = "639417";
 
-/// Exists only while the Ledger is open and usable: open() and create() raise otherwise. All
-/// members raise RunTimeError DatabaseFailure with SQLite's error message if SQLite fails.
+/// Exists only while the Ledger is open and usable: open() and create() throw otherwise. All
+/// members throw RunTimeError DatabaseFailure with SQLite's error message if SQLite fails.
 ///
 /// The file or its WAL may be deleted or replaced while it is open. This is checked before and
 /// after each statement that writes, and by requireOwnFile(). If it has happened, all data is
-/// written to a new file, see rescue(), and FatalError is raised with its path.
+/// written to a new file, see rescue(), and FatalError is thrown with its path.
 class Connection
 {
 public:
-    /// Opens an existing Ledger for this process alone. Raises if the file is missing, empty, not a
+    /// Opens an existing Ledger for this process alone. Throws if the file is missing, empty, not a
     /// Ledger, damaged, encrypted with another password, not writable or in use.
     ///
     /// Never creates a Ledger and changes no rows, but does write: a temporary file beside the
@@ -32,7 +32,7 @@ public:
     static std::unique_ptr<Connection> open(const QString &path,
                                             const QByteArray &password = LedgerPassword);
 
-    /// Creates an encrypted database file without tables, for makeEmptyLedger(). Raises if the file
+    /// Creates an encrypted database file without tables, for makeEmptyLedger(). Throws if the file
     /// or its WAL exists.
     static std::unique_ptr<Connection> create(const QString &path,
                                               const QByteArray &password = LedgerPassword);
@@ -50,7 +50,7 @@ public:
     /// Moves the WAL into the file. Only this overwrites deleted rows in the file.
     void moveWalIntoFile();
 
-    /// Raises FatalError if the file or its WAL was deleted or replaced, unless that was reported
+    /// Throws FatalError if the file or its WAL was deleted or replaced, unless that was reported
     /// before. To be called before closing.
     void requireOwnFile();
 
@@ -69,5 +69,5 @@ private:
     std::unique_ptr<Place> m_place;
     Database m_database;
     std::unique_ptr<WalKeeper> m_wal; ///< null in a Connection of create()
-    bool m_lost = false;              ///< true once requireOwnFile() has raised FatalError
+    bool m_lost = false;              ///< true once requireOwnFile() has thrown FatalError
 };

@@ -22,11 +22,11 @@ struct ResultRows
 /// Why the program refuses a file that SQLite itself may accept.
 enum class Refusal { CannotOpen, ReadOnly, NotALedger, Damaged };
 
-/// Raises RunTimeError DatabaseFailure with a message, or with SQLite's message for a Refusal.
+/// Throws RunTimeError DatabaseFailure with a message, or with SQLite's message for a Refusal.
 [[noreturn]] void raiseDatabaseFailure(const QString &message);
 [[noreturn]] void raiseDatabaseFailure(Refusal reason);
 
-/// All members raise RunTimeError DatabaseFailure with SQLite's error message if SQLite fails,
+/// All members throw RunTimeError DatabaseFailure with SQLite's error message if SQLite fails,
 /// except where they say otherwise.
 class Database
 {
@@ -51,7 +51,7 @@ public:
     QByteArray firstBytes(qsizetype count) const;
 
     /// Sets the password, or the key in the form of keyWithSalt(). To be called before all
-    /// statements. A wrong one makes the first statement that reads the file raise.
+    /// statements. A wrong one makes the first statement that reads the file throw.
     void setKey(const QByteArray &key) const;
 
     /// Adds the collations and sets up exclusive use of the file, with statements that are durable

@@ -5,6 +5,6 @@
 
 #include <QString>
 
-/// Creates a Ledger at @p path with eight tables, default rates and the customer "-". Raises
+/// Creates a Ledger at @p path with eight tables, default rates and the customer "-". Throws
 /// RunTimeError if the file or its WAL exists, or if it cannot be written.
 void makeEmptyLedger(const QString &path);

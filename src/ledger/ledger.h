@@ -38,7 +38,7 @@ QStringList FillCombo(const QString &table, const QString &order, const QString 
 
 /// Returns the @p key of the row of @p table whose @p textColumn equals the text of a combo box.
 /// The comparison is case-insensitive and ignores blanks around @p comboText. "-" and "" return 0,
-/// which means no customer. A text that is not found is added unchanged, with the next key. Raises
+/// which means no customer. A text that is not found is added unchanged, with the next key. Throws
 /// "Overflow" if the key is above 32,767. Uses RecordsetB.
 qint16 LookupKey(const QString &comboText, const QString &table, const QString &key,
                  const QString &textColumn);

@@ -6,7 +6,7 @@
 
 #include <memory>
 
-/// Opening a recordset again discards its content. All members raise RunTimeError DatabaseFailure
+/// Opening a recordset again discards its content. All members throw RunTimeError DatabaseFailure
 /// if SQLite fails.
 class Recordset
 {
@@ -22,7 +22,7 @@ public:
     void openTable(const QString &table);
 
     /// Starts editing the row of @p table whose @p key is @p value: update() changes the columns
-    /// that set() names. Raises DatabaseFailure "no current row" if there is no such row.
+    /// that set() names. Throws DatabaseFailure "no current row" if there is no such row.
     void openRow(const QString &table, const QString &key, const QVariant &value);
 
     /// Returns the number of rows read.
@@ -33,11 +33,11 @@ public:
 
     void moveNext() { ++m_current; }
 
-    /// Returns the value of a column in the current row. Column names are case-insensitive. Raises
+    /// Returns the value of a column in the current row. Column names are case-insensitive. Throws
     /// DatabaseFailure if there is no current row or no such column.
     QVariant field(const QString &column) const;
 
-    /// Returns the index of a column, for field(index). Raises DatabaseFailure if there is no such
+    /// Returns the index of a column, for field(index). Throws DatabaseFailure if there is no such
     /// column.
     qsizetype columnIndex(const QString &column) const;
 

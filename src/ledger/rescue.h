@@ -7,11 +7,11 @@
 
 class Database;
 
-/// Renames the WAL at @p path, which belongs to another file. Raises RunTimeError if that fails.
+/// Renames the WAL at @p path, which belongs to another file. Throws RunTimeError if that fails.
 void renameForeignWal(const QString &path);
 
 /// Copies the data of @p file, which is open but no longer at @p path, to a new Ledger with the
 /// given @p password and @p permissions. The new file is beside @p path, or if that fails in the
-/// folder above, or in the home folder. Returns its path, or raises RunTimeError if all three fail.
+/// folder above, or in the home folder. Returns its path, or throws RunTimeError if all three fail.
 QString rescue(const Database &file, const QString &path, const QByteArray &password,
                QFile::Permissions permissions);

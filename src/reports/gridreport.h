@@ -59,8 +59,8 @@ public:
 protected:
     const SpreadModel &grid(qsizetype at) const { return *m_grids[at]; }
 
-    /// Starts before the first row and sets the number of rows to that of the longest grid. Raises
-    /// "Overflow" above 32,767 rows. With exactly 32,767 rows ActiveReport_FetchData() raises it
+    /// Starts before the first row and sets the number of rows to that of the longest grid. Throws
+    /// "Overflow" above 32,767 rows. With exactly 32,767 rows ActiveReport_FetchData() throws it
     /// after the last one.
     void takeRowTotal();
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Run-time errors, raised by a failed conversion, sum or Ledger statement, and how a handler
+// Run-time errors, thrown by a failed conversion, sum or Ledger statement, and how a handler
 // resumes after one.
 #pragma once
 
@@ -45,12 +45,12 @@ public:
     using RunTimeError::RunTimeError;
 };
 
-[[noreturn]] void raiseTypeMismatch();     ///< raises RunTimeError 13
-[[noreturn]] void raiseOverflow();         ///< raises RunTimeError 6
-[[noreturn]] void raiseInvalidUseOfNull(); ///< raises RunTimeError 94
+[[noreturn]] void raiseTypeMismatch();     ///< throws RunTimeError 13
+[[noreturn]] void raiseOverflow();         ///< throws RunTimeError 6
+[[noreturn]] void raiseInvalidUseOfNull(); ///< throws RunTimeError 94
 
 /// Runs one statement of a handler that resumes at the next statement after an error. Returns false
-/// if it raised a RunTimeError; a FatalError is passed on. Wrap each statement separately, since an
+/// if it threw a RunTimeError; a FatalError is passed on. Wrap each statement separately, since an
 /// error skips the rest of @p statement.
 template<typename Statement>
 bool resumeNext(Statement &&statement)

@@ -12,7 +12,7 @@ using BoardShowsRows = std::function<bool()>;
 /// Asks for confirmation, then deletes the bets, those laid off, the discounts and the hot numbers,
 /// appends the result checked last to the history, shows a box and ends the program. Returns only
 /// if nothing was changed: after a box if the boards are empty, or on Cancel. There is no
-/// transaction: if it raises RunTimeError, the statements before it stay in effect.
+/// transaction: if it throws RunTimeError, the statements before it stay in effect.
 void closeDraw(const BoardShowsRows &boardShowsRows);
 
 /// Asks twice for confirmation, then deletes everything but the rates, the result checked last and

@@ -16,7 +16,7 @@ constexpr std::array Columns{
     GridColumn{HotTodColumn + 1, u" ", Qt::AlignLeft},
 };
 
-/// Returns the key for a new hot number. Raises "Overflow" if it exceeds 16 bits.
+/// Returns the key for a new hot number. Throws "Overflow" if it exceeds 16 bits.
 qint16 SetupNewData3()
 {
     return CInt(double(nextKey(u"tblNumberFix"_s, u"PK"_s)));

@@ -19,7 +19,7 @@ void listHotNumbers(SpreadModel &list);
 /// Returns true if this number is a hot number. Another order of its digits does not count.
 bool isHotNumber(const QString &number);
 
-/// Adds a number to the list. Raises "Overflow" if its key would exceed 16 bits.
+/// Adds a number to the list. Throws "Overflow" if its key would exceed 16 bits.
 void addHotNumber(const QString &number);
 
 /// Deletes the hot number with this key.

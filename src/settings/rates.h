@@ -15,6 +15,6 @@ using RateTexts = std::array<QString, RateColumns.size()>;
 /// Reads the rates. Returns nothing if tblMoney lacks their row.
 std::optional<RateTexts> readRates();
 
-/// Writes the rates. Raises "Type mismatch" for a text that is no number and "Overflow" for a rate
+/// Writes the rates. Throws "Type mismatch" for a text that is no number and "Overflow" for a rate
 /// beyond 16 bits; nothing is written then.
 void writeRates(const RateTexts &rates);

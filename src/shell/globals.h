@@ -24,6 +24,6 @@ inline constexpr quint8 FromBoard = 1;
 inline constexpr quint8 FromTopScan = 2;
 inline constexpr quint8 FromBottomScan = 3;
 
-/// Reads the eight rates from tblMoney. Without its row they stay unchanged. Raises "Overflow" for
+/// Reads the eight rates from tblMoney. Without its row they stay unchanged. Throws "Overflow" for
 /// a rate above 32,767 and "Invalid use of Null" for a missing one.
 void LoadMoney();
