@@ -45,7 +45,7 @@ captions()
 section()
 {
     awk -v file="$1" -v captions="$(captions)" -v handlers="$(handlers "${1%.ui}.cpp")" '
-        # The text of a property: mnemonics and blanks at the ends go.
+        # The text of a property: without mnemonics and without spaces at the ends.
         function plain(text)
         {
             sub(/^[^>]*>/, "", text)

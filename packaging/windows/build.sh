@@ -1,21 +1,21 @@
 # SPDX-License-Identifier: MIT
 # shellcheck shell=bash
 #
-# What ./run windows and ./test windows share. Sourced behind prepare.sh.
+# What ./run windows and ./test windows share. Source this after prepare.sh.
 
 windows_build=build/windows
 windows_name=mirakla-desk-$(sed -nE 's/^project\(.* VERSION ([0-9.]+).*/\1/p' CMakeLists.txt)-windows
 windows_zip=build/$windows_name.zip
 
-# build_windows: builds all for Windows, first of all the libraries where they
-# are not there yet, and beside it what the tests compare with.
+# build_windows: builds everything for Windows, the libraries first if they are
+# missing, and the programs of the Linux build that the tests use.
 build_windows()
 {
     local prefix
     install_missing build screen test windows
     prefix=$(packaging/windows/dependencies.sh) || die "the libraries for Windows could not be built"
     build test keeper other_reader make-empty-ledger
-    # What CMake has found it does not look for again, and it would go on with other libraries.
+    # CMake caches the paths of libraries, so other libraries need a new build folder.
     grep -qsF "=$prefix" "$windows_build/CMakeCache.txt" || rm -rf "$windows_build"
     cmake -G Ninja -S . -B "$windows_build" -DCMAKE_BUILD_TYPE=Release \
         -DBUILD_TESTING=ON -DMIRAKLA_BENCHMARKS=ON -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
@@ -28,8 +28,8 @@ build_windows()
     cmake --build "$windows_build" --parallel "$(nproc)" || die "the Windows build failed"
 }
 
-# pack_windows: lays out the folder that is shipped and packs it. Only the archive stays: a folder
-# that lay here would be worked in, and the next one would take its book away.
+# pack_windows: lays out the folder that is shipped and packs it. Only the archive is kept: someone
+# might use a folder left here, and the next build would delete its book.
 pack_windows()
 {
     local place=$windows_build/packing
@@ -38,7 +38,7 @@ pack_windows()
     packaging/windows/folder.sh "$windows_build" "$place/$windows_name" ||
         die "the folder for Windows could not be made"
     rm -f "$windows_zip"
-    # Names in Thai letters are written only where the language has them.
+    # Thai file names need a UTF-8 locale.
     (cd "$place" && LC_ALL=C.UTF-8 cmake -E tar cf "$OLDPWD/$windows_zip" --format=zip "$windows_name") ||
         die "the folder could not be packed"
     rm -rf "$place"

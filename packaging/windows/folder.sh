@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Lays out the folder that is shipped: folder.sh BUILD FOLDER, which must not be
-# there yet, since it may contain a book. Puts in the program, its data with an
-# empty Ledger, the fonts, and every library that they need and that Windows does
-# not have, with its license.
+# Lays out the folder that is shipped: folder.sh BUILD FOLDER. FOLDER must not
+# exist, since it may contain a book. Copies the program, its data with an empty
+# Ledger, the fonts, and each library that they need and that Windows does not
+# have, with its license.
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -12,12 +12,12 @@ source "$root/packaging/prepare.sh"
 source "$root/packaging/windows/places.sh"
 (($# == 2)) || die "usage: folder.sh BUILD FOLDER"
 build=$1 folder=$2
-[[ ! -e $folder ]] || die "$folder is there already"
+[[ ! -e $folder ]] || die "$folder exists already"
 mapfile -t places < <(echo "$prefix/bin" && runtime_places)
 # Windows has the libraries that Wine reimplements, and the api-ms-win-* names.
 windows_has=/usr/lib/$(gcc -print-multiarch)/wine/x86_64-windows
 
-# Copies what a program or library asks for, and what that asks for in its turn.
+# Copies the libraries that a program or library needs, and those that they need.
 add_libraries_of()
 {
     local name place
@@ -48,7 +48,7 @@ done
 cp "$root/LICENSE" "$folder/LICENSE.txt"
 cp "$prefix/licenses/"* "$folder/licenses/"
 cp /usr/share/doc/fonts-noto-core/copyright "$folder/licenses/fonts-noto-core.txt"
-# How the libraries are made, changed ones among them, is passed on with them.
+# A source of Qt is changed, so the scripts that build the libraries are passed on with them.
 mkdir -p "$folder/licenses/libraries/windows"
 cp "$root/packaging/prepare.sh" "$folder/licenses/libraries/"
 cp "$windows"/{dependencies.sh,places.sh,toolchain.cmake} "$folder/licenses/libraries/windows/"
@@ -58,7 +58,7 @@ cp "$windows"/{dependencies.sh,places.sh,toolchain.cmake} "$folder/licenses/libr
     dpkg-query -W -f='${Package} ${Version}\n' gcc-mingw-w64-x86-64-posix-runtime \
         mingw-w64-x86-64-dev fonts-noto-core
 } >>"$folder/licenses/PACKAGES.txt"
-# Texts that the makers' own refer to.
+# Debian's copies of licenses, to which the files above refer.
 grep -ohE '/usr/share/common-licenses/[A-Za-z0-9.-]*[A-Za-z0-9]' "$folder"/licenses/*.txt | sort -u |
     while read -r text; do
         cp "$text" "$folder/licenses/${text##*/}.txt"

@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # SPDX-License-Identifier: MIT
 #
-# Runs a Windows program of the build under Wine as if it were one of this
-# machine: wine.sh PROGRAM [ARGUMENT...]. CTest starts every test through it.
-# The Windows that it makes for that lies in DESK_WINEPREFIX, or in build/windows.wine.
+# Runs a Windows program of the build under Wine: wine.sh PROGRAM [ARGUMENT...].
+# CTest starts every test through it. The Wine prefix is DESK_WINEPREFIX, or
+# build/windows.wine, and is created if it is missing.
 
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
@@ -11,26 +11,27 @@ source "$root/packaging/windows/places.sh"
 
 export WINEPREFIX=${DESK_WINEPREFIX:-$root/build/windows.wine}
 export WINEDEBUG=${WINEDEBUG:--all}
-# Neither a browser nor .NET is asked for on first use, and a program that fails ends.
+# Disabled: the browser and .NET, which Wine would offer to install, and the debugger that it would
+# start after a crash.
 export WINEDLLOVERRIDES="mscoree,mshtml,winedbg.exe="
 export LC_ALL=C.UTF-8
-# For tests that name a file to a program of this machine.
+# For tests that pass the path of a file to a Linux program.
 export DESK_WINE_DRIVES=$WINEPREFIX/dosdevices
 
-# Root may ignore a file's permissions, and so would the Windows that it runs.
+# Root ignores the permissions of files, and so would a Windows program that root runs.
 plainly=()
 if ((EUID == 0)); then
     plainly=(setpriv --inh-caps=-dac_override --bounding-set=-dac_override)
 fi
 
-# With memory laid out at random, one start in a thousand or so finds a place taken that Wine needs,
-# and fails.
+# With address space randomization about one start in a thousand fails, because something is at an
+# address that Wine needs.
 if setarch --addr-no-randomize true 2>/dev/null; then
     plainly+=(setarch --addr-no-randomize)
 fi
 
-# Tests start at the same time; one of them makes the Windows, the others wait.
-make_windows()
+# Tests start at the same time: one creates the prefix, the others wait.
+create_prefix()
 {
     local key='HKCU\Software\Wine'
     # Unmanaged: without a window manager each window would wait two seconds for one.
@@ -43,10 +44,10 @@ make_windows()
 mkdir -p "$WINEPREFIX"
 (
     flock 9
-    [[ -e $WINEPREFIX/ready ]] || make_windows >"$WINEPREFIX/made.log" 2>&1 9>&- ||
-        { echo "wine.sh: no Windows could be made; see $WINEPREFIX/made.log" >&2 && exit 1; }
-    # The services start with the first program. With its output in hand they would keep it open
-    # behind its end, and whoever reads it would wait for them.
+    [[ -e $WINEPREFIX/ready ]] || create_prefix >"$WINEPREFIX/made.log" 2>&1 9>&- ||
+        { echo "wine.sh: the Wine prefix could not be created; see $WINEPREFIX/made.log" >&2 && exit 1; }
+    # Wine's services start with the first program. They would inherit its output and keep it open
+    # after its exit, and a reader of that output would wait for them.
     wineserver -k0 2>/dev/null || "${plainly[@]}" wine wineboot >/dev/null 2>&1 9>&- </dev/null
 ) 9>"$WINEPREFIX/lock"
 
