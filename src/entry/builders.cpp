@@ -23,8 +23,8 @@ struct Targets
 /// not trimmed, selects the targets. Nothing is written for a length without targets.
 struct SingleLine
 {
-    unsigned checks;
-    bool showTopTab;
+    unsigned checks = 0;
+    bool showTopTab = false;
     std::array<Targets, 3> targetsByLength; ///< for 1, 2 and 3 characters
 };
 

@@ -14,9 +14,9 @@ namespace {
 /// A key in the picture. x and width are in widths of an ordinary key, y in rows.
 struct DrawnKey
 {
-    const char *name;
-    double x;
-    double y;
+    const char *name = nullptr;
+    double x = 0;
+    double y = 0;
     double width = 1.0;
 };
 

@@ -20,8 +20,8 @@ bool allEqual(const QString &digits)
 
 struct NumberCheck
 {
-    FieldCheck check;
-    bool (*fails)(const QString &number);
+    FieldCheck check = NumberGiven;
+    bool (*fails)(const QString &number) = nullptr;
     QStringView refusal;
 };
 

@@ -63,7 +63,7 @@ QString todSpelling(const QString &number)
                     " AND [numValue] IN (%2) ORDER BY numValue LIMIT 1"_s.arg(
                         QString::number(keyed.size()), marks.join(u", "_s)),
                     QVariantList(others.begin(), others.end()));
-    const QString spelling =
+    QString spelling =
         RecordsetA.recordCount() < 1 ? keyed : RecordsetA.field(u"numValue"_s).toString();
     RecordsetA.close();
     return spelling;

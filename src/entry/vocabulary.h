@@ -58,7 +58,7 @@ enum class BetKind {
 /// An entry of the list of kinds, and the caption that Form1 shows when it is chosen.
 struct KindEntry
 {
-    BetKind kind;
+    BetKind kind{};
     QStringView entry;
     QStringView caption;
 };

@@ -15,8 +15,8 @@ using KeyCodes = std::array<int, 2>;
 /// Keys that are spoken, and their recording in data/mp3.
 struct EchoKey
 {
-    KeyCodes codes;
-    const char *file;
+    KeyCodes codes{};
+    const char *file = nullptr;
 };
 
 /// The digits and the dash, on the main keyboard and on the keypad.
@@ -37,10 +37,10 @@ inline constexpr std::array<EchoKey, 11> EchoKeys{{
 /// Keys that choose a kind, and their recording in data/mp3.
 struct KindKey
 {
-    KeyCodes codes;
-    std::array<const char *, 2> keys; ///< labels of the keys in KeyboardPicture
-    const char *file;
-    BetKind kind;
+    KeyCodes codes{};
+    std::array<const char *, 2> keys{}; ///< labels of the keys in KeyboardPicture
+    const char *file = nullptr;
+    BetKind kind{};
 };
 
 inline constexpr std::array KindKeys{
