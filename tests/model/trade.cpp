@@ -256,7 +256,7 @@ int Book::customer(const QString &name)
             return key;
     }
     const int key = nextKey(customers);
-    customers[key] = {name, {}, {}};
+    customers[key].name = name;
     return key;
 }
 
@@ -466,7 +466,7 @@ QStringList Book::rows() const
     for (const auto *table : {&lines, &cuts}) {
         for (const auto &[key, line] : *table) {
             const auto &[digits, top, type, caption] = Classes[line.betClass];
-            rows += u"%1 %2 %3 %4 %5 %6 %7 %8"_s.arg(table == &lines ? u"line"_s : u"cut"_s)
+            rows += u"%1 %2 %3 %4 %5 %6 %7 %8 sv"_s.arg(table == &lines ? u"line"_s : u"cut"_s)
                         .arg(key)
                         .arg(line.customer)
                         .arg(digits)
@@ -480,8 +480,9 @@ QStringList Book::rows() const
         rows += u"discount %1 %2"_s.arg(key).arg(amount);
     for (const QString &number : hot)
         rows += u"hot "_s + number;
+    rows += u"rates"_s;
     for (const qint64 rate : rates)
-        rows += u"rate %1"_s.arg(rate);
+        rows.last() += u' ' + QString::number(rate);
     rows += u"result "_s + kept;
     for (const QString &draw : history)
         rows += u"draw "_s + draw;

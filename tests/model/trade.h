@@ -63,8 +63,8 @@ struct Ticket
 struct Customer
 {
     QString name;
-    QString percent;
-    QString telephone;
+    QString percent = QStringLiteral("0");
+    QString telephone{};
 };
 
 /// A board as shown: rows such as "12|1,050", " hot" behind a halved one, both amounts as text.
@@ -119,7 +119,7 @@ struct Book
     /// What the Ledger holds, a text for each row.
     QStringList rows() const;
 
-    std::map<int, Customer> customers{{0, {QStringLiteral("-"), {}, {}}}};
+    std::map<int, Customer> customers{{0, {.name = QStringLiteral("-")}}};
     QStringList hot;
     std::array<qint64, Classes.size()> rates{500, 100, 70, 12, 3, 100, 70, 4};
     Bets lines;
