@@ -25,12 +25,9 @@ struct Step
         model::Book &book, const std::function<void(bool isDone)> &passed = [](bool) {}) const;
 
     /// How much of a line is cut: once in three times all of it.
-    qint64 partOf(qint64 amount) const
-    {
-        return part % 3 == 0 ? amount : 1 + part % quint32(amount);
-    }
+    qint64 partOf(qint64 amount) const { return part % 3 == 0 ? amount : part % quint32(amount); }
 
-    Kind kind;
+    Kind kind = File;
     QString customer{}; ///< may be new
     model::Ticket ticket{};
     qint64 discount = 0;

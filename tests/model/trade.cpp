@@ -234,6 +234,17 @@ void Ticket::add(size_t betClass, const QString &number, qint64 amount)
         same.insert(same.begin(), {betClass, number, amount});
 }
 
+QStringList Ticket::rows() const
+{
+    QStringList rows;
+    for (const std::vector<Bet> &same : bets) {
+        for (const Bet &bet : same)
+            rows +=
+                u"%1: %2=%3"_s.arg(QString::number(bet.betClass + 1), bet.number, baht(bet.amount));
+    }
+    return rows;
+}
+
 std::vector<Bet> Ticket::inOrderOfSaving() const
 {
     std::vector<Bet> all;
@@ -303,7 +314,8 @@ std::vector<int> Book::linesOn(size_t betClass, const QString &number) const
 {
     std::vector<int> keys;
     for (const auto &[key, line] : lines) {
-        if (line.betClass == betClass && line.number == number)
+        if (line.betClass == betClass && line.number == number
+            && customers.count(line.customer) > 0)
             keys.push_back(key);
     }
     std::stable_sort(keys.begin(), keys.end(), [&](int one, int other) {

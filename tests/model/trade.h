@@ -53,6 +53,7 @@ struct Ticket
     /// Adds to the bet on a number, or makes a new first one.
     void add(size_t betClass, const QString &number, qint64 amount);
 
+    QStringList rows() const; ///< such as "1: 123=1,050", classes counted from 1
     std::vector<Bet> inOrderOfSaving() const;
     qint64 total() const;
 
