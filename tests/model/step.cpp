@@ -129,11 +129,7 @@ void Step::perform(model::Book &book, const std::function<void(bool isDone)> &pa
     switch (kind) {
     case File:
         for (const model::Bet &bet : ticket.inOrderOfSaving()) {
-            const size_t known = book.customers.size();
-            const int key = book.customer(customer);
-            if (book.customers.size() > known)
-                between();
-            book.file(key, bet);
+            book.file(customer, bet, between);
             passed(true);
         }
         if (discount == 0)

@@ -87,13 +87,12 @@ void ModelTest::keyTicket(model::Book &book, const DrawTicket &stated)
                     + u'\t' + model::baht(bet.amount);
     }
     QCOMPARE(rows, stated.rows);
-    const int customer = book.customer(stated.customer);
-    const qint64 discount =
-        model::discountOn(ticket.total(), book.customers[customer].percent.toInt());
+    const QString &percent = book.customers[book.customer(stated.customer)].percent;
+    const qint64 discount = model::discountOn(ticket.total(), percent.toInt());
     QCOMPARE(model::baht(ticket.total()) + u' ' + model::baht(discount),
              stated.total + u' ' + stated.discount);
     for (const model::Bet &bet : ticket.inOrderOfSaving())
-        book.file(customer, bet);
+        book.file(stated.customer, bet);
     book.addDiscount(discount);
 }
 

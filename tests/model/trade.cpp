@@ -286,11 +286,14 @@ QString Book::spelling(const Bet &bet) const
     return inBook.empty() ? bet.number : *inBook.begin();
 }
 
-void Book::file(int customer, Bet bet)
+void Book::file(const QString &name, Bet bet, const Between &between)
 {
-    bet.customer = customer;
     if (Classes[bet.betClass].type == Tod)
         bet.number = spelling(bet);
+    const size_t known = customers.size();
+    bet.customer = customer(name);
+    if (customers.size() > known)
+        between();
     lines[nextKey(lines)] = bet;
 }
 

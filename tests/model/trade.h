@@ -94,7 +94,8 @@ struct Book
     /// Key of the first customer of that name, who is registered if new.
     int customer(const QString &name);
 
-    void file(int customer, Bet bet);
+    void file(
+        const QString &name, Bet bet, const Between &between = [] {});
     void addDiscount(qint64 amount);
     void cut(
         int key, qint64 amount, const Between &between = [] {});
