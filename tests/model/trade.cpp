@@ -3,6 +3,7 @@
 
 #include <QLocale>
 #include <QRegularExpression>
+#include <QVariant>
 
 #include <algorithm>
 #include <limits>
@@ -102,29 +103,20 @@ QStringList numbersOf(Way way, const QString &number)
     return numbers;
 }
 
-auto findNumber(std::vector<Bet> &bets, const QString &number)
+/// Place of a number among the bets of a class, or -1.
+int placeOf(const std::vector<Bet> &bets, const QString &number)
 {
-    return std::find_if(bets.begin(), bets.end(),
-                        [&](const Bet &bet) { return bet.number == number; });
+    const auto bet = std::find_if(bets.begin(), bets.end(),
+                                  [&](const Bet &each) { return each.number == number; });
+    return bet == bets.end() ? -1 : int(bet - bets.begin());
 }
 
-/// All places are looked up before the first number is written. A new first bet moves the others,
-/// and an amount goes to the bet that is in the place by then.
-void addTurned(Ticket &ticket, const QStringList &numbers, Bet bet, qint64 others)
+void addAt(std::vector<Bet> &bets, int place, const Bet &bet)
 {
-    std::vector<Bet> &bets = ticket.bets[bet.betClass];
-    std::vector<size_t> places;
-    for (const QString &number : numbers)
-        places.push_back(size_t(findNumber(bets, number) - bets.begin()));
-    const size_t none = bets.size();
-    for (size_t at = 0; at < places.size(); ++at) {
-        bet.number = numbers[qsizetype(at)];
-        if (places[at] == none)
-            bets.insert(bets.begin(), bet);
-        else
-            bets[places[at]].amount += bet.amount;
-        bet.amount = others;
-    }
+    if (place < 0)
+        bets.insert(bets.begin(), bet);
+    else
+        bets[size_t(place)].amount += bet.amount;
 }
 
 /// True if the first bet can win together with the second, longer one.
@@ -159,13 +151,19 @@ bool isWon(const Bet &bet, const QString &result)
     });
 }
 
+template<typename... Fields>
+QString joined(const Fields &...fields)
+{
+    QStringList texts;
+    ((texts += QVariant(fields).toString()), ...);
+    return texts.join(u' ');
+}
+
 /// A result and its amounts as they are stored.
 QString toText(const QString &result, qint64 profit, qint64 payout)
 {
-    QStringList numbers;
-    for (int at = 0; at < 17; at += 3)
-        numbers += result.mid(at, 3);
-    return u"%1 %2 %3"_s.arg(numbers.join(u' ')).arg(profit).arg(payout);
+    return joined(result.mid(0, 3), result.mid(3, 3), result.mid(6, 3), result.mid(9, 3),
+                  result.mid(12, 3), result.mid(15), profit, payout);
 }
 
 /// A bet for each number of each class, with its money in all lines that count.
@@ -214,24 +212,24 @@ bool Ticket::key(const QString &caption, const QString &line)
             && number == QString(number.size(), number[0])))
         return false;
     showsTop = kind->top;
-    const QStringList numbers = numbersOf(kind->way, number);
     for (const char digit : classes) {
         const auto betClass = size_t(digit - '0');
-        if (turned)
-            addTurned(*this, numbers, {betClass, number, amount}, others);
-        for (const QString &each : turned ? QStringList() : numbers)
-            add(betClass, each, amount);
+        std::vector<Bet> &same = bets[betClass];
+        const std::vector<Bet> before = same;
+        qint64 next = amount;
+        for (const QString &each : numbersOf(kind->way, number)) {
+            // Turned numbers are all looked up before the first is written. A new one moves the
+            // bets, and the amount goes to the bet that is in the place by then.
+            addAt(same, placeOf(turned ? before : same, each), {betClass, each, next});
+            next = turned ? others : amount;
+        }
     }
     return true;
 }
 
 void Ticket::add(size_t betClass, const QString &number, qint64 amount)
 {
-    std::vector<Bet> &same = bets[betClass];
-    if (const auto bet = findNumber(same, number); bet != same.end())
-        bet->amount += amount;
-    else
-        same.insert(same.begin(), {betClass, number, amount});
+    addAt(bets[betClass], placeOf(bets[betClass], number), {betClass, number, amount});
 }
 
 QStringList Ticket::rows() const
@@ -476,31 +474,24 @@ QStringList Book::rows() const
 {
     QStringList rows;
     for (const auto &[key, each] : customers)
-        rows += u"customer %1 %2 %3 %4"_s.arg(QString::number(key), each.name, each.percent,
-                                              each.telephone);
+        rows += joined(u"customer"_s, key, each.name, each.percent, each.telephone);
     for (const auto *table : {&lines, &cuts}) {
         for (const auto &[key, line] : *table) {
             const auto &[digits, top, type, caption] = Classes[line.betClass];
-            rows += u"%1 %2 %3 %4 %5 %6 %7 %8 sv"_s.arg(table == &lines ? u"line"_s : u"cut"_s)
-                        .arg(key)
-                        .arg(line.customer)
-                        .arg(digits)
-                        .arg(top ? -1 : 0)
-                        .arg(type)
-                        .arg(line.number)
-                        .arg(line.amount);
+            rows += joined(table == &lines ? u"line"_s : u"cut"_s, key, line.customer, digits,
+                           top ? -1 : 0, int(type), line.number, line.amount, u"sv"_s);
         }
     }
     for (const auto &[key, amount] : discounts)
-        rows += u"discount %1 %2"_s.arg(key).arg(amount);
+        rows += joined(u"discount"_s, key, amount);
     for (const QString &number : hot)
-        rows += u"hot "_s + number;
+        rows += joined(u"hot"_s, number);
     rows += u"rates"_s;
     for (const qint64 rate : rates)
         rows.last() += u' ' + QString::number(rate);
-    rows += u"result "_s + kept;
+    rows += joined(u"result"_s, kept);
     for (const QString &draw : history)
-        rows += u"draw "_s + draw;
+        rows += joined(u"draw"_s, draw);
     return rows;
 }
 
