@@ -274,10 +274,11 @@ void FaultsTest::indexThatDisagreesIsRebuilt()
     folder.open();
     Day(m_seed, std::vector(5, Step::File), true).perform();
     CloseLedger();
-    runStockTool(folder.ledger(), u"639417"_s,
-                 u".dbconfig defensive off\n" // which newer versions switch on; older ones ignore it
-                 "PRAGMA writable_schema = ON; UPDATE sqlite_master SET"
-                 " sql = replace(sql, '(NameFK)', '(numBuy)') WHERE name = 'tblNumber_buyer';"_s);
+    runStockTool(
+        folder.ledger(), u"639417"_s,
+        u".dbconfig defensive off\n" // which newer versions switch on; older ones ignore it
+        "PRAGMA writable_schema = ON; UPDATE sqlite_master SET"
+        " sql = replace(sql, '(NameFK)', '(numBuy)') WHERE name = 'tblNumber_buyer';"_s);
     const auto rows = [&] { return rowsLeftIn(folder.ledger()); };
     QVERIFY2(rows().first().contains(u"index"_s), qPrintable(rows().first()));
     folder.open();
