@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The builders: the words that refuse a line, and totals too big to be told. Which rows good lines
-// become is asked by the law of the money.
+// The builders: the texts that refuse a line, and totals beyond 32 bits. The rows of good lines are
+// compared with the model.
 #include "entry/builders.h"
 #include "support/boxscript.h"
 #include "support/keying.h"

@@ -33,6 +33,11 @@ struct ProgramFolder
     QTemporaryDir folder;
 };
 
+/// What a Ledger holds that was left by a process, in whatever way it ended, as its next owner reads
+/// it. The rows are read from a copy that has the WAL beside it. If the file does not open, or one
+/// of its pages is damaged, the list says so instead.
+QStringList rowsLeftIn(const QString &ledger);
+
 class FaultsTest : public QObject
 {
     Q_OBJECT

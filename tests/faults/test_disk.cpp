@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 // Disks: power cuts at every sync, and calls that fail, each in its turn.
 #include "desktop/programend.h"
-#include "faults/daybook.h"
+#include "faults/day.h"
 #include "faults/faults.h"
 #include "faults/faultydisk.h"
 #include "ledger/ledger.h"
@@ -71,10 +71,9 @@ void FaultsTest::powerCutLosesNoAcknowledgedStep()
         for (int seed = 0; seed < seeds && wrong.isEmpty(); ++seed, ++cuts) {
             const QTemporaryDir left;
             disk.cutPower(dice, left.path());
-            DayBook book;
-            const auto found =
-                DayBook::rowsLeftIn(left.filePath(u"ztkdata.ZDB"_s), ProgramFolder::key());
-            if (!book.goOn(day, outcome.acknowledged, found))
+            model::Book book;
+            const auto found = rowsLeftIn(left.filePath(u"ztkdata.ZDB"_s));
+            if (!Day(day).leadsTo(found, outcome.acknowledged, book))
                 wrong = QStringList(QString::number(outcome.acknowledged)) + found;
         }
     };
@@ -133,12 +132,12 @@ void FaultsTest::failingCallLeavesWholeStatements()
             struck = disk.struck();
         }
         QVERIFY(outcome.status >= 0);
-        const QStringList found = DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key());
+        const QStringList found = rowsLeftIn(folder.ledger());
         const QByteArray what = "call " + QByteArray::number(nth) + ", acknowledged "
                                 + QByteArray::number(outcome.acknowledged) + ": "
                                 + (outcome.boxes + found).join(u'\n').toUtf8();
-        DayBook book;
-        QVERIFY2(book.goOn(day, outcome.acknowledged, found), what.constData());
+        model::Book book;
+        QVERIFY2(Day(day).leadsTo(found, outcome.acknowledged, book), what.constData());
         if (outcome.status == 0)
             continue;
         ++reports;
@@ -166,9 +165,8 @@ void FaultsTest::folderTurnedReadOnlyEndsInTheReport()
     });
     QCOMPARE(outcome.boxes, QStringList(Report + u"attempt to write a readonly database"_s));
     QCOMPARE(outcome.status, 1);
-    DayBook book;
-    QVERIFY(book.goOn(day, outcome.acknowledged,
-                      DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key())));
+    model::Book book;
+    QVERIFY(Day(day).leadsTo(rowsLeftIn(folder.ledger()), outcome.acknowledged, book));
 
     const auto left = folder.bytes(); // with the journal, which could not be removed
     QCOMPARE(left.size(), 2);

@@ -3,7 +3,7 @@
 // without its password, or with it once a draw is closed.
 #include "desktop/programfolder.h"
 #include "entry/save.h"
-#include "faults/daybook.h"
+#include "faults/day.h"
 #include "faults/faults.h"
 #include "faults/faultydisk.h"
 #include "faults/rawpages.h"
@@ -125,7 +125,7 @@ void FaultsTest::damagedLedgerIsRefused()
     QFETCH(Damage, damage);
     const ProgramFolder folder;
     folder.open();
-    Day(m_seed, std::vector(60, Step::File), true).perform([] {});
+    Day(m_seed, std::vector(60, Step::File), true).perform();
     QCOMPARE(LedgerConnection->run(u"PRAGMA freelist_count"_s).rows[0][0].toInt(), 0);
     CloseLedger();
     const QByteArray good = folder.bytes()[u"ztkdata.ZDB"_s];
@@ -175,10 +175,10 @@ void FaultsTest::spoiltFirstPageComesFromTheJournal()
 {
     const ProgramFolder folder;
     folder.open();
-    Day(m_seed, std::vector(60, Step::File), true).perform([] {}); // enough for a longer file
+    Day(m_seed, std::vector(60, Step::File), true).perform(); // enough for a longer file
     auto left = folder.bytes();
     CloseLedger();
-    const QStringList kept = DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key());
+    const QStringList kept = rowsLeftIn(folder.ledger());
     QByteArray &file = left[u"ztkdata.ZDB"_s];
     const QByteArray salt = file.first(16);
     QRandomGenerator dice(m_seed);
@@ -189,7 +189,7 @@ void FaultsTest::spoiltFirstPageComesFromTheJournal()
     CloseLedger();
     QCOMPARE(folder.bytes().keys(), QStringList(u"ztkdata.ZDB"_s));
     QCOMPARE(folder.bytes()[u"ztkdata.ZDB"_s].first(16), salt);
-    QCOMPARE(DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key()), kept);
+    QCOMPARE(rowsLeftIn(folder.ledger()), kept);
 }
 
 /// A copy of the file alone beside the WAL of a killed program, as somebody puts a backup back. SQLite
@@ -208,7 +208,7 @@ void FaultsTest::restoredCopyIsWhole()
         const auto work = [&] {
             std::vector kinds(size_t(dice.bounded(1, 5)), Step::File);
             kinds.push_back(dice.bounded(2) == 0 ? Step::Cut : Step::Check);
-            Day(dice.generate(), kinds, true).perform([] {});
+            Day(dice.generate(), kinds, true).perform();
         };
         open();
         work();
@@ -224,7 +224,7 @@ void FaultsTest::restoredCopyIsWhole()
             runStockTool(restored, u"639417"_s,
                          u"WITH RECURSIVE n(key) AS (VALUES (1) UNION ALL SELECT key + 1 FROM n"
                          " LIMIT 200) INSERT INTO tblNumberFix SELECT key, '123' FROM n;"_s);
-        const QStringList copied = DayBook::rowsLeftIn(restored, ProgramFolder::key());
+        const QStringList copied = rowsLeftIn(restored);
         if (copiedWhileClosed)
             open();
         work();
@@ -232,8 +232,8 @@ void FaultsTest::restoredCopyIsWhole()
         const bool isEarly = copiedWhileClosed && dice.bounded(2) == 0;
         const QByteArray wal = isEarly ? early : folder.bytes()[u"ztkdata.ZDB-wal"_s];
         write(restored + u"-wal"_s, wal);
-        const QStringList later = DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key());
-        const QStringList found = DayBook::rowsLeftIn(restored, ProgramFolder::key());
+        const QStringList later = rowsLeftIn(folder.ledger());
+        const QStringList found = rowsLeftIn(restored);
         QVERIFY2(found == copied || found == later, qPrintable(found.join(u'\n')));
 
         Connection::open(restored, ProgramFolder::key());
@@ -272,14 +272,14 @@ void FaultsTest::indexThatDisagreesIsRebuilt()
 {
     const ProgramFolder folder;
     folder.open();
-    Day(m_seed, std::vector(5, Step::File), true).perform([] {});
+    Day(m_seed, std::vector(5, Step::File), true).perform();
     CloseLedger();
     runStockTool(
         folder.ledger(), u"639417"_s,
         u".dbconfig defensive off\n" // which newer versions switch on; older ones ignore it
         "PRAGMA writable_schema = ON; UPDATE sqlite_master SET"
         " sql = replace(sql, '(NameFK)', '(numBuy)') WHERE name = 'tblNumber_buyer';"_s);
-    const auto rows = [&] { return DayBook::rowsLeftIn(folder.ledger(), ProgramFolder::key()); };
+    const auto rows = [&] { return rowsLeftIn(folder.ledger()); };
     QVERIFY2(rows().first().contains(u"index"_s), qPrintable(rows().first()));
     folder.open();
     saveDiscount(u"1"_s);
@@ -313,10 +313,12 @@ void FaultsTest::damagedJournalLeavesWholeSteps()
         else
             journal[at] = char(journal[at] ^ (1 << dice.bounded(8)));
         write(ledger + u"-wal"_s, journal);
-        const QStringList found = DayBook::rowsLeftIn(ledger, ProgramFolder::key());
+        const QStringList found = rowsLeftIn(ledger);
         bool whole = false;
-        for (qsizetype steps = 0; steps <= acknowledged && !whole; ++steps)
-            whole = DayBook().goOn(day, steps, found);
+        for (qsizetype steps = 0; steps <= acknowledged && !whole; ++steps) {
+            model::Book book;
+            whole = Day(day).leadsTo(found, steps, book);
+        }
         QVERIFY2(whole, qPrintable(found.join(u'\n')));
         lengths += found.size();
     }
@@ -342,7 +344,7 @@ void FaultsTest::nothingLeaks()
         kinds[at] = Step::Cut;
     kinds.push_back(Step::Check);
     Day day(m_seed, kinds, true);
-    day.perform([] {});
+    day.perform();
     LedgerConnection->run(u"UPDATE tblMember SET Mber = ? WHERE MPK > 0"_s,
                           {QString::fromLatin1(telephone)});
     for (const QByteArray &known : {customer, telephone, keyer}) {

@@ -4,7 +4,7 @@
 #include "desktop/application.h"
 #include "desktop/msgbox.h"
 #include "desktop/programfolder.h"
-#include "faults/daybook.h"
+#include "faults/day.h"
 #include "ledger/ledger.h"
 #include "program.h"
 #include "runtime/runtimeerror.h"

@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: MIT
-// Keeps a book for a while and tells all that stands in it: the same program on both systems, so
-// that what one keyed can be held against what the other reads.
-// Usage: keeper FOLDER SEED [leave|wipe]. Works on the book as follows from SEED, not at all for 0.
-// "leave" ends as a killed process does, with the WAL still beside the book; "wipe" wipes it first.
+// Works on a book and prints all that it holds then: the same program on both systems, so that the
+// output of one can be compared with that of the other.
+// Usage: keeper FOLDER EARLIER [NOW]. Each turn is a number, its seed, and a letter: "k" keeps
+// the book open to the end, "l" leaves it as a killed process does, with the WAL beside it, "w"
+// wipes it first. The turn NOW is done and the book compared with a model of all turns. EARLIER
+// lists those before it, parted by commas.
 #include "desktop/clock.h"
 #include "desktop/msgbox.h"
 #include "desktop/programfolder.h"
-#include "entry/save.h"
-#include "faults/daybook.h"
 #include "ledger/ledger.h"
+#include "model/step.h"
 #include "settings/closing.h"
 #include "settings/hotnumberlist.h"
 #include "settings/rates.h"
 #include "support/boxscript.h"
-#include "support/noprogress.h"
 #include "support/outcome.h"
 
 #include <QCoreApplication>
@@ -26,43 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void fileTickets(QRandomGenerator &random)
-{
-    constexpr int Tickets = 12;
-    NoProgress progress;
-    for (int number = 0; number < Tickets; ++number) {
-        Ticket ticket;
-        for (int line = 0; line < 20; ++line) {
-            const int grid = random.bounded(ClassCount);
-            const int digits = BetClasses[size_t(grid)].num23;
-            const QString all = QString::number(1000 + random.bounded(1000));
-            ticket.AddLine(grid, all.right(digits), QString::number(random.bounded(1, 99'999)));
-        }
-        // Thai and Latin, which the two systems would list in two orders by themselves.
-        const std::array names{u"เก๋"_s,     u"น้ำผึ้ง"_s, u"ไก่ ป้าญู"_s, u"ลูกค้า ก"_s,
-                               u"ลูกค้า b"_s, u"Lek"_s,  u"เล็ก"_s,    u"-"_s};
-        saveLines(ticket, names[size_t(random.bounded(int(names.size())))], progress);
-        saveDiscount(QString::number(random.bounded(1, 999)));
-    }
-}
-
-/// A draw that is closed, then one that is not: in the end no table is empty.
-void workOn(quint32 seed)
-{
-    QRandomGenerator random(seed);
-    RateTexts rates;
-    for (QString &rate : rates)
-        rate = QString::number(random.bounded(1, 900));
-    writeRates(rates);
-    for (const auto last : {Step::Close, Step::Check}) {
-        fileTickets(random);
-        addHotNumber(QString::number(random.bounded(10, 1000)));
-        for (const auto kind : {Step::Cut, Step::Cut, Step::Check, last})
-            Step(kind, random, true).perform([] {});
-    }
-}
-
-/// The wipe ends the program, so the Ledger is opened once more.
+/// The wipe ends the program, so the Ledger is opened again.
 void wipe()
 {
     const BoxScript yes({BoxAnswer::Ok, BoxAnswer::Ok});
@@ -71,7 +35,43 @@ void wipe()
     ConnectLedger();
 }
 
-void tell(const QString &statement)
+/// A turn: a draw that is closed, then one that is not, so that in the end no table is empty.
+/// Done to the model alone unless @p now.
+void work(model::Book &book, const QString &turn, bool now)
+{
+    if (turn.endsWith(u'w')) {
+        book.wipe();
+        if (now)
+            wipe();
+    }
+    QRandomGenerator random(turn.chopped(1).toUInt());
+    RateTexts rates;
+    for (size_t at = 0; at < rates.size(); ++at) {
+        book.rates[at] = random.bounded(1, 900);
+        rates[at] = QString::number(book.rates[at]);
+    }
+    if (now)
+        writeRates(rates);
+    for (const auto last : {Step::Close, Step::Check}) {
+        std::vector kinds(12, Step::File);
+        kinds.insert(kinds.end(), {Step::Cut, Step::Cut, Step::Check, last});
+        book.hot += QString::number(random.bounded(10, 1000));
+        if (now)
+            addHotNumber(book.hot.last());
+        for (const auto kind : kinds) {
+            // Thai and Latin, which the two systems would list in two orders by themselves.
+            const std::array names{u"เก๋"_s,     u"น้ำผึ้ง"_s, u"ไก่ ป้าญู"_s, u"ลูกค้า ก"_s,
+                                   u"ลูกค้า b"_s, u"Lek"_s,  u"เล็ก"_s,    u"-"_s};
+            Step step = Step::random(kind, random, 20, true);
+            step.customer = names[random.bounded(quint32(names.size()))];
+            step.perform(book);
+            if (now)
+                step.perform();
+        }
+    }
+}
+
+void print(const QString &statement)
 {
     for (const QVariantList &row : LedgerConnection->run(statement).rows) {
         QStringList fields;
@@ -97,18 +97,26 @@ int main(int argc, char **argv)
     ConnectLedger();
     CurrentUser = u"sv"_s;
     setClock([] { return QDateTime({2026, 11, 22}, {9, 5}); });
-    const quint32 seed = arguments.value(2).toUInt();
-    if (arguments.value(3) == u"wipe"_s)
-        wipe();
-    if (seed != 0)
-        workOn(seed);
-    tell(u"PRAGMA integrity_check"_s);
+    model::Book book;
+    for (const QString &turn : arguments.value(2).split(u',', Qt::SkipEmptyParts))
+        work(book, turn, false);
+    const QString now = arguments.value(3);
+    if (!now.isEmpty())
+        work(book, now, true);
+    const QStringList found = ledgerRows(*LedgerConnection);
+    const QStringList expected = book.rows();
+    for (qsizetype at = 0; at < std::max(found.size(), expected.size()); ++at) {
+        if (found.value(at) != expected.value(at))
+            qFatal("row %d is %s and not %s", int(at), qUtf8Printable(found.value(at)),
+                   qUtf8Printable(expected.value(at)));
+    }
+    print(u"PRAGMA integrity_check"_s);
     const QString tables = u"SELECT name FROM sqlite_master WHERE type = 'table' ORDER BY name"_s;
     for (const QVariantList &table : LedgerConnection->run(tables).rows)
-        tell(u"SELECT '%1', * FROM %1 ORDER BY 2"_s.arg(table[0].toString()));
-    tell(u"SELECT Mname FROM tblMember ORDER BY Mname COLLATE ThaiOrder"_s);
+        print(u"SELECT '%1', * FROM %1 ORDER BY 2"_s.arg(table[0].toString()));
+    print(u"SELECT Mname FROM tblMember ORDER BY Mname COLLATE ThaiOrder"_s);
     std::fflush(stdout);
-    if (arguments.value(3) == u"leave"_s)
+    if (now.endsWith(u'l'))
         std::_Exit(0);
     CloseLedger();
     return 0;
