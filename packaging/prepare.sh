@@ -133,13 +133,12 @@ build()
         test) option=BUILD_TESTING ;;
         bench) option=MIRAKLA_BENCHMARKS ;;
         ci) option=CMAKE_COMPILE_WARNING_AS_ERROR ;;
-        dev | lint) folder=build/$preset ;;
+        dev) folder=build/dev ;;
     esac
     if [[ ! $folder/build.ninja -nt CMakePresets.json ]] ||
         { [[ -n $option ]] && ! grep -q "^$option:[A-Z]*=ON\$" "$folder/CMakeCache.txt"; }; then
         cmake --preset "$preset" || die "the $preset build could not be configured"
     fi
-    [[ $preset != lint ]] || return 0 # clang-tidy needs no compiled code
     cmake --build --preset "$preset" --parallel "$(nproc)" ${1:+--target "$@"} ||
         die "the $preset build failed"
 }
