@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: MIT
+// Controls as a person finds, reads and works them: by name or caption, with real key and mouse
+// events that go through the window.
+#pragma once
+
+#include <QString>
+
+class QWidget;
+
+/// The control of that name in @p window, or the visible button of that caption, or nullptr. "A.B" is
+/// the control B in A. In the main window the page comes first.
+QWidget *findControl(QWidget *window, const QString &name);
+
+/// Name of a control, or of the one that it is a part of.
+QString nameOf(const QWidget *control);
+
+/// What @p control says, without blanks at the ends: its text, the captions of tabs as "a|[b]", the
+/// one on top in brackets, the value of a bar. A part of it can be named behind the control's name:
+/// "grid[2,1]" is a cell, "grid.active" the active row, "combo.list" its entries, else a property.
+QString read(const QWidget *control, const QString &part);
+
+/// The visible cells of the rows of a grid, parted by "|", " hot" behind a row with a coloured cell.
+QStringList gridRows(const QWidget *grid);
+
+/// Why @p window cannot be worked in yet, or "".
+QString notReady(const QWidget *window);
+
+/// Presses and releases a key, such as "<Shift+Tab>" or "a", in the window that has the focus.
+void pressKey(const QString &key);
+
+/// Clicks @p place of @p control: "" its middle, "2,1" a cell, "below" under the rows of a grid, a
+/// number a tab, and "2,1>3,1" a slip of the mouse. @p how is "double", "right" or "". Gives why
+/// that cannot be done, or "".
+QString click(QWidget *control, const QString &place, const QString &how);
