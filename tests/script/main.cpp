@@ -5,6 +5,7 @@
 #include "script/player.h"
 
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -119,6 +120,7 @@ int main(int argc, char **argv)
     const QStringList arguments = application.arguments().sliced(2);
     const QList<Case> cases = readScript(arguments.value(3));
     Stage stage(arguments.value(0));
+    stage.stored = QFileInfo(arguments.value(3)).path() + u'/';
     const Player player(arguments.value(3), cases, stage, arguments.value(1).toInt(),
                         arguments.value(2).toInt());
     return Application::exec();

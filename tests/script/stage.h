@@ -39,6 +39,8 @@ public:
     QWidget *window() const;
     QPointer<QWidget> chosen; ///< by "in"
 
+    QString stored; ///< folder of the texts that dumps are compared with, with a slash
+
     /// The box on top, or nullptr.
     static QMessageBox *box();
 

@@ -5,6 +5,7 @@
 #include "desktop/region.h"
 #include "entry/vocabulary.h"
 #include "script/controls.h"
+#include "script/dump.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -38,6 +39,20 @@ QString rowsDiffer(const QString &expected, QStringList actual)
         actual = actual.mid(0, rows.size() - 1) << u"…"_s;
     return differs(rows.isEmpty() ? u"none"_s : rows.join(u" / "_s),
                    actual.isEmpty() ? u"none"_s : actual.join(u" / "_s));
+}
+
+/// What is only in one of two texts, line by line.
+QString linesDiffer(const QStringList &expected, const QStringList &actual)
+{
+    QStringList lines;
+    for (const QString &line : expected)
+        lines += actual.contains(line) ? QString() : u"  expected  "_s + line;
+    for (const QString &line : actual)
+        lines += expected.contains(line) ? QString() : u"  actual    "_s + line;
+    lines.removeAll(QString());
+    if (lines.isEmpty() && expected != actual)
+        lines += u"  the lines stand in another order"_s;
+    return lines.join(u'\n');
 }
 
 /// Finds the control for @p work, or gives what is wrong with it.
@@ -358,6 +373,35 @@ QString awaitEnd(Stage &, const Step &)
     return u"the program still runs"_s;
 }
 
+/// Compares with the stored text, or rewrites that.
+QString compareDump(Stage &stage, const Step &step)
+{
+    const QStringList words = wordsOf(step.rest);
+    QStringList lines;
+    QString wrong;
+    if (words.value(1).endsWith(u".xls"_s))
+        lines = dumpSheet(stage.file(words[1]));
+    else if (wrong = notReady(stage.window()); wrong.isEmpty())
+        wrong =
+            withControl(stage, words.value(1, stage.window()->objectName()), [&](QWidget *part) {
+                lines = dumpWindow(part);
+                return QString();
+            });
+    if (!wrong.isEmpty())
+        return wrong;
+    QFile stored(stage.stored + words.value(0) + u".txt"_s);
+    if (qEnvironmentVariableIsSet("DESK_ACCEPT")) {
+        if (!stored.open(QIODevice::WriteOnly)
+            || stored.write((lines.join(u'\n') + u'\n').toUtf8()) < 0)
+            qFatal("cannot write %s", qUtf8Printable(stored.fileName()));
+        return {};
+    }
+    if (!stored.open(QIODevice::ReadOnly))
+        return u"no stored text "_s + stored.fileName();
+    const QStringList expected = QString::fromUtf8(stored.readAll()).trimmed().split(u'\n');
+    return linesDiffer(expected, lines);
+}
+
 constexpr std::array Verbs{
     Verb{u"member", 0, addMembers},
     Verb{u"hot", 0, addHotNumbers},
@@ -382,6 +426,7 @@ constexpr std::array Verbs{
     Verb{u"box", NeedsProgram | Checks, readBox},
     Verb{u"refused", NeedsProgram | Checks, readRefusal},
     Verb{u"informed", NeedsProgram | Checks, readStatus},
+    Verb{u"dump", NeedsProgram | Checks, compareDump},
     Verb{u"ends", NeedsProgram | Checks, awaitEnd},
 };
 
