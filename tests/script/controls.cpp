@@ -140,7 +140,7 @@ QString read(const QWidget *control, const QString &part)
                           : control->property(qPrintable(part)).toString();
 }
 
-QStringList gridRows(const QWidget *control)
+QStringList gridRows(const QWidget *control, const QStringList &columns)
 {
     const auto *grid = qobject_cast<const Spread *>(control);
     QStringList rows;
@@ -148,7 +148,9 @@ QStringList gridRows(const QWidget *control)
         QStringList cells;
         bool hot = false;
         for (int column = 1; column <= grid->spreadModel()->columns(); ++column) {
-            if (!grid->isColumnHidden(column))
+            const bool asked = columns.isEmpty() ? !grid->isColumnHidden(column)
+                                                 : columns.contains(QString::number(column));
+            if (asked)
                 cells += grid->text(row, column).trimmed();
             hot = hot || grid->color(row, column).isValid();
         }

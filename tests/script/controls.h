@@ -19,8 +19,9 @@ QString nameOf(const QWidget *control);
 /// "grid[2,1]" is a cell, "grid.active" the active row, "combo.list" its entries, else a property.
 QString read(const QWidget *control, const QString &part);
 
-/// The visible cells of the rows of a grid, parted by "|", " hot" behind a row with a coloured cell.
-QStringList gridRows(const QWidget *grid);
+/// The rows of a grid: the cells in @p columns, or in those that are visible, parted by "|", and
+/// " hot" behind a row with a coloured cell.
+QStringList gridRows(const QWidget *grid, const QStringList &columns);
 
 /// Why @p window cannot be worked in yet, or "".
 QString notReady(const QWidget *window);

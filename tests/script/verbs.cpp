@@ -150,9 +150,11 @@ QString compareFiles(Stage &stage, const Step &step)
 {
     const QStringList parts = step.rest.split(u" => "_s);
     const QFileInfo pattern(stage.file(parts[0]));
-    return differs(
-        parts.value(1),
-        pattern.dir().entryList({pattern.fileName()}, QDir::Files | QDir::Hidden).join(u' '));
+    QStringList names;
+    for (const QFileInfo &file :
+         pattern.dir().entryInfoList({pattern.fileName()}, QDir::Files | QDir::Hidden))
+        names += file.fileName() + (file.size() == 0 ? u"(empty)"_s : QString());
+    return differs(parts.value(1), names.isEmpty() ? u"none"_s : names.join(u' '));
 }
 
 // What a person does.
@@ -292,8 +294,10 @@ QString see(Stage &stage, const Step &step)
 QString seeGrid(Stage &stage, const Step &step)
 {
     const QString name = step.rest.section(u' ', 0, 0);
-    return withControl(stage, name, [&](QWidget *grid) {
-        return rowsDiffer(step.rest.mid(name.size() + 1), gridRows(grid));
+    const QString columns = name.section(u'[', 1).chopped(name.contains(u'[') ? 1 : 0);
+    return withControl(stage, name.section(u'[', 0, 0), [&](QWidget *grid) {
+        return rowsDiffer(step.rest.mid(name.size() + 1),
+                          gridRows(grid, columns.split(u',', Qt::SkipEmptyParts)));
     });
 }
 
@@ -317,11 +321,11 @@ QString describe(const QMessageBox &box)
     return words.join(u' ');
 }
 
-/// Presses the button @p answer of a box with keys, or Enter if it is empty.
+/// Presses the button @p answer of a box with keys, or a key such as "<Esc>", or Enter.
 void answerBox(const QMessageBox &box, const QString &answer)
 {
-    if (answer.isEmpty()) {
-        pressKey(u"<Enter>"_s);
+    if (answer.isEmpty() || answer.startsWith(u'<')) {
+        pressKey(answer.isEmpty() ? u"<Enter>"_s : answer);
         return;
     }
     const auto focused = [] {
