@@ -6,14 +6,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QGroupBox>
-#include <QHeaderView>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
 #include <QProgressBar>
-#include <QPushButton>
-#include <QRegularExpression>
 #include <QTabBar>
 #include <QTest>
 #include <QWindow>
@@ -22,94 +16,86 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString plain(const QString &caption)
-{
-    return QString(caption).remove(u'&').trimmed();
-}
-
 QWidget *findIn(QWidget *parent, const QString &name)
 {
-    if (parent->objectName() == name)
-        return parent;
+    if (auto *page = parent->findChild<QWidget *>(u"pageArea"_s)) {
+        if (QWidget *found = findIn(page, name))
+            return found;
+    }
     if (auto *named = parent->findChild<QWidget *>(name))
         return named;
     for (auto *button : parent->findChildren<QAbstractButton *>()) {
-        if (button->isVisible() && plain(button->text()) == name)
+        if (button->isVisible() && button->text().remove(u'&').trimmed() == name)
             return button;
     }
-    return nullptr;
-}
-
-QString tabsOf(const QTabBar &tabs)
-{
-    QStringList captions;
-    for (int tab = 0; tab < tabs.count(); ++tab) {
-        const QString caption = tabs.tabText(tab).trimmed();
-        captions += tab == tabs.currentIndex() ? u'[' + caption + u']' : caption;
-    }
-    return captions.join(u'|');
+    return parent->objectName() == name ? parent : nullptr;
 }
 
 QString textOf(const QWidget *control)
 {
-    if (const auto *tabs = qobject_cast<const QTabBar *>(control))
-        return tabsOf(*tabs);
-    if (const auto *combo = qobject_cast<const QComboBox *>(control))
-        return combo->currentText();
+    if (const auto *tabs = qobject_cast<const QTabBar *>(control)) {
+        QStringList captions;
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            const QString caption = tabs->tabText(tab).trimmed();
+            captions += tab == tabs->currentIndex() ? u'[' + caption + u']' : caption;
+        }
+        return captions.join(u'|');
+    }
     if (const auto *bar = qobject_cast<const QProgressBar *>(control))
         return QString::number(bar->value());
-    if (control->isWindow())
-        return control->windowTitle();
-    for (const char *property : {"text", "title", "plainText"}) {
+    for (const char *property : {"currentText", "text", "title", "plainText"}) {
         if (const QVariant text = control->property(property); text.isValid())
             return text.toString();
     }
-    return {};
+    return control->isWindow() ? control->windowTitle() : QString();
 }
 
-QString entriesOf(const QComboBox &combo)
+/// Two numbers such as "-999,2".
+std::optional<std::pair<int, int>> cellOf(const QString &text)
 {
-    QStringList entries;
-    for (int at = 0; at < combo.count(); ++at)
-        entries += combo.itemText(at);
-    return entries.join(u'|');
+    const QStringList numbers = text.split(u',');
+    if (numbers.size() != 2)
+        return std::nullopt;
+    return std::pair(numbers[0].toInt(), numbers[1].toInt());
 }
 
-/// Place of a click in @p control, in whose coordinates it is given; invalid if there is none.
-std::optional<QPoint> placeIn(QWidget *control, const QString &place)
+/// Where a click goes, in the window; outside of it if there is no such place.
+QPoint placeIn(QWidget *control, const QString &place)
 {
-    static const QRegularExpression cell(u"^(\\d+),(\\d+)$"_s);
-    if (const auto match = cell.match(place); match.hasMatch()) {
-        auto *grid = qobject_cast<Spread *>(control);
-        const auto index =
-            grid->model()->index(match.captured(1).toInt() - 1, match.captured(2).toInt());
-        grid->scrollTo(index);
-        const QRect rect = grid->visualRect(index);
-        return rect.isEmpty() ? std::nullopt
-                              : std::optional(grid->viewport()->mapTo(grid, rect.center()));
-    }
-    if (place == u"below"_s) {
-        auto *grid = qobject_cast<Spread *>(control);
-        const QRect rows = grid->viewport()->rect();
-        return grid->viewport()->mapTo(grid, QPoint(rows.center().x(), rows.bottom() - 2));
-    }
-    if (const auto *tabs = qobject_cast<QTabBar *>(control))
-        return tabs->tabRect(place.toInt()).center();
     const auto *button = qobject_cast<QAbstractButton *>(control);
-    if (button && button->isCheckable())
-        return QPoint(8, control->height() / 2);
-    return control->rect().center();
+    QPoint at = button && button->isCheckable() ? QPoint(8, control->height() / 2)
+                                                : control->rect().center();
+    if (auto *grid = qobject_cast<Spread *>(control)) {
+        QRect rect = grid->viewport()->rect();
+        if (const auto cell = cellOf(place)) {
+            const auto index = grid->model()->index(cell->first - 1, cell->second);
+            grid->scrollTo(index);
+            rect = index.isValid() ? grid->visualRect(index) : QRect(-9, -9, 1, 1);
+        } else if (place == u"below"_s) {
+            rect.setTop(rect.bottom() - 4);
+        }
+        at = grid->viewport()->mapTo(grid, rect.center());
+    } else if (const auto *tabs = qobject_cast<QTabBar *>(control)) {
+        at = tabs->tabRect(place.toInt()).center();
+    }
+    return control->mapTo(control->window(), at);
 }
 
 } // namespace
+
+void expect(const QString &expected, const QString &actual)
+{
+    if (expected != actual)
+        throw NotYet{u"  expected  "_s + expected + u"\n  actual    "_s + actual};
+}
 
 QWidget *findControl(QWidget *window, const QString &name)
 {
     QWidget *found = window;
     for (const QString &part : name.split(u'.')) {
-        auto *page = found ? found->findChild<QWidget *>(u"pageArea"_s) : nullptr;
-        QWidget *onPage = page ? findIn(page, part) : nullptr;
-        found = onPage ? onPage : found ? findIn(found, part) : nullptr;
+        found = found ? findIn(found, part) : nullptr;
+        if (!found)
+            throw NotYet{u"no control %1 in %2"_s.arg(name, nameOf(window))};
     }
     return found;
 }
@@ -124,16 +110,19 @@ QString nameOf(const QWidget *control)
 
 QString read(const QWidget *control, const QString &part)
 {
-    static const QRegularExpression cell(u"^(-?\\d+),(\\d+)$"_s);
-    const auto *grid = qobject_cast<const Spread *>(control);
-    if (const auto match = cell.match(part); grid && match.hasMatch())
-        return grid->text(match.captured(1).toInt(), match.captured(2).toInt()).trimmed();
-    if (grid && part == u"active"_s)
-        return QString::number(grid->activeRow());
-    if (grid && part == u"rows"_s)
-        return QString::number(grid->rows());
-    if (const auto *combo = qobject_cast<const QComboBox *>(control); combo && part == u"list"_s)
-        return entriesOf(*combo);
+    const auto *combo = qobject_cast<const QComboBox *>(control);
+    if (const auto *grid = qobject_cast<const Spread *>(control)) {
+        if (const auto cell = cellOf(part))
+            return grid->text(cell->first, cell->second).trimmed();
+        if (part == u"active"_s || part == u"rows"_s)
+            return QString::number(part == u"active"_s ? grid->activeRow() : grid->rows());
+    }
+    if (combo && part == u"list"_s) {
+        QStringList entries;
+        for (int at = 0; at < combo->count(); ++at)
+            entries += combo->itemText(at);
+        return entries.join(u'|');
+    }
     if (part == u"base"_s)
         return control->palette().base().color().name();
     return part.isEmpty() ? textOf(control).trimmed()
@@ -148,24 +137,14 @@ QStringList gridRows(const QWidget *control, const QStringList &columns)
         QStringList cells;
         bool hot = false;
         for (int column = 1; column <= grid->spreadModel()->columns(); ++column) {
-            const bool asked = columns.isEmpty() ? !grid->isColumnHidden(column)
-                                                 : columns.contains(QString::number(column));
-            if (asked)
+            if (columns.isEmpty() ? !grid->isColumnHidden(column)
+                                  : columns.contains(QString::number(column)))
                 cells += grid->text(row, column).trimmed();
             hot = hot || grid->color(row, column).isValid();
         }
         rows += cells.join(u'|') + (hot ? u" hot"_s : QString());
     }
     return rows;
-}
-
-QString notReady(const QWidget *window)
-{
-    if (!window)
-        return u"no window is open"_s;
-    if (QApplication::activeWindow() != window && !QApplication::activePopupWidget())
-        return u"the window %1 is not active"_s.arg(window->objectName());
-    return {};
 }
 
 void pressKey(const QString &key)
@@ -176,38 +155,34 @@ void pressKey(const QString &key)
                             Qt::NoModifier);
         return;
     }
-    QString name = key.sliced(1).chopped(1);
-    name.replace(QRegularExpression(u"^Enter$"_s), u"Return"_s);
+    const QString name = key == u"<Enter>"_s ? u"Return"_s : key.sliced(1).chopped(1);
     const QKeySequence keys(name, QKeySequence::PortableText);
     if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown)
         qFatal("no key %s", qUtf8Printable(key));
-    const QKeyCombination pressed = keys[0];
-    const QString text = pressed.key() == Qt::Key_Space ? u" "_s : QString();
-    QTest::sendKeyEvent(QTest::Click, window, pressed.key(), text, pressed.keyboardModifiers());
+    QTest::sendKeyEvent(QTest::Click, window, keys[0].key(),
+                        keys[0].key() == Qt::Key_Space ? u" "_s : QString(),
+                        keys[0].keyboardModifiers());
 }
 
-QString click(QWidget *control, const QString &place, const QString &how)
+void click(QWidget *control, const QString &place, const QString &how)
 {
     QWindow *window = control->window()->windowHandle();
     QList<QPoint> places;
     for (const QString &each : place.split(u'>')) {
-        const auto in = placeIn(control, each);
-        const QPoint at = in ? control->mapTo(control->window(), *in) : QPoint(-1, -1);
-        QWidget *there = control->window()->childAt(at);
+        places += placeIn(control, each);
+        const QWidget *there = control->window()->childAt(places.last());
         if (!there || (there != control && !control->isAncestorOf(there)))
-            return u"%1 cannot be clicked there: it is hidden or covered by %2"_s.arg(
-                nameOf(control), nameOf(there));
-        places += at;
+            throw NotYet{u"%1 cannot be clicked there: it is hidden or covered by %2"_s.arg(
+                nameOf(control), nameOf(there))};
     }
-    const Qt::MouseButton button = how == u"right"_s ? Qt::RightButton : Qt::LeftButton;
+    const auto button = how == u"right"_s ? Qt::RightButton : Qt::LeftButton;
     if (how == u"double"_s) {
-        QTest::mouseDClick(window, Qt::LeftButton, {}, places.first());
-    } else if (places.size() > 1) {
+        QTest::mouseDClick(window, button, {}, places.first());
+    } else if (places.size() == 1) {
+        QTest::mouseClick(window, button, {}, places.first());
+    } else {
         QTest::mousePress(window, button, {}, places.first());
         QTest::mouseMove(window, places.last());
         QTest::mouseRelease(window, button, {}, places.last());
-    } else {
-        QTest::mouseClick(window, button, {}, places.first());
     }
-    return {};
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "script/player.h"
 
+#include "script/controls.h"
 #include "script/verbs.h"
 
 #include <QApplication>
@@ -81,11 +82,9 @@ void Player::play()
 {
     if (!m_running.isEmpty()) {
         Running &outer = *m_running.last();
-        if (!showsWindowSince(outer.shown)) {
-            wait(u"the step has not come back"_s);
-            return;
-        }
-        if (!std::exchange(outer.done, true))
+        if (!showsWindowSince(outer.shown))
+            return wait(u"the step has not come back"_s);
+        if (!std::exchange(outer.done, true) && !outer.starts)
             next();
     }
     if (m_step < m_cases[m_case].steps.size())
@@ -104,22 +103,25 @@ bool Player::showsWindowSince(int shown) const
 
 void Player::runStep()
 {
-    const Step &played = step();
-    const Verb &verb = *findVerb(played.verb);
     tellPlace();
-    if (const QMessageBox *box = Stage::box(); box && verb.has(Acts))
+    const bool starts = findVerb(step().verb)->is(InProgram) && !m_stage.started;
+    const Verb &verb = *findVerb(starts ? u"start"_s : step().verb);
+    if (const QMessageBox *box = Stage::box(); box && verb.is(Acts))
         fail(u"nobody has read the box: "_s + box->text());
-    Running running{m_shown};
+    Running running{m_shown, starts};
     m_running += &running;
-    const QString wrong = verb.run(m_stage, played);
-    m_running.removeLast();
-    if (running.done)
-        return;
-    if (!wrong.isEmpty()) {
-        wait(wrong);
-        return;
+    QString wrong;
+    try {
+        verb.run(m_stage, step());
+    } catch (const NotYet &notYet) {
+        wrong = notYet.reason;
     }
-    m_hasChecked = m_hasChecked || verb.has(Checks);
+    m_running.removeLast();
+    if (!running.done && !wrong.isEmpty())
+        wait(wrong);
+    if (running.done || starts || !wrong.isEmpty())
+        return;
+    m_hasChecked = m_hasChecked || verb.is(Checks);
     next();
     arm(0);
 }

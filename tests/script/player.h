@@ -33,6 +33,7 @@ private:
     struct Running
     {
         int shown;         ///< windows shown before it
+        bool starts;       ///< not the step itself, but the program for it
         bool done = false; ///< it waits for a window that it has opened
     };
 

@@ -6,8 +6,6 @@
 #include <QFile>
 #include <QRegularExpression>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -23,131 +21,95 @@ struct Line
     qFatal("%s:%d: %s", qUtf8Printable(path), line, qUtf8Printable(reason));
 }
 
-const QRegularExpression &rawWord()
+QList<QRegularExpressionMatch> matchesOf(const QString &text)
 {
     static const QRegularExpression word(uR"("(?:[^"\\]|\\.)*"|\S+)"_s);
-    return word;
+    QList<QRegularExpressionMatch> matches;
+    for (const auto &match : word.globalMatch(text))
+        matches += match;
+    return matches;
 }
 
-QStringList rawWordsOf(const QString &text)
+QString withoutQuotes(const QString &word)
 {
-    QStringList words;
-    for (const auto &match : rawWord().globalMatch(text))
-        words += match.captured();
-    return words;
+    return word.startsWith(u'"') ? word.sliced(1).chopped(1) : word;
 }
 
-/// The lines that say something. One that begins with "/" goes on with the line before.
+/// @p text with the words of @p row for $1, $2 ... Within other words they lose their quotes.
+QString filledIn(QString text, const QString &row)
+{
+    const auto words = matchesOf(row);
+    const auto parts = matchesOf(text);
+    for (auto part = parts.crbegin(); part != parts.crend(); ++part) {
+        QString filled = part->captured();
+        for (qsizetype at = words.size(); at > 0; --at) {
+            const QString name = u'$' + QString::number(at);
+            const QString word = words[at - 1].captured();
+            filled.replace(name, part->captured() == name ? word : withoutQuotes(word));
+        }
+        text.replace(part->capturedStart(), part->capturedLength(), filled);
+    }
+    return text;
+}
+
+/// The lines that say something. One that begins with "/" goes on with the line before. Those
+/// between "each ROWS" and "end" stand there for each row.
 QList<Line> readLines(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qUtf8Printable(path));
     QList<Line> lines;
+    qsizetype each = -1;
     int number = 0;
     for (const QString &read : QString::fromUtf8(file.readAll()).split(u'\n')) {
         const QString text = read.trimmed();
         ++number;
         if (text.startsWith(u"/ "_s) && !lines.isEmpty())
             lines.last().text += u' ' + text;
-        else if (!text.isEmpty() && !text.startsWith(u'#'))
+        else if (text == u"end"_s && each >= 0) {
+            const QList<Line> body = lines.sliced(each + 1);
+            const QStringList rows = rowsOf(lines[each].text.mid(5));
+            lines.resize(each);
+            for (const QString &row : rows) {
+                for (const Line &line : body)
+                    lines += {line.number, filledIn(line.text, row)};
+            }
+            each = -1;
+        } else if (!text.isEmpty() && !text.startsWith(u'#')) {
+            each = text.startsWith(u"each "_s) ? lines.size() : each;
             lines += {number, text};
+        }
     }
     return lines;
-}
-
-/// @p text with @p words for $1, $2 ... Within other words they lose their quotes.
-QString filledIn(QString text, const QStringList &words)
-{
-    QList<QRegularExpressionMatch> parts;
-    for (const auto &match : rawWord().globalMatch(text))
-        parts.prepend(match);
-    for (const auto &match : std::as_const(parts)) {
-        QString part = match.captured();
-        for (qsizetype at = words.size(); at > 0; --at) {
-            const QString name = u'$' + QString::number(at);
-            const QString &word = words[at - 1];
-            const bool quoted = word.startsWith(u'"') && part != name;
-            part.replace(name, quoted ? word.sliced(1).chopped(1) : word);
-        }
-        text.replace(match.capturedStart(), match.capturedLength(), part);
-    }
-    return text;
-}
-
-/// Repeats the lines between "each ROWS" and "end" for each row, whose words stand for $1, $2 ...
-QList<Line> repeatLines(const QString &path, const QList<Line> &lines)
-{
-    QList<Line> repeated;
-    QStringList rows;
-    qsizetype first = -1;
-    for (const Line &line : lines) {
-        if (line.text.startsWith(u"each "_s)) {
-            first = repeated.size();
-            rows = rowsOf(line.text.sliced(5));
-        } else if (line.text == u"end"_s && first >= 0) {
-            const QList<Line> body = repeated.sliced(std::exchange(first, -1));
-            repeated.resize(repeated.size() - body.size());
-            for (const QString &row : std::as_const(rows)) {
-                const QStringList words = rawWordsOf(row);
-                for (const Line &each : body)
-                    repeated += {each.number, filledIn(each.text, words)};
-            }
-        } else {
-            repeated += line;
-        }
-    }
-    if (first >= 0)
-        refuseScript(path, lines.last().number, u"\"each\" without \"end\""_s);
-    return repeated;
 }
 
 /// The keys of "<F5>" are one step, and so is each character of other words.
 void addKeys(QList<Step> &steps, const Step &line, const QStringList &words)
 {
-    static const QRegularExpression named(uR"(^<(.+)>(?:\*(\d+))?$)"_s);
+    static const QRegularExpression named(uR"(^(<.+>)(?:\*(\d+))?$)"_s);
     for (const QString &word : words) {
-        if (const auto key = named.match(word); key.hasMatch()) {
-            for (int left = qMax(1, key.captured(2).toInt()); left > 0; --left)
-                steps += {line.line, u"key"_s, u'<' + key.captured(1) + u'>', line.text};
-        } else {
-            for (const QChar letter : word)
-                steps += {line.line, u"key"_s, letter, line.text};
-        }
+        const auto key = named.match(word);
+        const QStringList keys =
+            key.hasMatch() ? QStringList(qMax(1, key.captured(2).toInt()), key.captured(1))
+                           : word.split(QString(), Qt::SkipEmptyParts);
+        for (const QString &each : keys)
+            steps += {line.line, u"key"_s, each, {each}, line.text};
     }
 }
 
 void addStep(QList<Step> &steps, const Step &step)
 {
-    const QStringList words = wordsOf(step.rest);
-    if (step.verb == u"key"_s) {
-        addKeys(steps, step, words);
-    } else if (step.verb == u"at"_s) {
+    if (step.verb != u"key"_s)
         steps += step;
-        addKeys(steps, step, words.mid(2));
-    } else if (step.verb == u"type"_s) {
-        steps += step;
-        if (words.value(1).isEmpty())
-            addKeys(steps, step, {u"<Backspace>"_s});
-        addKeys(steps, step, words.mid(1));
-    } else {
-        steps += step;
-    }
-}
-
-/// The program starts before the first step that needs it, and again behind its end.
-QList<Step> withStarts(const QList<Step> &steps)
-{
-    QList<Step> all;
-    bool runs = false;
-    for (const Step &step : steps) {
-        if (!runs && findVerb(step.verb)->has(NeedsProgram))
-            all += {step.line, u"start"_s, {}, step.text};
-        runs = (runs || findVerb(step.verb)->has(NeedsProgram) || step.verb == u"start"_s)
-               && step.verb != u"ends"_s;
-        all += step;
-    }
-    return all;
+    if (step.verb == u"key"_s)
+        addKeys(steps, step, step.words);
+    else if (step.verb == u"at"_s)
+        addKeys(steps, step, step.words.mid(2));
+    else if (step.verb == u"type"_s)
+        addKeys(steps, step,
+                step.words.value(1).isEmpty() ? QStringList(u"<Backspace>"_s) << step.words.mid(2)
+                                              : step.words.mid(1));
 }
 
 } // namespace
@@ -155,40 +117,39 @@ QList<Step> withStarts(const QList<Step> &steps)
 QStringList wordsOf(const QString &text)
 {
     QStringList words;
-    for (QString word : rawWordsOf(text)) {
-        if (word.size() > 1 && word.startsWith(u'"') && word.endsWith(u'"')) {
-            word = word.sliced(1).chopped(1);
-            word.replace(u"\\n"_s, u"\n"_s).replace(u"\\\""_s, u"\""_s);
-        }
-        words += word;
+    for (const auto &match : matchesOf(text)) {
+        const QString word = match.captured();
+        words += word.startsWith(u'"')
+                     ? withoutQuotes(word).replace(u"\\n"_s, u"\n"_s).replace(u"\\\""_s, u"\""_s)
+                     : word;
     }
     return words;
 }
 
 QStringList rowsOf(const QString &text)
 {
-    return text.split(u" / "_s);
+    QStringList rows;
+    for (const QString &row : text.split(u" / "_s))
+        rows += row.trimmed();
+    return text == u"none"_s ? QStringList() : rows;
 }
 
 QList<Case> readScript(const QString &path)
 {
     QList<Step> before;
     QList<Case> cases;
-    for (const Line &line : repeatLines(path, readLines(path))) {
+    for (const Line &line : readLines(path)) {
         const QString verb = line.text.section(u' ', 0, 0);
-        const QString rest = line.text.mid(verb.size() + 1).trimmed();
-        if (verb == u"case"_s) {
+        const QString rest = line.text.mid(verb.size() + 1);
+        if (verb == u"case"_s)
             cases += {rest, before};
-            continue;
-        }
-        if (!findVerb(verb))
+        else if (!findVerb(verb))
             refuseScript(path, line.number, u"no verb "_s + verb);
-        addStep(cases.isEmpty() ? before : cases.last().steps,
-                {line.number, verb, rest, line.text});
+        else
+            addStep(cases.isEmpty() ? before : cases.last().steps,
+                    {line.number, verb, rest, wordsOf(rest), line.text});
     }
     if (cases.isEmpty())
         refuseScript(path, 1, u"no case"_s);
-    for (Case &each : cases)
-        each.steps = withStarts(each.steps);
     return cases;
 }

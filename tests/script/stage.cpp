@@ -10,6 +10,7 @@
 #include "ledger/ledger.h"
 #include "ledger/salt.h"
 #include "program.h"
+#include "script/controls.h"
 #include "support/testledger.h"
 
 #include <QApplication>
@@ -60,6 +61,7 @@ void Stage::reset()
     QApplication::setQuitOnLastWindowClosed(true);
     CloseLedger();
     leaveOnlyInstance();
+    started = false;
     MemberFilterOn = false; // as in a new process
     if (!QDir(m_folder).removeRecursively())
         qFatal("cannot remove %s", qUtf8Printable(m_folder));
@@ -85,6 +87,7 @@ QStringList Stage::run(const QString &sql, const QVariantList &values)
 
 void Stage::start()
 {
+    started = true;
     CloseLedger();
     m_main = startProgram();
     if (!m_main)
@@ -101,7 +104,18 @@ QWidget *Stage::window() const
     QWidget *top = QApplication::activeModalWidget();
     while (qobject_cast<QMessageBox *>(top))
         top = top->parentWidget() ? top->parentWidget()->window() : nullptr;
+    QWidget *found = chosen && chosen->isVisible() ? chosen.data() : m_main.get();
     if (top && top->isModal())
-        return top;
-    return chosen && chosen->isVisible() ? chosen.data() : m_main.get();
+        found = top;
+    if (!found)
+        throw NotYet{u"no window is open"_s};
+    return found;
+}
+
+QWidget *Stage::activeWindow() const
+{
+    QWidget *found = window();
+    if (QApplication::activeWindow() != found && !QApplication::activePopupWidget())
+        throw NotYet{u"the window %1 is not active"_s.arg(found->objectName())};
+    return found;
 }

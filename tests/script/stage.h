@@ -34,12 +34,18 @@ public:
     /// Starts the program; ends the process as main() does if it does not want to run.
     void start();
 
-    /// The window in which controls are looked for: the one named by "in", the dialog on top, or
-    /// the main window. A box is none.
+    /// The window in which controls are looked for: the dialog on top, the one chosen by "in", or the
+    /// main window. A box is none. Throws NotYet if there is no window.
     QWidget *window() const;
-    QPointer<QWidget> chosen; ///< by "in"
+    QPointer<QWidget> chosen;
 
-    QString stored; ///< folder of the texts that dumps are compared with, with a slash
+    /// The same once it is active.
+    QWidget *activeWindow() const;
+
+    /// Folder of the texts that dumps are compared with, with a slash.
+    QString stored;
+
+    bool started = false; ///< or starting
 
     /// The box on top, or nullptr.
     static QMessageBox *box();

@@ -6,9 +6,9 @@
 #include "script/stage.h"
 
 enum VerbTrait {
-    NeedsProgram = 1, ///< works in the windows
-    Acts = 2,         ///< what a person does, who has read each box by then
-    Checks = 4,       ///< a case needs one of these
+    InProgram = 1, ///< works in the windows
+    Acts = 2,      ///< what a person does, who has read each box by then
+    Checks = 4,    ///< a case needs one of these
 };
 
 struct Verb
@@ -16,11 +16,10 @@ struct Verb
     QStringView name;
     int traits;
 
-    /// Does the step. Gives "" once it is done, else what is not as it has to be; nothing has been
-    /// done by then, and the player tries again for some seconds.
-    QString (*run)(Stage &stage, const Step &step);
+    /// Does the step, or throws NotYet before it has done anything.
+    void (*run)(Stage &stage, const Step &step);
 
-    bool has(VerbTrait trait) const { return (traits & trait) != 0; }
+    bool is(VerbTrait trait) const { return (traits & trait) != 0; }
 };
 
 /// The verb of that name, or nullptr.
