@@ -149,7 +149,8 @@ QStringList gridRows(const QWidget *control, const QStringList &columns)
 
 void pressKey(const QString &key)
 {
-    QWindow *window = QGuiApplication::focusWindow();
+    const QWidget *popup = QApplication::activePopupWidget();
+    QWindow *window = popup ? popup->windowHandle() : QGuiApplication::focusWindow();
     if (key.size() == 1) {
         QTest::sendKeyEvent(QTest::Click, window, Qt::Key(key[0].toUpper().unicode()), key,
                             Qt::NoModifier);

@@ -116,6 +116,7 @@ QWidget *Stage::activeWindow() const
 {
     QWidget *found = window();
     if (QApplication::activeWindow() != found && !QApplication::activePopupWidget())
-        throw NotYet{u"the window %1 is not active"_s.arg(found->objectName())};
+        throw NotYet{
+            u"active is %1, not %2"_s.arg(nameOf(QApplication::activeWindow()), nameOf(found))};
     return found;
 }

@@ -176,6 +176,16 @@ void chooseEntry(Stage &stage, const Step &step)
     combo->showPopup();
     combo->view()->setCurrentIndex(combo->model()->index(entry, combo->modelColumn()));
     pressKey(u"<Enter>"_s);
+    stage.window()->activateWindow(); // the offscreen platform does not
+}
+
+/// In the dialog that asks for a file: saves in the program's folder.
+void saveAs(Stage &stage, const Step &step)
+{
+    QWidget *field = findControl(stage.activeWindow(), u"fileNameEdit"_s);
+    field->setProperty("text", stage.file(step.rest));
+    field->setFocus();
+    pressKey(u"<Enter>"_s);
 }
 
 void closeWindow(Stage &stage, const Step &)
@@ -224,9 +234,10 @@ void seeFocus(Stage &stage, const Step &step)
     expect(step.rest, nameOf(QApplication::focusWidget()));
 }
 
-/// A box in the words of a script: warning OK [Cancel] "title" "text".
-QString describe(const QMessageBox &box)
+/// A box in the words of a script: warning OK [Cancel] "title" "text". The program's folder is FOLDER.
+QString describe(const Stage &stage, const QMessageBox &box)
 {
+    const QString folder = QDir::toNativeSeparators(stage.file({}));
     constexpr std::array Icons{u"none", u"information", u"warning", u"critical", u"question"};
     QStringList words{QString::fromUtf16(Icons.at(size_t(box.icon())))};
     for (QAbstractButton *button : box.buttons()) {
@@ -235,15 +246,18 @@ QString describe(const QMessageBox &box)
         words += preselected ? u'[' + caption + u']' : caption;
     }
     for (QString text : {box.windowTitle(), box.text()})
-        words += u'"' + text.replace(u'"', u"\\\""_s).replace(u'\n', u"\\n"_s) + u'"';
+        words +=
+            u'"'
+            + text.replace(folder, u"FOLDER/"_s).replace(u'"', u"\\\""_s).replace(u'\n', u"\\n"_s)
+            + u'"';
     return words.join(u' ');
 }
 
 /// Compares the box on top and presses its button @p answer with keys, or a key such as "<Esc>".
-void answerBox(const QString &expected, const QString &answer)
+void answerBox(const Stage &stage, const QString &expected, const QString &answer)
 {
     const QMessageBox *box = Stage::box();
-    expect(expected, box ? describe(*box) : u"no box"_s);
+    expect(expected, box ? describe(stage, *box) : u"no box"_s);
     if (!box->isActiveWindow() || !box->isAncestorOf(QApplication::focusWidget()))
         throw NotYet{u"the box is not active"_s};
     if (answer.startsWith(u'<'))
@@ -258,21 +272,21 @@ void answerBox(const QString &expected, const QString &answer)
     }
 }
 
-void readBox(Stage &, const Step &step)
+void readBox(Stage &stage, const Step &step)
 {
     const qsizetype arrow = step.rest.lastIndexOf(u" -> "_s);
-    answerBox(arrow < 0 ? step.rest : step.rest.first(arrow),
+    answerBox(stage, arrow < 0 ? step.rest : step.rest.first(arrow),
               arrow < 0 ? u"<Enter>"_s : step.rest.sliced(arrow + 4));
 }
 
-void readRefusal(Stage &, const Step &step)
+void readRefusal(Stage &stage, const Step &step)
 {
-    answerBox(u"warning [OK] \"รายงานสถานะ\" "_s + step.rest, u"<Enter>"_s);
+    answerBox(stage, u"warning [OK] \"รายงานสถานะ\" "_s + step.rest, u"<Enter>"_s);
 }
 
-void readStatus(Stage &, const Step &step)
+void readStatus(Stage &stage, const Step &step)
 {
-    answerBox(u"information [OK] \"รายงานสถานะ\" "_s + step.rest, u"<Enter>"_s);
+    answerBox(stage, u"information [OK] \"รายงานสถานะ\" "_s + step.rest, u"<Enter>"_s);
 }
 
 /// Whoever started this process sees its end.
@@ -320,6 +334,7 @@ constexpr std::array Verbs{
     Verb{u"key", InProgram | Acts, pressKeyInFocus},
     Verb{u"type", InProgram | Acts, enterField},
     Verb{u"choose", InProgram | Acts, chooseEntry},
+    Verb{u"save", InProgram | Acts, saveAs},
     Verb{u"close", InProgram | Acts, closeWindow},
     Verb{u"see", InProgram | Checks, see},
     Verb{u"grid", InProgram | Checks, seeGrid},
