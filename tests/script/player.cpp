@@ -19,9 +19,9 @@ namespace {
 constexpr const char *ShownProperty = "shownAs"; ///< number of a window, in the order they came up
 
 #if defined(Q_OS_WIN) || defined(__SANITIZE_ADDRESS__)
-constexpr int MostWait = 20'000; // milliseconds
+constexpr int MostWait = 30'000; // milliseconds
 #else
-constexpr int MostWait = 5'000;
+constexpr int MostWait = 10'000;
 #endif
 
 QWidgetList openDialogs()
