@@ -116,6 +116,7 @@ int main(int argc, char **argv)
         return good ? 0 : 1;
     }
     qInstallMessageHandler(printMessage);
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); // they take no keys from a program
     const Application application(argc, argv);
     const QStringList arguments = application.arguments().sliced(2);
     const QList<Case> cases = readScript(arguments.value(3));
