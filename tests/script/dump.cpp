@@ -12,6 +12,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QRegularExpression>
 #include <QStringDecoder>
 #include <QtEndian>
 
@@ -131,12 +132,13 @@ QStringList dumpPages(const ReportPages &report)
     return lines;
 }
 
-QStringList indented(const QStringList &lines)
+/// What stands in a grid or on the pages of a report.
+QStringList contentOf(const QWidget &control)
 {
-    QStringList all;
-    for (const QString &line : lines)
-        all += u"    "_s + line;
-    return all;
+    const auto *grid = qobject_cast<const Spread *>(&control);
+    const auto *pages = qobject_cast<const PageView *>(&control);
+    QStringList lines = grid ? dumpGrid(*grid) : pages ? dumpPages(pages->report()) : QStringList();
+    return lines.replaceInStrings(QRegularExpression(u"^"_s), u"    "_s);
 }
 
 /// What a person sees as one control, or reads.
@@ -235,18 +237,17 @@ private:
 
 QStringList dumpWindow(QWidget *window)
 {
-    QStringList lines{window->objectName() + u' ' + quoted(read(window, {}))};
-    for (QWidget *each = window->nextInFocusChain(); each != window;
-         each = each->nextInFocusChain()) {
-        if (!window->isAncestorOf(each) || !each->isVisible() || each->window() != window->window()
-            || !isControl(each))
-            continue;
-        lines += describe(each);
-        if (const auto *grid = qobject_cast<Spread *>(each))
-            lines += indented(dumpGrid(*grid));
-        else if (const auto *pages = qobject_cast<PageView *>(each))
-            lines += indented(dumpPages(pages->report()));
-    }
+    QStringList lines{window->objectName() + u' ' + quoted(read(window))};
+    QWidget *each = window;
+    do {
+        const bool shown = each->isVisible() && each->window() == window->window()
+                           && (each == window || window->isAncestorOf(each));
+        if (shown && each != window && isControl(each))
+            lines += describe(each);
+        if (shown)
+            lines += contentOf(*each);
+        each = each->nextInFocusChain();
+    } while (each != window);
     return lines;
 }
 
