@@ -119,9 +119,11 @@ QStringList wordsOf(const QString &text)
     QStringList words;
     for (const auto &match : matchesOf(text)) {
         const QString word = match.captured();
-        words += word.startsWith(u'"')
-                     ? withoutQuotes(word).replace(u"\\n"_s, u"\n"_s).replace(u"\\\""_s, u"\""_s)
-                     : word;
+        words += word.startsWith(u'"') ? withoutQuotes(word)
+                                             .replace(u"\\n"_s, u"\n"_s)
+                                             .replace(u"\\t"_s, u"\t"_s)
+                                             .replace(u"\\\""_s, u"\""_s)
+                                       : word;
     }
     return words;
 }

@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QHash>
@@ -91,6 +92,11 @@ void setClockTo(Stage &, const Step &step)
 void setRegion(Stage &, const Step &step)
 {
     setMachineRegion(QLocale(step.rest));
+}
+
+void copyText(Stage &, const Step &step)
+{
+    QApplication::clipboard()->setText(step.words.value(0));
 }
 
 void writeFile(Stage &stage, const Step &step)
@@ -324,6 +330,7 @@ constexpr std::array Verbs{
     Verb{u"sql", Checks, runSql},
     Verb{u"clock", 0, setClockTo},
     Verb{u"region", 0, setRegion},
+    Verb{u"clip", 0, copyText},
     Verb{u"write", 0, writeFile},
     Verb{u"files", Checks, compareFiles},
     Verb{u"start", 0, start},
