@@ -162,7 +162,8 @@ public:
         for (int parts = 0; next >= 0 && parts < 2; parts += m_kind == EndOfPart ? 1 : 0) {
             m_at = next + 4;
             m_kind = number(-4);
-            next = m_at + number(-2);
+            m_size = number(-2);
+            next = m_at + m_size;
             readRecord();
         }
         return m_lines;
@@ -178,7 +179,7 @@ private:
     void readRecord()
     {
         enum { Font = 0x31, Pane = 0x41, Column = 0x7d, Setup = 0xa1, Format = 0xe0, Texts = 0xfc };
-        enum { TextCell = 0xfd, NumberCell = 0x203 };
+        enum { TextCell = 0xfd, NumberCell = 0x203, PrintTitles = 0x18 };
         if (m_kind == Font)
             m_bold += number(6) > 400;
         else if (m_kind == Format)
@@ -189,6 +190,9 @@ private:
             m_lines += u"column %1 width %2"_s.arg(number(0)).arg(number(4));
         else if (m_kind == Pane)
             m_lines += u"frozen rows %1"_s.arg(number(2));
+        else if (m_kind == PrintTitles)
+            m_lines +=
+                u"repeated rows %1 to %2"_s.arg(number(m_size - 8) + 1).arg(number(m_size - 6) + 1);
         else if (m_kind == Setup)
             m_lines += u"paper %1"_s.arg(number(0)) + when((number(10) & 2) == 0, u"landscape"_s);
         else if (m_kind == TextCell)
@@ -227,6 +231,7 @@ private:
     QByteArray m_bytes;
     qsizetype m_at = 0; ///< of the record's content
     int m_kind = 0;
+    int m_size = 0;
     QList<bool> m_bold;
     QStringList m_formats;
     QStringList m_texts;

@@ -48,11 +48,7 @@ Stage::Stage(const QString &place) : m_place(place), m_folder(place + u"/program
     setClock([] { return QDateTime({2026, 11, 16}, {10, 0}); });
 }
 
-Stage::~Stage()
-{
-    m_main.reset();
-    CloseLedger();
-}
+Stage::~Stage() = default; // as main() does, and no more
 
 void Stage::reset()
 {

@@ -14,10 +14,12 @@
 #include <QComboBox>
 #include <QDir>
 #include <QHash>
+#include <QInputMethodEvent>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <array>
@@ -158,6 +160,24 @@ void pressKeyInFocus(Stage &stage, const Step &step)
     if (stage.activeWindow() && !QApplication::focusWidget())
         throw NotYet{u"no control has the focus"_s};
     pressKey(step.rest);
+}
+
+void turnWheel(Stage &stage, const Step &step)
+{
+    QWidget *control = findControl(stage.activeWindow(), step.words[0]);
+    const QPoint middle = control->rect().center();
+    QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QApplication::sendEvent(control, &wheel);
+}
+
+/// What an input method gives, such as one for another script.
+void composeText(Stage &stage, const Step &step)
+{
+    stage.activeWindow();
+    QInputMethodEvent composed;
+    composed.setCommitString(step.words[0]);
+    QApplication::sendEvent(QApplication::focusWidget(), &composed);
 }
 
 /// Selects what stands in a field; the keys that replace it are steps of their own.
@@ -340,6 +360,8 @@ constexpr std::array Verbs{
     Verb{u"at", InProgram | Acts, moveTo},
     Verb{u"key", InProgram | Acts, pressKeyInFocus},
     Verb{u"type", InProgram | Acts, enterField},
+    Verb{u"wheel", InProgram | Acts, turnWheel},
+    Verb{u"compose", InProgram | Acts, composeText},
     Verb{u"choose", InProgram | Acts, chooseEntry},
     Verb{u"save", InProgram | Acts, saveAs},
     Verb{u"close", InProgram | Acts, closeWindow},
