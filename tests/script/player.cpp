@@ -152,10 +152,9 @@ void Player::endCase()
     ++m_case;
     m_step = 0;
     m_hasChecked = false;
-    if (!isDone()) {
-        beginCase();
+    beginCase(); // also behind the last one, which leaves no file open
+    if (!isDone())
         return;
-    }
     tellPlace();
     QApplication::exit(); // quit() would ask the windows
 }
