@@ -85,6 +85,8 @@ BoxAnswer showMessageBox(const Box &box)
     static QPointer<QWidget> opener;
     if (QWidget *active = QApplication::activeWindow())
         opener = active;
+    if (!opener) // it was a dialog that has just closed
+        opener = QApplication::activeModalWidget();
     BoxWindow window(opener);
     window.setObjectName(u"MsgBox"_s);
     window.setWindowModality(Qt::ApplicationModal);

@@ -1,25 +1,19 @@
 // SPDX-License-Identifier: MIT
-// The main window: its start, its navigation, its status bar and its end.
+// What a script cannot do: halves of double clicks on a box, and a log-off of the desktop.
 #include "desktop/application.h"
-#include "desktop/clock.h"
 #include "desktop/msgbox.h"
 #include "desktop/programfolder.h"
-#include "desktop/region.h"
 #include "desktop/singleinstance.h"
 #include "ledger/emptyledger.h"
 #include "ledger/ledger.h"
 #include "program.h"
-#include "shell/globals.h"
 #include "support/hands.h"
-#include "widgets/pushbutton.h"
 
 #include <QDir>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QProcess>
 #include <QScopeGuard>
-#include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -37,27 +31,13 @@ class ShellTest : public QObject
 
 private slots:
     void initTestCase();
-    void startsReadyForTheFirstKey();
-    void pagesStartAfresh();
-    void cancelKeepsEverything();
     void boxTakesNoHalfOfADoubleClick();
-    void endLeavesOneFile();
     void logOffEndsTheWorkBehindABox();
 
 private:
-    template<typename Control>
-    Control *control(const char *name) const
-    {
-        return m_window->findChild<Control *>(QLatin1String(name));
-    }
     QStringList bookFiles() const
     {
         return QDir(m_folder.filePath(u"data"_s)).entryList(QDir::Files);
-    }
-    void makeFile(const QString &name) const
-    {
-        QFile file(m_folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
     }
 
     QTemporaryDir m_folder;
@@ -70,47 +50,8 @@ void ShellTest::initTestCase()
     QVERIFY(QDir(m_folder.path()).mkdir(u"data"_s));
     makeEmptyLedger(m_folder.filePath(u"data/ztkdata.ZDB"_s));
     setProgramFolder(m_folder.path());
-    setMachineRegion(QLocale::c());
-    setClock([] { return QDateTime({2026, 11, 22}, {9, 5}); });
     m_window = startProgram();
     QVERIFY(m_window && QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void ShellTest::startsReadyForTheFirstKey()
-{
-    QCOMPARE(m_window->windowTitle(), u"Mirakla Desk - 2.3"_s);
-    QCOMPARE(Rate3up, qint16(500));
-    QCOMPARE(CurrentUser, u"sv"_s);
-    QCOMPARE(Hands::focus()->objectName(), u"Tnumber"_s);
-    QVERIFY(!control<QWidget>("Frame6")->isVisible());
-    QStringList panels;
-    for (int at = 1; at <= 6; ++at)
-        panels += control<QLabel>(qPrintable(u"panel%1"_s.arg(at)))->text();
-    panels.removeAt(3); // the day, in the region's own order
-    QCOMPARE(panels, QStringList({u"หน้าหลัก"_s, u"CAPS"_s, u"NUM"_s, u"09:05"_s,
-                                  u"ติดต่อ : support@mirakla-desk.example"_s}));
-}
-
-void ShellTest::pagesStartAfresh()
-{
-    QVERIFY(!control<PushButton>("lvButtons_H0")->isEnabled()); // its page is the open one
-    Hands::type(u"12"_s);
-    const QPointer<QWidget> before = m_window->page();
-    m_window->openPage(0);
-    QVERIFY(!before);
-    QCOMPARE(control<QLineEdit>("Tnumber")->text(), QString());
-    QCOMPARE(Hands::focus()->objectName(), u"Tnumber"_s);
-    QCOMPARE(m_hands.takeBoxes(), QStringList());
-}
-
-void ShellTest::cancelKeepsEverything()
-{
-    Hands::type(u"12"_s);
-    QVERIFY(!m_window->close()); // Enter answers Cancel
-    QCOMPARE(m_hands.takeBoxes(), QStringList(u"คุณแน่ใจว่าต้องการจบการทำงานของโปรแกรม ?"_s));
-    QVERIFY(m_window->isVisible());
-    QVERIFY(LedgerConnection);
-    QCOMPARE(control<QLineEdit>("Tnumber")->text(), u"12"_s);
 }
 
 void ShellTest::boxTakesNoHalfOfADoubleClick()
@@ -144,19 +85,6 @@ void ShellTest::boxTakesNoHalfOfADoubleClick()
         QVERIFY(ask(u"?"_s, {}, BoxIcon::Question, BoxAnswer::Cancel));
     }
     disconnect(&m_hands, nullptr, m_window.get(), nullptr);
-    m_hands.takeBoxes();
-}
-
-void ShellTest::endLeavesOneFile()
-{
-    for (const auto &name : {u"a.tmp"_s, u"b.tmp"_s, u"keep.txt"_s})
-        makeFile(name);
-    m_hands.answerNextWithOk();
-    QVERIFY(m_window->close());
-    QVERIFY(!LedgerConnection);
-    QVERIFY(!m_window->page());
-    QCOMPARE(QDir(m_folder.path()).entryList(QDir::Files), QStringList(u"keep.txt"_s));
-    QCOMPARE(bookFiles(), QStringList(u"ztkdata.ZDB"_s));
     m_hands.takeBoxes();
 }
 
