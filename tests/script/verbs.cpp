@@ -205,13 +205,20 @@ void chooseEntry(Stage &stage, const Step &step)
     stage.window()->activateWindow(); // the offscreen platform does not
 }
 
-/// In the dialog that asks for a file: saves in the program's folder.
+/// In a dialog that asks for a file, also that of a printer: saves in the program's folder.
 void saveAs(Stage &stage, const Step &step)
 {
-    QWidget *field = findControl(stage.activeWindow(), u"fileNameEdit"_s);
+    auto *field = stage.activeWindow()->findChild<QWidget *>(u"filename"_s);
+    if (!field)
+        field = findControl(stage.activeWindow(), u"fileNameEdit"_s);
     field->setProperty("text", stage.file(step.rest));
     field->setFocus();
     pressKey(u"<Enter>"_s);
+}
+
+void resizeWindow(Stage &stage, const Step &step)
+{
+    stage.activeWindow()->resize(step.words.value(0).toInt(), step.words.value(1).toInt());
 }
 
 void closeWindow(Stage &stage, const Step &)
@@ -325,9 +332,10 @@ void awaitEnd(Stage &, const Step &)
 void compareDump(Stage &stage, const Step &step)
 {
     const QString of = step.words.value(1);
-    const QStringList lines = of.endsWith(u".xls"_s) ? dumpSheet(stage.file(of))
-                              : of.isEmpty()         ? dumpWindow(stage.activeWindow())
-                                             : dumpWindow(findControl(stage.activeWindow(), of));
+    QStringList lines = of.endsWith(u".xls"_s) ? dumpSheet(stage.file(of))
+                        : of.isEmpty()         ? dumpWindow(stage.activeWindow())
+                                       : dumpWindow(findControl(stage.activeWindow(), of));
+    lines = lines.filter(QRegularExpression(step.words.value(2)));
     QFile stored(stage.stored + step.words[0] + u".txt"_s);
     const bool accept = qEnvironmentVariableIsSet("DESK_ACCEPT");
     if (!stored.open(accept ? QIODevice::WriteOnly : QIODevice::ReadOnly))
@@ -364,6 +372,7 @@ constexpr std::array Verbs{
     Verb{u"compose", InProgram | Acts, composeText},
     Verb{u"choose", InProgram | Acts, chooseEntry},
     Verb{u"save", InProgram | Acts, saveAs},
+    Verb{u"size", InProgram | Acts, resizeWindow},
     Verb{u"close", InProgram | Acts, closeWindow},
     Verb{u"see", InProgram | Checks, see},
     Verb{u"grid", InProgram | Checks, seeGrid},
