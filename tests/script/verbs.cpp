@@ -6,6 +6,7 @@
 #include "entry/vocabulary.h"
 #include "script/controls.h"
 #include "script/dump.h"
+#include "support/otherreaders.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -332,8 +333,11 @@ void awaitEnd(Stage &, const Step &)
 void compareDump(Stage &stage, const Step &step)
 {
     const QString of = step.words.value(1);
-    QStringList lines = of.endsWith(u".xls"_s) ? dumpSheet(stage.file(of))
-                        : of.isEmpty()         ? dumpWindow(stage.activeWindow())
+    const bool isFile = of.endsWith(u".xls"_s) || of.endsWith(u".pdf"_s);
+    if (isFile && !QFile::exists(stage.file(of)))
+        throw NotYet{u"no file "_s + of};
+    QStringList lines = isFile         ? readByOthers(stage.file(of))
+                        : of.isEmpty() ? dumpWindow(stage.activeWindow())
                                        : dumpWindow(findControl(stage.activeWindow(), of));
     lines = lines.filter(QRegularExpression(step.words.value(2)));
     QFile stored(stage.stored + step.words[0] + u".txt"_s);
