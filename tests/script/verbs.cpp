@@ -348,7 +348,7 @@ void compareDump(Stage &stage, const Step &step)
         stored.write((lines.join(u'\n') + u'\n').toUtf8());
         return;
     }
-    QStringList expected = QString::fromUtf8(stored.readAll()).trimmed().split(u'\n');
+    QStringList expected = QString::fromUtf8(stored.readAll()).split(u'\n', Qt::SkipEmptyParts);
     QStringList actual = lines;
     expected.removeIf([&](const QString &line) { return actual.removeOne(line); });
     if (!expected.isEmpty() || !actual.isEmpty())
