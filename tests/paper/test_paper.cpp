@@ -177,13 +177,14 @@ void PaperTest::sheetOfAnySizeIsRead()
 void PaperTest::documentKeepsEveryLetter()
 {
     ReportPages report{u"test"_s, true, {{}}};
-    QStringList expected{u"Title: test"_s, u"Page 1 size: 842 x 595 pts (A4)"_s};
+    QStringList expected{u"Title: test"_s, u"Page 1 size: 842 x 595 pts (A4)"_s,
+                         u"Page 1 text up to 400,200"_s};
     int top = 300;
     for (const QString &text : {u"ผู้ กตัญญู น้ำใจ ที่นี่ ปั๊ม ศิริ กู้"_s, u"ฐูปฏู ป่า ฝ้าย ฟ้า เพื่อน กำลัง ขิ่ง"_s,
                                 u"ลุงพิษณุ ศักดิ์สิทธิ์ เบ็ญจวรรณ ไพฑูรย์ ดุษฎี"_s, u"ก๋วยเตี๋ยว เจ๊หมวย ซุ้ม ตั้ม โต๊ด"_s,
                                 u"012 1,234,567 -20,000 John <b>&amp;"_s}) {
         for (const bool bold : {false, true}) {
-            PageItem item = itemOf(text, {11, Qt::AlignLeft, bold});
+            PageItem item = itemOf(text, {11, Qt::AlignRight, bold});
             item.box = {300, top += 500, 9000, 400};
             report.pages[0].items += item;
             expected += u"1: "_s + text;

@@ -4,6 +4,7 @@
 The answer has its name once it is whole."""
 
 import os
+import re
 import struct
 import subprocess
 import sys
@@ -62,6 +63,10 @@ def document(path):
     for line in lines("pdfinfo", "-l", "9999", path):
         if line.startswith("Title:") or "size:" in line and line.startswith("Page "):
             yield " ".join(line.split())
+    for at, page in enumerate("\n".join(lines("pdftotext", "-bbox", path, "-")).split("<page ")[1:]):
+        ends = re.findall(r'xMax="([\d.]+)" yMax="([\d.]+)"', page)
+        right, low = (max(float(end[side]) for end in ends) for side in (0, 1))
+        yield f"Page {at + 1} text up to {right // 100:.0f}00,{low // 100:.0f}00"
     for font in lines("pdffonts", path)[2:]:
         if font and " yes " not in font[50:]:
             yield "missing font " + font
