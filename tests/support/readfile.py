@@ -10,6 +10,7 @@ import subprocess
 import sys
 
 import xlrd
+import xlrd.compdoc
 
 
 def print_setup(path):
@@ -68,7 +69,7 @@ def document(path):
         right, low = (max(float(end[side]) for end in ends) for side in (0, 1))
         yield f"Page {at + 1} text up to {right // 100:.0f}00,{low // 100:.0f}00"
     for font in lines("pdffonts", path)[2:]:
-        if font and " yes " not in font[50:]:
+        if font and not re.search(r" yes +\w+ +\w+ +\d+ +\d+$", font):
             yield "missing font " + font
     for at, page in enumerate("\n".join(lines("pdftotext", "-layout", path, "-")).split("\f")):
         for line in page.split("\n"):
