@@ -167,8 +167,9 @@ void turnWheel(Stage &stage, const Step &step)
 {
     QWidget *control = findControl(stage.activeWindow(), step.words[0]);
     const QPoint middle = control->rect().center();
+    const bool ctrl = step.words.value(1) == u"ctrl"_s;
     QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+                      ctrl ? Qt::ControlModifier : Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(control, &wheel);
 }
 
