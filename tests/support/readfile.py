@@ -34,7 +34,7 @@ def print_setup(path):
 def sheet(path):
     book = xlrd.open_workbook(path, formatting_info=True, logfile=sys.stderr)
     page = book.sheet_by_index(0)
-    yield f'sheet "{page.name}"'
+    yield f'sheet "{page.name}"' + (" hidden" if page.visibility else "")
     yield from print_setup(path)
     for name in book.name_obj_list:
         yield f"{name.name} {name.result.text}"
