@@ -2,14 +2,13 @@
 // Measures the statement of a full book: as pages, on screen and in files.
 #include "figure.h"
 #include "paintwatch.h"
+#include "screens.h"
 
 #include "paper/pdfexport.h"
 #include "paper/reportviewer.h"
 #include "paper/sheetofpages.h"
 #include "reports/fprint.h"
 #include "reports/statementreport.h"
-
-#include "support/screens.h"
 
 #include <QElapsedTimer>
 

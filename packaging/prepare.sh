@@ -32,7 +32,7 @@ build   fonts-noto-core   draws Thai and Latin text
 screen  xvfb              a virtual screen
 screen  xauth             admits programs to the virtual screen
 test    sqlcipher         reads the book independently of the program
-test    libfreexl-dev     reads sheets independently of the program
+test    python3-xlrd      reads sheets independently of the program
 test    poppler-utils     reads PDF files independently of the program
 bench   libbenchmark-dev  measures the benchmarks
 bare    debootstrap       installs a system into a folder

@@ -14,7 +14,7 @@ build_windows()
     local prefix
     install_missing build screen test windows
     prefix=$(packaging/windows/dependencies.sh) || die "the libraries for Windows could not be built"
-    build test keeper other_reader make-empty-ledger
+    build test keeper make-empty-ledger
     # CMake caches the paths of libraries, so other libraries need a new build folder.
     grep -qsF "=$prefix" "$windows_build/CMakeCache.txt" || rm -rf "$windows_build"
     cmake -G Ninja -S . -B "$windows_build" -DCMAKE_BUILD_TYPE=Release \

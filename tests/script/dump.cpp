@@ -8,13 +8,10 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRegularExpression>
-#include <QStringDecoder>
-#include <QtEndian>
 
 using namespace Qt::StringLiterals;
 
@@ -149,95 +146,6 @@ bool isControl(const QWidget *widget)
            && (widget->focusPolicy() != Qt::NoFocus || !read(widget, {}).isEmpty());
 }
 
-/// Reads the records of a sheet that lies in its file in one piece, as the program writes it.
-class SheetReader
-{
-public:
-    explicit SheetReader(QByteArray bytes) : m_bytes(std::move(bytes)) {}
-
-    QStringList lines()
-    {
-        constexpr int EndOfPart = 0x0a;
-        qsizetype next = m_bytes.indexOf(QByteArray::fromHex("0908100000060500"));
-        for (int parts = 0; next >= 0 && parts < 2; parts += m_kind == EndOfPart ? 1 : 0) {
-            m_at = next + 4;
-            m_kind = number(-4);
-            m_size = number(-2);
-            next = m_at + m_size;
-            readRecord();
-        }
-        return m_lines;
-    }
-
-private:
-    template<typename Number = quint16>
-    Number number(qsizetype offset) const
-    {
-        return qFromLittleEndian<Number>(m_bytes.constData() + m_at + offset);
-    }
-
-    void readRecord()
-    {
-        enum { Font = 0x31, Pane = 0x41, Column = 0x7d, Setup = 0xa1, Format = 0xe0, Texts = 0xfc };
-        enum { TextCell = 0xfd, NumberCell = 0x203, PrintTitles = 0x18 };
-        if (m_kind == Font)
-            m_bold += number(6) > 400;
-        else if (m_kind == Format)
-            readFormat();
-        else if (m_kind == Texts)
-            readTexts();
-        else if (m_kind == Column)
-            m_lines += u"column %1 width %2"_s.arg(number(0)).arg(number(4));
-        else if (m_kind == Pane)
-            m_lines += u"frozen rows %1"_s.arg(number(2));
-        else if (m_kind == PrintTitles)
-            m_lines +=
-                u"repeated rows %1 to %2"_s.arg(number(m_size - 8) + 1).arg(number(m_size - 6) + 1);
-        else if (m_kind == Setup)
-            m_lines += u"paper %1"_s.arg(number(0)) + when((number(10) & 2) == 0, u"landscape"_s);
-        else if (m_kind == TextCell)
-            addCell(quoted(m_texts.value(number(6))));
-        else if (m_kind == NumberCell)
-            addCell(QString::number(number<double>(6), 'f', 2));
-    }
-
-    void addCell(const QString &content)
-    {
-        m_lines += u"cell %1,%2 "_s.arg(number(0) + 1).arg(number(2) + 1) + content
-                   + m_formats.value(number(4));
-    }
-
-    void readFormat()
-    {
-        const int side = number(6) & 7;
-        m_formats += when(number(2) != 0, u"format %1"_s.arg(number(2)))
-                     + when(side == 2, u"center"_s) + when(side == 3, u"right"_s)
-                     + when(m_bold.value(number(0)), u"bold"_s);
-    }
-
-    void readTexts()
-    {
-        qsizetype offset = 8;
-        for (int left = number(4); left > 0; --left) {
-            const qsizetype size = number(offset);
-            const bool wide = (number(offset + 2) & 1) != 0;
-            const QByteArray text = m_bytes.mid(m_at + offset + 3, wide ? 2 * size : size);
-            m_texts +=
-                wide ? QStringDecoder(QStringDecoder::Utf16LE)(text) : QString::fromLatin1(text);
-            offset += 3 + text.size();
-        }
-    }
-
-    QByteArray m_bytes;
-    qsizetype m_at = 0; ///< of the record's content
-    int m_kind = 0;
-    int m_size = 0;
-    QList<bool> m_bold;
-    QStringList m_formats;
-    QStringList m_texts;
-    QStringList m_lines;
-};
-
 } // namespace
 
 QStringList dumpWindow(QWidget *window)
@@ -254,12 +162,4 @@ QStringList dumpWindow(QWidget *window)
         each = each->nextInFocusChain();
     } while (each != window);
     return lines;
-}
-
-QStringList dumpSheet(const QString &path)
-{
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {u"no file"_s};
-    return SheetReader(file.readAll()).lines();
 }

@@ -6,6 +6,7 @@
 #include "entry/vocabulary.h"
 #include "script/controls.h"
 #include "script/dump.h"
+#include "support/otherreaders.h"
 
 #include <QAbstractButton>
 #include <QAbstractItemView>
@@ -166,8 +167,9 @@ void turnWheel(Stage &stage, const Step &step)
 {
     QWidget *control = findControl(stage.activeWindow(), step.words[0]);
     const QPoint middle = control->rect().center();
+    const bool ctrl = step.words.value(1) == u"ctrl"_s;
     QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
-                      Qt::NoModifier, Qt::NoScrollPhase, false);
+                      ctrl ? Qt::ControlModifier : Qt::NoModifier, Qt::NoScrollPhase, false);
     QApplication::sendEvent(control, &wheel);
 }
 
@@ -205,13 +207,20 @@ void chooseEntry(Stage &stage, const Step &step)
     stage.window()->activateWindow(); // the offscreen platform does not
 }
 
-/// In the dialog that asks for a file: saves in the program's folder.
+/// In a dialog that asks for a file, also that of a printer: saves in the program's folder.
 void saveAs(Stage &stage, const Step &step)
 {
-    QWidget *field = findControl(stage.activeWindow(), u"fileNameEdit"_s);
+    auto *field = stage.activeWindow()->findChild<QWidget *>(u"filename"_s);
+    if (!field)
+        field = findControl(stage.activeWindow(), u"fileNameEdit"_s);
     field->setProperty("text", stage.file(step.rest));
     field->setFocus();
     pressKey(u"<Enter>"_s);
+}
+
+void resizeWindow(Stage &stage, const Step &step)
+{
+    stage.activeWindow()->resize(step.words.value(0).toInt(), step.words.value(1).toInt());
 }
 
 void closeWindow(Stage &stage, const Step &)
@@ -325,9 +334,13 @@ void awaitEnd(Stage &, const Step &)
 void compareDump(Stage &stage, const Step &step)
 {
     const QString of = step.words.value(1);
-    const QStringList lines = of.endsWith(u".xls"_s) ? dumpSheet(stage.file(of))
-                              : of.isEmpty()         ? dumpWindow(stage.activeWindow())
-                                             : dumpWindow(findControl(stage.activeWindow(), of));
+    const bool isFile = of.endsWith(u".xls"_s) || of.endsWith(u".pdf"_s);
+    if (isFile && !QFile::exists(stage.file(of)))
+        throw NotYet{u"no file "_s + of};
+    QStringList lines = isFile         ? readByOthers(stage.file(of))
+                        : of.isEmpty() ? dumpWindow(stage.activeWindow())
+                                       : dumpWindow(findControl(stage.activeWindow(), of));
+    lines = lines.filter(QRegularExpression(step.words.value(2)));
     QFile stored(stage.stored + step.words[0] + u".txt"_s);
     const bool accept = qEnvironmentVariableIsSet("DESK_ACCEPT");
     if (!stored.open(accept ? QIODevice::WriteOnly : QIODevice::ReadOnly))
@@ -336,7 +349,7 @@ void compareDump(Stage &stage, const Step &step)
         stored.write((lines.join(u'\n') + u'\n').toUtf8());
         return;
     }
-    QStringList expected = QString::fromUtf8(stored.readAll()).trimmed().split(u'\n');
+    QStringList expected = QString::fromUtf8(stored.readAll()).split(u'\n', Qt::SkipEmptyParts);
     QStringList actual = lines;
     expected.removeIf([&](const QString &line) { return actual.removeOne(line); });
     if (!expected.isEmpty() || !actual.isEmpty())
@@ -364,6 +377,7 @@ constexpr std::array Verbs{
     Verb{u"compose", InProgram | Acts, composeText},
     Verb{u"choose", InProgram | Acts, chooseEntry},
     Verb{u"save", InProgram | Acts, saveAs},
+    Verb{u"size", InProgram | Acts, resizeWindow},
     Verb{u"close", InProgram | Acts, closeWindow},
     Verb{u"see", InProgram | Checks, see},
     Verb{u"grid", InProgram | Checks, seeGrid},
