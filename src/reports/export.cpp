@@ -26,7 +26,7 @@ struct FormatEntry
     QStringView title;
     QStringView extension; ///< for the save dialog
     QStringView ending;    ///< appended to the file name
-    QByteArray (*bytesOf)(const ReportPages &report);
+    QByteArray (*bytesOf)(const ReportPages &report) = nullptr;
 };
 
 constexpr std::array FormatEntries{

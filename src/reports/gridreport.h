@@ -21,13 +21,13 @@ struct ReportColumn
     enum Kind { Word, Money };
 
     QStringView title;
-    Kind kind;
-    int label;  ///< number in the name of the heading's control
-    int grid;   ///< index of the grid in the report
-    int source; ///< column of the grid
-    Extent field;
-    int rulingBefore;    ///< x of the line before the column, in twips from the edge of the paper
-    int rulingAfter = 0; ///< x of the line after it, if no column follows
+    Kind kind = Word;
+    int label = 0;  ///< number in the name of the heading's control
+    int grid = 0;   ///< index of the grid in the report
+    int source = 0; ///< column of the grid
+    Extent field{};
+    int rulingBefore = 0; ///< x of the line before the column, in twips from the edge of the paper
+    int rulingAfter = 0;  ///< x of the line after it, if no column follows
     Extent heading = field;
 };
 

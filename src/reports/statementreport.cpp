@@ -44,9 +44,9 @@ constexpr int MoneyWidth = 1134;
 struct Block
 {
     QStringView title;
-    int left;
-    int firstLabel;
-    std::array<int, 3> rulingAt; ///< x of the lines before, between and after its columns
+    int left = 0;
+    int firstLabel = 0;
+    std::array<int, 3> rulingAt{}; ///< x of the lines before, between and after its columns
 };
 
 /// The page header shows the side, so bottom boards of 2 and 3 digits have the same titles as top

@@ -9,7 +9,7 @@
 struct CoverageBar
 {
     QStringView words;
-    int numbers;
+    int numbers = 0;
 };
 
 /// In the order of BetClasses.

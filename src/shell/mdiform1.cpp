@@ -16,7 +16,6 @@
 
 #include <QCloseEvent>
 #include <QDir>
-#include <QSessionManager>
 #include <QStyle>
 
 using namespace Qt::StringLiterals;
@@ -26,7 +25,7 @@ namespace {
 /// What a navigation button sets.
 struct Navigation
 {
-    quint8 cutOrigin;
+    quint8 cutOrigin = FromOtherPage;
     QStringView statusText;
 };
 

@@ -7,6 +7,7 @@
 
 #include <QMainWindow>
 #include <QPointer>
+#include <QSessionManager>
 
 #include <array>
 #include <functional>
@@ -14,7 +15,6 @@
 
 class MDIForm1;
 class PushButton;
-class QSessionManager;
 
 namespace Ui {
 class MDIForm1;
