@@ -53,10 +53,10 @@ struct ReportLayout
 /// A control as drawn on one page. The box is relative to the corner of the paper.
 struct PageItem
 {
-    ReportSection section;
+    ReportSection section{};
     QString name;
     QRect box;
-    ReportControl::Kind kind;
+    ReportControl::Kind kind{};
     TextStyle style;
     QString text;
 };

@@ -50,7 +50,7 @@ qint64 memoryInUse()
     return qint64(__sanitizer_get_current_allocated_bytes());
 #elif defined(Q_OS_LINUX)
     const auto heap = mallinfo2();
-    return qint64(heap.uordblks + heap.hblkhd);
+    return qint64(heap.uordblks) + qint64(heap.hblkhd);
 #else
     return -1;
 #endif

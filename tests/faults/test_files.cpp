@@ -22,7 +22,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int PageSize = 1024;
+constexpr qsizetype PageSize = 1024;
 
 QByteArray noise(qsizetype size, QRandomGenerator &dice)
 {
@@ -58,13 +58,13 @@ QByteArray cutOff(QByteArray bytes, int, QRandomGenerator &dice)
 
 QByteArray dropPages(QByteArray bytes, int, QRandomGenerator &dice)
 {
-    bytes.chop(PageSize * dice.bounded(1, int(bytes.size()) / PageSize));
+    bytes.chop(PageSize * dice.bounded(1, int(bytes.size() / PageSize)));
     return bytes;
 }
 
 QByteArray swapPages(QByteArray bytes, int at, QRandomGenerator &dice)
 {
-    const int pages = int(bytes.size()) / PageSize;
+    const int pages = int(bytes.size() / PageSize);
     const int one = 1 + at % (pages - 1);
     const int other = (one + dice.bounded(1, pages - 1)) % pages;
     const QByteArray kept = bytes.mid(one * PageSize, PageSize);

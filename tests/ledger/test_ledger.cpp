@@ -160,7 +160,7 @@ void LedgerTest::namesStandInOneOrderOnEveryDesktop()
     const QStringList order{u"-"_s,      u"12"_s,     u"ก"_s,      u"เก"_s,  u"ข"_s,
                             u"ลูกค้า ก"_s, u"ลูกค้า a"_s, u"ลูกค้า B"_s, u"lek"_s, u"Somchai"_s};
     const TestLedger ledger;
-    for (qint16 key = qint16(order.size()); --key > 0;)
+    for (auto key = qint16(order.size()); --key > 0;)
         ledger.addMember(key, order[key], u"0"_s);
     QCOMPARE(FillCombo(u"tblMember"_s, u"Mname COLLATE ThaiOrder"_s, u"Mname"_s), order);
 }

@@ -99,6 +99,7 @@ std::vector<Bet> sums(const Book::Bets &lines, const std::function<bool(const Be
             money[{line.betClass, line.number}] += line.amount;
     }
     std::vector<Bet> bets;
+    bets.reserve(money.size());
     for (const auto &[bet, amount] : money)
         bets.push_back({bet.first, bet.second, amount});
     return bets;
@@ -126,7 +127,7 @@ QString Book::spelling(const Bet &bet) const
     std::set<QString> inBook;
     for (const auto &[key, line] : lines) {
         if (line.betClass == bet.betClass && (line.number != bet.number || pair)
-            && sorted(line.number) == digits && customers.count(line.customer) > 0)
+            && sorted(line.number) == digits && customers.contains(line.customer))
             inBook.insert(line.number);
     }
     return inBook.empty() ? bet.number : *inBook.begin();
@@ -163,8 +164,7 @@ std::vector<int> Book::linesOn(size_t betClass, const QString &number) const
 {
     std::vector<int> keys;
     for (const auto &[key, line] : lines) {
-        if (line.betClass == betClass && line.number == number
-            && customers.count(line.customer) > 0)
+        if (line.betClass == betClass && line.number == number && customers.contains(line.customer))
             keys.push_back(key);
     }
     std::stable_sort(keys.begin(), keys.end(), [&](int one, int other) {
@@ -240,7 +240,7 @@ std::vector<Bet> Book::wins(const QString &result, const Bets &from) const
 {
     std::map<std::tuple<QString, bool, Type, int, QString, int>, Bet> wins;
     for (const auto &[key, line] : from) {
-        if (!isWon(line, result) || customers.count(line.customer) == 0)
+        if (!isWon(line, result) || !customers.contains(line.customer))
             continue;
         const auto &[digits, top, type, caption] = Classes[line.betClass];
         const QString name = thaiOrder(customers.at(line.customer).name);
@@ -248,6 +248,7 @@ std::vector<Bet> Book::wins(const QString &result, const Bets &from) const
         win = {line.betClass, line.number, win.amount + line.amount, line.customer};
     }
     std::vector<Bet> inOrder;
+    inOrder.reserve(wins.size());
     for (const auto &[place, win] : wins)
         inOrder.push_back(win);
     return inOrder;

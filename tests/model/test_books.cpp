@@ -213,7 +213,7 @@ void BooksTest::cutLine()
     if (m_book.lines.empty())
         return;
     const auto &[key, line] = *std::next(m_book.lines.begin(), step.line % m_book.lines.size());
-    if (m_book.customers.count(line.customer) == 0)
+    if (!m_book.customers.contains(line.customer))
         return;
     const model::Class &what = model::Classes[line.betClass];
     SelNum23 = quint8(what.digits);

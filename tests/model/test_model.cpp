@@ -19,7 +19,7 @@ private slots:
     void agreesWithTheDraw();
 
 private:
-    static void keyTicket(model::Book &book, const DrawTicket &ticket);
+    static void keyTicket(model::Book &book, const DrawTicket &stated);
     static void compareBoard(const model::Book &book, size_t betClass, const DrawBoard &stated);
 };
 

@@ -102,7 +102,7 @@ bool Ticket::key(const QString &caption, const QString &line)
 {
     static const QRegularExpression form(
         QRegularExpression::anchoredPattern(u"(\\d{0,3})-(\\d{1,5})(?:-(\\d{1,5}))?"_s));
-    const auto kind = std::find_if(Kinds.begin(), Kinds.end(), [&](const Kind &each) {
+    const auto *const kind = std::find_if(Kinds.begin(), Kinds.end(), [&](const Kind &each) {
         return caption == QStringView(each.caption);
     });
     const auto parts = form.match(line);
