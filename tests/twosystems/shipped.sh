@@ -58,7 +58,7 @@ rows=$(sqlcipher "$book" "PRAGMA key = '639417'; PRAGMA cipher_compatibility = 3
     SELECT NameFK, num23, updown, numType, numValue, numBuy FROM tblNumber;" | tail -n 1)
 [[ $rows == '0|3|-1|1|123|100' ]] || fail "the ticket stands in the book as: $rows"
 [[ ! -e $book-wal ]] || fail "the book was not closed"
-grep -q '^type: Noto Sans, Noto Sans Thai' "$place/seen" || fail "$(grep ^type: "$place/seen")"
+grep -q '^font: Noto Sans, Noto Sans Thai' "$place/seen" || fail "$(grep ^font: "$place/seen")"
 pdffonts paper.pdf | grep -q 'Thai.*yes' || fail "Thai is not printed"
 
 cp "$book" "$place/before"
