@@ -74,8 +74,9 @@ void Player::chooseKind(const QString &caption)
 {
     if (control<QLabel>("Label3")->text() == caption)
         return;
-    const auto *const entry = std::find_if(KindEntries.begin(), KindEntries.end(),
-                                    [&](const auto &kind) { return caption == kind.caption; });
+    const auto *const entry =
+        std::find_if(KindEntries.begin(), KindEntries.end(),
+                     [&](const auto &kind) { return caption == kind.caption; });
     const int index = int(entry - KindEntries.begin());
     if (m_kinds == Kinds::ByKey)
         chooseByKey(index);
