@@ -9,8 +9,7 @@
 
 std::optional<FileId> fileIdAt(const QByteArray &path)
 {
-    struct stat found
-    {};
+    struct stat found = {};
     if (stat(path.constData(), &found) == 0)
         return FileId{quint64(found.st_dev), quint64(found.st_ino)};
     if (errno == ENOENT || errno == ENOTDIR)
