@@ -148,6 +148,10 @@ private:
             statements.push_back(
                 {boardStatement(!customer.isEmpty()),
                  QVariantList{each.num23, each.updown ? -1 : 0, each.numType} + customer});
+        statements.push_back({"SELECT tblNumberFix.* FROM tblNumberFix ORDER BY PK", {}});
+        statements.push_back({"SELECT Mname FROM tblMember WHERE EXISTS"
+                              " (SELECT 1 FROM tblNumber WHERE NameFK = MPK) ORDER BY MPK",
+                              {}});
         return statements;
     }
     Form3 &form() { return *m_window->findChild<Form3 *>(); }

@@ -68,7 +68,7 @@ Measured measureEnter(benchmark::State &state, int firstNumber)
         // Steps of 137 visit all 500 numbers, near and far rows mixed.
         samples.push_back(desk.enter(firstNumber + int(samples.size()) * 137 % RowCount));
         state.SetIterationTime(samples.back() / 1000);
-        if (desk.rows().rows() > RowCount) // keep 500 rows
+        if (desk.rows().rows() > RowCount) // a new number, which was inserted on top
             desk.rows().removeRow(1);
         if (samples.size() % 100 == 0)
             slow.push_back(quantile({samples.end() - 100, samples.end()}, 0.99));

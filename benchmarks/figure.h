@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The measurements of the table of figures. Each runs for the iterations of a benchmark::State.
+// The benchmarks; main.cpp prints each as a row of its table. Each runs for the iterations of a
+// benchmark::State.
 // Both sides of a ratio are measured in each iteration, so that other work on the machine affects
 // both.
 #pragma once
@@ -38,20 +39,23 @@ inline Measured ratio(const Samples &ours, const Samples &theirs, const char *un
 
 /// Milliseconds from Enter in the entry field to the repainted grid of 500 rows. The numbers typed
 /// start at @p firstNumber: those below 500 are in the grid already, those from 500 on are not.
+/// The median of the 99th percentiles of each hundred samples.
 Measured measureEnter(benchmark::State &state, int firstNumber);
 
 /// Milliseconds to list 5,000 customers on their page.
 Measured measureCustomers(benchmark::State &state);
 
 /// Milliseconds from a digit key in the entry field, with the voice on, to the start of its word,
-/// or with @p painted to the repainted field: 99th percentile.
+/// or with @p painted to the repainted field: the median of the 99th percentiles of each hundred
+/// samples.
 Measured measureVoice(benchmark::State &state, bool painted);
 
-/// A reload of all eight boards of a book of @p lines lines, as a multiple of their eight
-/// statements run through SQLite's C interface.
+/// A reload of all eight boards of a book of @p lines lines, as a multiple of reading the same data
+/// (boards, hot numbers, customers) through SQLite's C interface.
 Measured measureReload(benchmark::State &state, int lines);
 
-/// Filtering the boards to one customer, as a multiple of its statements.
+/// Filtering the boards to one customer, as a multiple of reading the same data through SQLite's C
+/// interface, with one statement for each board.
 Measured measureFilter(benchmark::State &state, int lines);
 
 /// Milliseconds of a cut from @p board, 0 to 7, of a book of @p lines lines, with the reload of the
@@ -76,7 +80,7 @@ Measured measureStart(benchmark::State &state, const char *platform);
 /// both on X11 and with the shipped fonts.
 Measured measureStartUnderWine(benchmark::State &state);
 
-/// Returns true if the Windows program has been built.
+/// measureStartUnderWine() needs the Windows program.
 bool isWindowsProgramBuilt();
 
 /// Megabytes of resident memory of the idle program.
@@ -88,7 +92,7 @@ Measured measureStatement(benchmark::State &state);
 /// Milliseconds from opening the viewer of the statement of a full book to its painted first page.
 Measured measureFirstPage(benchmark::State &state);
 
-/// Milliseconds to write the statement of a full book as an .xls file.
+/// Milliseconds to convert the statement of a full book, laid out as pages, to .xls in memory.
 Measured measureSheet(benchmark::State &state);
 
 /// Kilobytes of the statement of a full book as a PDF file.

@@ -25,8 +25,8 @@ std::unique_ptr<MDIForm1> openProgram(int page)
     return window;
 }
 
-/// Returns the median of the 99th percentiles of each hundred, since other work on the machine may
-/// disturb one hundred.
+/// Splits the samples into hundreds and returns the median of their 99th percentiles, so that one
+/// hundred disturbed by other work on the machine does not count.
 Measured slowest(const Samples &samples)
 {
     Samples slow;

@@ -23,8 +23,8 @@ constexpr const char *GroupedStatement =
     "SELECT num23, updown, numType, numValue, Sum(numBuy) FROM tblNumber WHERE updown = -1"
     " GROUP BY num23, updown, numType, numValue";
 
-/// Returns true for one spelling of each tod bet, the one with ascending digits. Numbers of equal
-/// digits are not tod bets.
+/// Returns true for one spelling of each tod bet, the one with ascending digits. Numbers whose
+/// digits are all equal are not tod bets.
 bool isTodSpelling(const QByteArray &number)
 {
     return std::is_sorted(number.begin(), number.end()) && number.front() != number.back();

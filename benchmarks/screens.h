@@ -7,11 +7,10 @@
 #include <memory>
 #include <vector>
 
-/// A grid of @p rows rows. A cell says its row and column, "7.2"; column 1 of a board is a bet's
-/// number, "007", and the columns named by @p amounts hold amounts, "7,400" in column 4. The
-/// total in the second header row is "1,234".
-inline std::unique_ptr<SpreadModel> filledGrid(int rows, int columns, const QList<int> &amounts,
-                                               int numbers = 1)
+/// A grid of @p rows rows. A cell says its row and column, "7.2"; column 1 has a bet's number,
+/// "007", and the columns @p amounts have amounts, "7,400" in column 4. The total in the second
+/// header row is "1,234".
+inline std::unique_ptr<SpreadModel> filledGrid(int rows, int columns, const QList<int> &amounts)
 {
     using namespace Qt::StringLiterals;
     auto grid = std::make_unique<SpreadModel>();
@@ -23,7 +22,7 @@ inline std::unique_ptr<SpreadModel> filledGrid(int rows, int columns, const QLis
             QString text = u"%1.%2"_s.arg(row).arg(column);
             if (amounts.contains(column))
                 text = QString::number(row) + u',' + QString::number(column) + u"00"_s;
-            else if (column == numbers)
+            else if (column == 1)
                 text = u"%1"_s.arg(row, 3, 10, QChar(u'0'));
             grid->setText(row, column, text);
         }

@@ -8,7 +8,7 @@
 
 #include <QCoreApplication>
 
-/// Is the program's folder as long as the object exists.
+/// Serves as the program folder for the lifetime of the object.
 class WorkFolder : public TestLedger
 {
 public:

@@ -27,8 +27,8 @@ inline constexpr QLatin1StringView PercentField("MPercen");
 /// number. "" lists all customers; "_" and "%" are LIKE wildcards. Customer "-" is not listed.
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress);
 
-/// Returns the number of customers with that name, case-insensitive. The name is not bound but part
-/// of the SQL text, so an apostrophe in it throws DatabaseFailure.
+/// Returns the number of customers with that name, case-insensitive. The name is inserted into the
+/// SQL text as it is: an apostrophe in it usually throws DatabaseFailure, which the callers expect.
 int countCustomersNamed(const QString &name);
 
 /// Adds a customer with the next key.

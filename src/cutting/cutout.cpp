@@ -49,8 +49,8 @@ void sortEqualMoneyByKey(QList<QVariantList> &lines)
     }
 }
 
-/// Deletes a line from the book. NPK is unique, but the form of the statements that change a line
-/// is fixed: they compare the user too, by LIKE.
+/// Deletes a line from the book. NPK alone identifies it; like all statements that change a line,
+/// this one compares its user too.
 void removeLine(qint32 NPK, const QString &nuser)
 {
     LedgerConnection->run(u"DELETE FROM tblNumber WHERE [NPK] = ? AND [nUser] LIKE ?"_s,

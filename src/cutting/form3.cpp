@@ -96,6 +96,7 @@ void Form3::FReLoad()
     const HotNumbers hotNumbers(readHotNumbers());
     for (int at = 0; at < ClassCount; ++at)
         load(at, readBoard(BetClasses[at]), hotNumbers);
+    showSums();
     resumeNext([this] { LoadMember(readBuyers()); });
 }
 
@@ -117,6 +118,7 @@ void Form3::loadCustomer()
         else
             m_board.SetupSpread(at);
     }
+    showSums();
     resumeNext([this] { LoadMember(readBuyers()); });
 }
 
@@ -131,20 +133,20 @@ void Form3::load(int at, const BoardLines &lines, const HotNumbers &hotNumbers)
         Nubyod0();
 }
 
-/// Reloads one board, that of the selected class, after a cut, which changes no other board.
+/// Reloads the board of one class. This is enough after a cut, which changes only that board.
 void Form3::loadClass(int at)
 {
     load(at, readBoard(BetClasses[at]), HotNumbers(readHotNumbers()));
+    showSums();
     resumeNext([this] { LoadMember(readBuyers()); });
 }
 
-/// Shows the total of the top and the grand total, and the top tab.
+/// Adds up the top and the grand total, and shows the top tab.
 void Form3::Nubyod()
 {
     m_progress.finish();
     m_ui->SSTab1->setTab(TopTab);
-    showSum(TopTab, u"   บน ( ยอดรวม "_s, m_board.TopSum);
-    showGrandTotal();
+    addSide(TopTab, u"   บน ( ยอดรวม "_s, m_board.TopSum);
 }
 
 /// Like Nubyod() for the bottom, but shows the tab of the selection, so that the board stays on the
@@ -153,31 +155,35 @@ void Form3::Nubyod0()
 {
     m_progress.finish();
     m_ui->SSTab1->setTab(SelUpDown ? TopTab : BottomTab);
-    showSum(BottomTab, u"   ล่าง ( ยอดรวม "_s, m_board.BottomSum);
-    showGrandTotal();
+    addSide(BottomTab, u"   ล่าง ( ยอดรวม "_s, m_board.BottomSum);
 }
 
-/// Writes the total of a side into its tab's caption and into @p sum. A total of 0 is displayed as
-/// "", from which CLng() throws, so @p sum keeps its last value then.
-void Form3::showSum(int tab, const QString &caption, qint32 &sum)
+/// Prepares the caption of a side's tab, sets @p sum to the side's total and, unless the customer
+/// strip is shown, works out the grand total. showSums() displays captions and grand total. A total
+/// of 0 is displayed as "", from which CLng() throws, so @p sum keeps its last value then.
+void Form3::addSide(int tab, const QString &caption, qint32 &sum)
 {
-    resumeNext(
-        [&] { m_ui->SSTab1->setTabText(tab, caption + formatBaht(sideTotal(tab)) + u" )"_s); });
+    resumeNext([&] { m_captions[tab] = caption + formatBaht(sideTotal(tab)) + u" )"_s; });
     resumeNext([&] { sum = CLng(formatBaht(sideTotal(tab))); });
+    if (!m_strip.isShown())
+        resumeNext([&] {
+            m_grandTotal = formatBaht(addLong({m_board.TopSum, m_board.BottomSum}));
+        });
+}
+
+/// Shows the captions and the grand total. Called once per reload and not for each board, because
+/// a tab bar computes its layout again whenever a caption changes.
+void Form3::showSums()
+{
+    for (const int tab : {TopTab, BottomTab})
+        m_ui->SSTab1->setTabText(tab, m_captions[tab]);
+    if (!m_strip.isShown()) // the total of the whole book stays while a customer is shown
+        m_ui->text2->setText(m_grandTotal);
 }
 
 qint32 Form3::sideTotal(int tab) const
 {
     return tab == TopTab ? topTotal(m_board.BoardSums) : bottomTotal(m_board.BoardSums);
-}
-
-void Form3::showGrandTotal()
-{
-    if (m_strip.isShown())
-        return;
-    resumeNext([this] {
-        m_ui->text2->setText(formatBaht(addLong({m_board.TopSum, m_board.BottomSum})));
-    });
 }
 
 /// Lists the customers with a bet. If there are none, the old list stays.
@@ -202,7 +208,8 @@ void Form3::filterToCustomer()
 {
     MemberFilterOn = true;
     m_board.FilterName = m_ui->Combo1->currentText();
-    m_ui->SSTab1->setFocus(); // otherwise a number field would get it and switch the keyboard
+    m_ui->SSTab1
+        ->setFocus(); // hiding Combo1 would move it to a number field, which switches the keyboard
     showFilter(true);
     if (!readCustomer()) {
         refuse(u"ไม่พบชื่อลูกค้ารายนี้ อยู่ใน ฐานข้อมูล โปรดลองใหม่อีกครั้ง ..."_s);
@@ -330,7 +337,8 @@ void Form3::closeCut(const std::function<void()> &scanAgain)
         loadClass(at);
     if (scanAgain)
         scanAgain();
-    // Hides the strip only now: while it is shown, a reload does not write the grand total.
+    // Hidden after the reload, so that text2 keeps the total from before the filter: while the
+    // strip is shown, a reload does not change it.
     showWholeBook();
     if (focus && focus->isHidden()) // the reload has switched to the other tab
         focusShownBoard();

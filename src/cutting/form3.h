@@ -17,13 +17,13 @@ namespace Ui {
 class Form3;
 }
 
-/// Functions that the buttons of the board call to open windows whose folders cutting/ must not
-/// include. A page that is never shown needs none.
+/// Callbacks that open windows from folders on which cutting/ must not depend. They may be empty
+/// only if the page is never shown.
 struct BoardOpeners
 {
     std::function<void(Form3 &board)> showScan; ///< " &วิเคราะห์เลข": the risk scan
     std::function<void(Form3 &board)> printBoard; ///< " &ปริ้นข้อมูล": report of the board
-    std::function<void(Numcut &cutBoard)> printCuts; ///< that of Numcut: report of the cuts
+    std::function<void(Numcut &cutBoard)> printCuts; ///< " &ปริ้นข้อมูล" of Numcut: report of the cuts
 };
 
 class Form3 : public QWidget
@@ -42,12 +42,13 @@ public:
     QString selectTab(int tab);
 
     /// Reloads all boards with the whole book and shows the top tab. Lists the customers again and
-    /// clears the field of the filter, but neither shows nor hides the filter's controls.
+    /// clears the filter field, unless no customer has a bet. Neither shows nor hides the filter's
+    /// controls.
     void FReLoad();
 
     /// Opens the cut-out dialog for the selected class and number over @p owner. When it closes,
-    /// reloads the board, calls @p scanAgain if it is set, and shows the controls of the whole
-    /// book.
+    /// reloads the board of that class or, if a filter is on, all boards with the whole book; calls
+    /// @p scanAgain if it is set; and restores the controls that a filter hides or disables.
     void showCutNum(QWidget *owner, const std::function<void()> &scanAgain = {});
 
 protected:
@@ -70,8 +71,8 @@ private:
     void load(int at, const BoardLines &lines, const HotNumbers &hotNumbers);
     void Nubyod();
     void Nubyod0();
-    void showSum(int tab, const QString &caption, qint32 &sum);
-    void showGrandTotal();
+    void addSide(int tab, const QString &caption, qint32 &sum);
+    void showSums();
     qint32 sideTotal(int tab) const;
 
     void SSTab1_Click();
@@ -91,6 +92,8 @@ private:
     BoardOpeners m_openers;
     FocusTracker m_focus;
     Board m_board;
+    std::array<QString, 2> m_captions; ///< of TopTab and BottomTab
+    QString m_grandTotal;
     std::array<Spread *, ClassCount> m_spreads{};
     std::array<QLabel *, ClassCount> m_estimates{};
 };

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-// The selected class and number, which a grid sets before it opens the cut-out dialog.
+// The class and number selected for the cut-out dialog. The board or the risk scan sets them before
+// it opens the dialog.
 #pragma once
 
 #include <QString>

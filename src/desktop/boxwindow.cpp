@@ -81,7 +81,8 @@ private:
 
 BoxAnswer showMessageBox(const Box &box)
 {
-    // The second of two boxes in a row opens before the window manager has reactivated the parent.
+    // Static, since the second of two boxes in a row opens before the window manager has reactivated
+    // the parent: no window is active then, and the last one is used.
     static QPointer<QWidget> opener;
     if (QWidget *active = QApplication::activeWindow())
         opener = active;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Message boxes as real, modal windows.
+// Shows the boxes of msgbox.h as modal windows.
 #pragma once
 
 #include "desktop/msgbox.h"

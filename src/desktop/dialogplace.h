@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Positions of the program's windows, and the focus after a dialog closes.
+// Places the program's windows, and activates the parent window again after a dialog closes.
 #pragma once
 
 class QDialog;

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // SQLite opens its files without FILE_SHARE_DELETE, so Windows keeps them from being deleted or
-// replaced while they are open. The server of a network share may still allow it.
+// replaced while they are open. On a network share that can still happen.
 #include "desktop/filesystem.h"
 
 #include <QFileInfo>
@@ -12,7 +12,7 @@
 
 namespace {
 
-/// What Windows gives away about a file without opening it.
+/// What can be read of a file without opening it, used to detect that it has changed.
 struct Stamp
 {
     explicit Stamp(const WIN32_FILE_ATTRIBUTE_DATA &data)
@@ -37,7 +37,8 @@ std::wstring toNative(const QByteArray &path)
     return QFile::decodeName(path).toStdWString();
 }
 
-/// Returns what a failed call means for the file: zeros if there is none.
+/// Returns the result of fileIdAt() after a failed call: zeros if the file does not exist,
+/// std::nullopt after any other error.
 std::optional<FileId> idAfterError()
 {
     const DWORD error = GetLastError();
@@ -64,8 +65,10 @@ std::optional<FileId> fileIdAt(const QByteArray &path)
                   (quint64(found.nFileIndexHigh) << 32) | found.nFileIndexLow};
 }
 
-/// Opening the file for each row would be slow. Wine also keeps every handle of a locked file until
-/// the lock is released, and would run out of file descriptors.
+/// Remembers the last confirmed id of each path and opens the file only if its size or times have
+/// changed: this is called for each row of a save, and opening it each time would be slow. Wine
+/// would also run out of file descriptors, since it keeps those of a locked file open until the
+/// lock is released.
 bool leadsTo(const QByteArray &path, const FileId &id)
 {
     static QHash<QByteArray, std::pair<Stamp, FileId>> known;

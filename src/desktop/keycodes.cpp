@@ -45,7 +45,7 @@ constexpr std::array NamedKeys{
     NamedKey{Qt::Key_Delete, 46}, NamedKey{Qt::Key_Control, 17},
 };
 
-/// Returns the code of a Qt::Key, or 0.
+/// Returns the virtual-key code of Windows for a Qt::Key, or 0 if keyCode() does not list it.
 int codeOfNamedKey(int key)
 {
     if (key >= Qt::Key_0 && key <= Qt::Key_9)

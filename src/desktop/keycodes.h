@@ -15,11 +15,12 @@ inline constexpr int EnterCode = 13;
 /// AltGr.
 int characterCode(const QKeyEvent &key);
 
-/// Returns the code of the physical key, independently of layout and Shift: 48 to 57 for the digit
-/// row, 96 to 105 for the digits of the keypad, 109 and 189 for the minus keys, 112 to 123 for the
-/// function keys, 33 to 40 and 46 for the arrows and the keys above them, 17 for Ctrl, 0 for all
-/// others. An event without native codes is judged by its Qt::Key, which changes with Shift and is
-/// the same for the digit row and the keypad: its codes are those of the main keyboard.
+/// Returns the virtual-key code of Windows for the physical key, independently of layout and Shift:
+/// 48 to 57 for the digit row, 96 to 105 for the digits of the keypad, 109 and 189 for the minus
+/// keys, 112 to 123 for the function keys, 33 to 40 and 46 for the arrows and the keys above them,
+/// 17 for Ctrl, 0 for all others. An event without native codes is judged by its Qt::Key, which
+/// changes with Shift and is the same for the digit row and the keypad: its codes are those of the
+/// main keyboard.
 int keyCode(const QKeyEvent &key);
 
 /// Returns true if a text field would insert the text of a key that has no character code, such as

@@ -22,9 +22,9 @@ public:
     ~MediaControl(); ///< closes the file
     Q_DISABLE_COPY_MOVE(MediaControl)
 
-    // Part of the control's fixed interface, set by ReadKey() and without effect: SDL_mixer always
-    // does what these values ask for. It sends no notification, completes each command before it
-    // returns, and shares the device.
+    // Part of the control's fixed interface, set by ReadKey() and ignored, since these values
+    // describe what always happens: no notification is sent, Play returns once the sound has
+    // started, and the device is shared.
     bool Notify = false;
     bool Wait = true;
     bool Shareable = true;

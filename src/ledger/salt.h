@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The salt of the encryption key, which is in the first bytes of the file.
+// The salt from which the encryption key is derived: the first 16 bytes of the file.
 //
 // A power cut during a checkpoint can damage the first page. SQLite restores all pages from the
 // WAL, but SQLCipher reads the salt only from the file, and can decrypt nothing with a wrong one.

@@ -23,8 +23,13 @@ void Combo::setList(const QStringList &entries)
     const QSignalBlocker quiet(this);
     if (isEditable())
         setCompleter(nullptr);
-    clear();
-    addItems(entries);
+    QStringList shown;
+    for (int at = 0; at < count(); ++at)
+        shown += itemText(at);
+    if (shown != entries) { // filling a list takes much longer than comparing it
+        clear();
+        addItems(entries);
+    }
     setCurrentIndex(-1); // QComboBox has selected the first entry
     if (isEditable())
         setEditText(text);

@@ -8,6 +8,8 @@
 #include <QList>
 #include <QString>
 
+#include <QVarLengthArray>
+
 #include <functional>
 #include <span>
 
@@ -99,7 +101,8 @@ private:
         QString text;
         QColor color;
     };
-    using Row = QList<Cell>;
+    using Row =
+        QVarLengthArray<Cell, 5>; ///< the columns of a board, without an allocation for each row
 
     bool hasCell(int row, int column) const;
     Cell &cell(int row, int column);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Tab bar that also reports tabs set by code.
+// Tab bar that reports every setTab(), even of the current tab, and narrows its captions to fit.
 #pragma once
 
 #include <QTabBar>
