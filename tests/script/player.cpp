@@ -107,7 +107,7 @@ void Player::runStep()
     const bool starts = findVerb(step().verb)->is(InProgram) && !m_stage.started;
     const Verb &verb = *findVerb(starts ? u"start"_s : step().verb);
     if (const QMessageBox *box = Stage::box(); box && verb.is(Acts))
-        fail(u"nobody has read the box: "_s + box->text());
+        fail(u"no step has read the box: "_s + box->text());
     Running running{m_shown, starts};
     m_running += &running;
     QString wrong;
@@ -126,7 +126,7 @@ void Player::runStep()
     arm(0);
 }
 
-/// Tells the process that waits for this one.
+/// Reports to the process that waits for this one.
 void Player::tellPlace() const
 {
     std::printf("@ %d %d\n", m_case, m_step);
@@ -142,7 +142,7 @@ void Player::next()
 void Player::endCase()
 {
     if (const QMessageBox *box = Stage::box())
-        fail(u"nobody has read the box: "_s + box->text());
+        fail(u"no step has read the box: "_s + box->text());
     if (const QWidgetList open = openDialogs(); !open.isEmpty())
         fail(u"a window is open at the end of the case: "_s + open.first()->objectName());
     if (!m_running.isEmpty())

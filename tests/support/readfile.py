@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
-"""Tells what other programs read in a sheet or PDF of the program, as text: readfile.py FILE ANSWER.
+"""Prints what other programs read in a sheet or PDF of the program, as text: readfile.py FILE ANSWER.
 The answer has its name once it is whole."""
 
 import os
