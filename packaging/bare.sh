@@ -127,7 +127,7 @@ try_commands()
     timed ./test
     timed --net ./run
     if [[ -x build/release/keeper ]]; then
-        tests/twosystems/bothways.sh build/release "$build/keeper" "$build/make-empty-ledger" \
+        tests/twosystems/bothways.sh build/release/keeper "$build/keeper" "$build/make-empty-ledger" \
             packaging/bare.sh --inside "$suite" || die "one book cannot be used alternately here and on $suite"
         report+=("one book written alternately here and there")
     else

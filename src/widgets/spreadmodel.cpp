@@ -106,7 +106,7 @@ void SpreadModel::setRow(int row, std::span<const QString> texts)
 {
     Q_ASSERT(hasCell(row, int(texts.size()) - 1));
     Row &cells = m_rows[row - 1];
-    auto cell = cells.begin();
+    auto *cell = cells.begin();
     for (const QString &text : texts)
         (cell++)->text = text;
     if (m_rebuilds == 0)
