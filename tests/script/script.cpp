@@ -4,6 +4,7 @@
 #include "script/verbs.h"
 
 #include <QFile>
+#include <QHash>
 #include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
@@ -14,6 +15,7 @@ struct Line
 {
     int number;
     QString text;
+    QString origin; ///< line of the draw that it plays
 };
 
 [[noreturn]] void refuseScript(const QString &path, int line, const QString &reason)
@@ -52,37 +54,73 @@ QString filledIn(QString text, const QString &row)
     return text;
 }
 
-/// The lines that say something. One that begins with "/" goes on with the line before. Those
-/// between "each ROWS" and "end" stand there for each row.
+/// The lines that say something. One that begins with "/" goes on with the line before.
 QList<Line> readLines(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("cannot read %s", qUtf8Printable(path));
     QList<Line> lines;
-    qsizetype each = -1;
     int number = 0;
     for (const QString &read : QString::fromUtf8(file.readAll()).split(u'\n')) {
         const QString text = read.trimmed();
         ++number;
         if (text.startsWith(u"/ "_s) && !lines.isEmpty())
             lines.last().text += u' ' + text;
-        else if (text == u"end"_s && each >= 0) {
-            const QList<Line> body = lines.sliced(each + 1);
-            const QStringList rows = rowsOf(lines[each].text.mid(5));
-            lines.resize(each);
-            for (const QString &row : rows) {
-                for (const Line &line : body)
-                    lines += {line.number, filledIn(line.text, row)};
-            }
-            each = -1;
-        } else if (!text.isEmpty() && !text.startsWith(u'#')) {
-            each = text.startsWith(u"each "_s) ? lines.size() : each;
-            lines += {number, text};
-        }
+        else if (!text.isEmpty() && !text.startsWith(u'#'))
+            lines += {number, text, {}};
     }
     return lines;
 }
+
+/// Puts the steps of "each", of "play" and of verbs made by "to" in their places.
+class Expansion
+{
+public:
+    explicit Expansion(const QString &path) : m_folder(QFileInfo(path).path() + u'/')
+    {
+        expand(readLines(path));
+    }
+
+    QList<Line> lines;
+
+private:
+    /// The lines from @p at to their "end".
+    static QList<Line> takeBody(const QList<Line> &from, qsizetype &at)
+    {
+        QList<Line> body;
+        for (int open = 1; ++at < from.size(); body += from[at]) {
+            const QString verb = from[at].text.section(u' ', 0, 0);
+            open += verb == u"each"_s || verb == u"to"_s ? 1 : verb == u"end"_s ? -1 : 0;
+            if (open == 0)
+                break;
+        }
+        return body;
+    }
+
+    void expand(const QList<Line> &from, const QString &words = {}, const QString &origin = {})
+    {
+        for (qsizetype at = 0; at < from.size(); ++at) {
+            const Line line{from[at].number, filledIn(from[at].text, words), origin};
+            const QString verb = line.text.section(u' ', 0, 0);
+            const QString rest = line.text.mid(verb.size() + 1);
+            if (verb == u"to"_s) {
+                m_made[rest] = takeBody(from, at);
+            } else if (verb == u"each"_s) {
+                const QList<Line> body = takeBody(from, at);
+                for (const QString &row : rowsOf(rest))
+                    expand(body, row, origin);
+            } else if (m_made.contains(verb)) {
+                expand(m_made[verb], rest, origin);
+            } else {
+                lines += line;
+            }
+        }
+    }
+
+    QString m_folder;
+    QHash<QString, QList<Line>> m_made;
+};
 
 /// The keys of "<F5>" are one step, and so is each character of other words.
 void addKeys(QList<Step> &steps, const Step &line, const QStringList &words)
@@ -140,7 +178,7 @@ QList<Case> readScript(const QString &path)
 {
     QList<Step> before;
     QList<Case> cases;
-    for (const Line &line : readLines(path)) {
+    for (const Line &line : Expansion(path).lines) {
         const QString verb = line.text.section(u' ', 0, 0);
         const QString rest = line.text.mid(verb.size() + 1);
         if (verb == u"case"_s)
@@ -149,7 +187,7 @@ QList<Case> readScript(const QString &path)
             refuseScript(path, line.number, u"no verb "_s + verb);
         else
             addStep(cases.isEmpty() ? before : cases.last().steps,
-                    {line.number, verb, rest, wordsOf(rest), line.text});
+                    {line.number, verb, rest, wordsOf(rest), line.text + line.origin});
     }
     if (cases.isEmpty())
         refuseScript(path, 1, u"no case"_s);
