@@ -8,7 +8,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 source packaging/prepare.sh
 
-# Picture, and the screen of the tour's second draw that it shows.
+# Picture, and the picture of the tour that it is made from.
 pictures='
 docs/pictures/board.png                 board
 docs/pictures/check.png                 winners
@@ -34,7 +34,7 @@ install_missing pictures
 while read -r picture screen; do
     [[ -n $picture ]] || continue
     # A palette more than halves a picture. Dithering would put dots into plain areas and letters.
-    pngquant --nofs --speed 1 --strip --force --output "$picture" 256 "build/tour/draw1-$screen.png" ||
+    pngquant --nofs --speed 1 --strip --force --output "$picture" 256 "build/tour/$screen.png" ||
         die "$picture could not be made"
 done <<<"$pictures"
 echo "The pictures are taken. Look at each before they go in."

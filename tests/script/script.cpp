@@ -2,8 +2,10 @@
 #include "script/script.h"
 
 #include "script/verbs.h"
+#include "tour/drawfile.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QHash>
 #include <QRegularExpression>
 
@@ -110,6 +112,10 @@ private:
                 const QList<Line> body = takeBody(from, at);
                 for (const QString &row : rowsOf(rest))
                     expand(body, row, origin);
+            } else if (verb == u"play"_s) {
+                for (const DrawFact &fact : readDraw(m_folder + wordsOf(rest).value(0)))
+                    if (wordsOf(rest).contains(fact.text.section(u' ', 0, 0)))
+                        expand({{line.number, fact.text, {}}}, {}, fact.place);
             } else if (m_made.contains(verb)) {
                 expand(m_made[verb], rest, origin);
             } else {

@@ -6,10 +6,10 @@
 # has no type of this machine. A visitor keys and saves a ticket, then the tour
 # plays its draws there and leaves pictures. Where nothing can be written the
 # program says so and ends.
-# Usage: shipped.sh CMAKE ZIP VERSION WINE BUILD TEST_LIBRARY PICTURES
+# Usage: shipped.sh CMAKE ZIP VERSION WINE BUILD TEST_LIBRARY TOUR PICTURES
 
 set -euo pipefail
-cmake=$1 zip=$2 version=$3 wine=$4 build=$5 test_library=$6 pictures=$7
+cmake=$1 zip=$2 version=$3 wine=$4 build=$5 test_library=$6 tour=$7 pictures=$8
 source "${BASH_SOURCE[0]%/*}/../../packaging/windows/places.sh"
 place=$(mktemp -d)
 export DESK_WINEPREFIX=$place/windows WINEPREFIX=$place/windows DESK_SHIPPED=yes
@@ -77,7 +77,8 @@ closed()
 closed "$folder/data" # the book's rights alone would allow it
 closed -R "$folder"
 
-cp "$build/tour.exe" "$test_library" "$folder/"
+cp "$build/test_script.exe" "$test_library" "$folder/"
 rm -rf "$pictures"
-"$wine" "$folder/tour.exe" --pictures "Z:$pictures"
+mkdir -p "$pictures"
+DESK_PICTURES=Z:$pictures "$wine" "$folder/test_script.exe" "Z:$tour"
 [[ -n $(ls "$pictures") ]] || fail "the tour left no pictures"
