@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: MIT
-// What an eye would find fault with on a window: words cut off, words too faint to read.
+// What those find fault with in a window who use no mouse, a screen reader, large type or dark colours.
 #pragma once
 
 #include <QStringList>
 
 class QWidget;
 
-/// A form larger than the desktop, pages that have to be scrolled, texts that do not fit their place,
-/// grids that show too few rows to work in, and type too small to read all day.
-QStringList cutOffIn(QWidget *form);
-
-/// Texts that stand out too little from their ground, as the window is painted now.
-QStringList faintIn(QWidget *form);
+/// Controls without a name of their own or out of reach of Tab, texts that are cut off or too faint, a
+/// window larger than the screen, grids with too few rows to work in.
+QStringList faultsIn(QWidget *form);

@@ -8,6 +8,7 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QProgressBar>
+#include <QScrollArea>
 #include <QTabBar>
 #include <QTest>
 #include <QWindow>
@@ -147,6 +148,13 @@ QStringList gridRows(const QWidget *control, const QStringList &columns)
     return rows;
 }
 
+void scrollTo(QWidget *control)
+{
+    auto *area = control->window()->findChild<QScrollArea *>();
+    if (area && area->isAncestorOf(control))
+        area->ensureWidgetVisible(control);
+}
+
 void pressKey(const QString &key)
 {
     const QWidget *popup = QApplication::activePopupWidget();
@@ -168,6 +176,7 @@ void pressKey(const QString &key)
 void click(QWidget *control, const QString &place, const QString &how)
 {
     QWindow *window = control->window()->windowHandle();
+    scrollTo(control);
     QList<QPoint> places;
     for (const QString &each : place.split(u'>')) {
         places += placeIn(control, each);

@@ -32,6 +32,9 @@ QString read(const QWidget *control, const QString &part = {});
 /// " hot" behind a row with a coloured cell.
 QStringList gridRows(const QWidget *grid, const QStringList &columns);
 
+/// Scrolls to a control on a page that is larger than its window.
+void scrollTo(QWidget *control);
+
 /// Presses and releases a key, such as "<Shift+Tab>" or "a", in the window that has the focus.
 void pressKey(const QString &key);
 

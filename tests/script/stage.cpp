@@ -23,6 +23,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+void resetMachine()
+{
+    static const QPalette colors = QApplication::palette();
+    QApplication::setPalette(colors);
+    setMachineRegion(QLocale(u"th_TH"_s));
+    setClock([] { return QDateTime({2026, 11, 16}, {10, 0}); });
+}
+
 /// The key of @p ledger, which takes long to make, for all files with the same salt.
 QByteArray readyKey(const QString &ledger)
 {
@@ -44,8 +52,7 @@ Stage::Stage(const QString &place) : m_place(place), m_folder(place + u"/program
         copyProgramData(QCoreApplication::applicationDirPath(), place);
     }
     setProgramFolder(m_folder);
-    setMachineRegion(QLocale(u"th_TH"_s));
-    setClock([] { return QDateTime({2026, 11, 16}, {10, 0}); });
+    resetMachine();
 }
 
 Stage::~Stage() = default; // as main() does, and no more
@@ -59,6 +66,7 @@ void Stage::reset()
     leaveOnlyInstance();
     started = false;
     MemberFilterOn = false; // as in a new process
+    resetMachine();
     if (!QDir(m_folder).removeRecursively())
         qFatal("cannot remove %s", qUtf8Printable(m_folder));
     copyProgramData(m_place, m_folder);

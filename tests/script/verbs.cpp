@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "script/verbs.h"
 
+#include "access/look.h"
 #include "desktop/clock.h"
 #include "desktop/region.h"
 #include "entry/vocabulary.h"
@@ -330,6 +331,18 @@ void readStatus(Stage &stage, const Step &step)
     answerBox(stage, u"information [OK] \"รายงานสถานะ\" "_s + step.rest, u"<Enter>"_s);
 }
 
+void lookForFaults(Stage &stage, const Step &)
+{
+    expect({}, faultsIn(stage.activeWindow()).join(u"\n            "_s));
+}
+
+/// Those of the desktop, for a program that starts after it: "dark" or "bright".
+void setColors(Stage &, const Step &step)
+{
+    if (step.rest == u"dark"_s)
+        QApplication::setPalette(QPalette(QColor(0x3A, 0x3A, 0x3A), QColor(0x2D, 0x2D, 0x2D)));
+}
+
 /// Whoever started this process sees its end.
 void awaitEnd(Stage &, const Step &)
 {
@@ -410,6 +423,8 @@ constexpr std::array Verbs{
     Verb{u"refused", InProgram | Checks, readRefusal},
     Verb{u"informed", InProgram | Checks, readStatus},
     Verb{u"dump", InProgram | Checks, compareDump},
+    Verb{u"colors", 0, setColors},
+    Verb{u"look", InProgram | Acts | Checks, lookForFaults},
     Verb{u"picture", InProgram, takePicture},
     Verb{u"ends", InProgram | Checks, awaitEnd},
 };
