@@ -126,7 +126,8 @@ try_commands()
     timed ./run
     timed ./test
     timed --net ./run
-    if [[ -x build/release/keeper ]]; then
+    # A keeper of an earlier state would read its arguments in another way.
+    if [[ -x build/release/keeper ]] && cmake --build build/release --target keeper; then
         tests/twosystems/bothways.sh build/release/keeper "$build/keeper" "$build/make-empty-ledger" \
             packaging/bare.sh --inside "$suite" || die "one book cannot be used alternately here and on $suite"
         report+=("one book written alternately here and there")
