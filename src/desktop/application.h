@@ -10,7 +10,8 @@ class Application : public QApplication
     Q_OBJECT
 
 public:
-    /// Sets the program's name, style and font, and shows boxes and the save dialog as windows.
+    /// Sets the program's name, style, font and icon, and installs the functions that show boxes and
+    /// the save dialog.
     Application(int &argc, char **argv);
 
     /// Delivers an event. Catches run-time errors here, in nested event loops too, since no

@@ -9,7 +9,7 @@
 
 enum class MediaCommand {
     Close, ///< closes the file and stops its sound
-    Open,  ///< loads the file named by FileName
+    Open,  ///< loads the file named by FileName; Close must come first
     Play   ///< starts it from its beginning and returns at once
 };
 
@@ -23,8 +23,9 @@ public:
     Q_DISABLE_COPY_MOVE(MediaControl)
 
     // Part of the control's fixed interface, set by ReadKey() and ignored, since these values
-    // describe what always happens: no notification is sent, Play returns once the sound has
-    // started, and the device is shared.
+    // describe what always happens: no notification is sent (Notify), a command is complete when
+    // Command() returns, which for Play means that the sound has started (Wait), and the device is
+    // shared with other programs (Shareable).
     bool Notify = false;
     bool Wait = true;
     bool Shareable = true;

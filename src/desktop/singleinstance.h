@@ -3,8 +3,8 @@
 // of one draw.
 #pragma once
 
-/// Takes the lock of the only running copy until the process ends, also if it is killed. Returns
-/// false while another copy has it. Returns true if the lock cannot be created, for example on a
+/// Takes the lock that only one copy can hold, and keeps it until the process ends, even if it is
+/// killed. Returns false while another copy has it. Returns true if the lock cannot be created, for example on a
 /// full disk: the exclusive lock on the Ledger still protects the book.
 bool becomeOnlyInstance();
 

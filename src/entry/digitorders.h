@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: MIT
-// The orders of a number's digits, in the sequences that the screens use. Positions beyond the end
-// of a short number are left out.
+// The orders of a number's digits, in the sequences that the screens use.
 #pragma once
 
 #include <QStringList>
@@ -13,5 +12,5 @@ QStringList turnedOrders(const QString &number);
 QStringList listedOrders(const QString &number);
 
 /// Returns all orders of a number's first three digits except the order as given. Equal digits
-/// yield duplicates, which can include the number itself.
+/// yield duplicates, which can include the number itself; a single digit is returned five times.
 QStringList otherOrders(const QString &number);

@@ -83,8 +83,8 @@ const KindEntry *kindOfKey(const QString &name)
     return nullptr;
 }
 
-/// Returns a colour for kinds on top, one for kinds on the bottom and one for all others, so that
-/// the side is seen at a glance.
+/// Returns a colour for kinds whose caption names the top, one for those that name the bottom, and
+/// one for the rest, which name both sides or none (tod, straight and tod).
 QColor kindColor(const KindEntry &kind)
 {
     const bool top = kind.caption.contains(u"บน");

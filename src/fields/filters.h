@@ -5,7 +5,7 @@
 
 #include <QByteArray>
 
-/// Layout id of US English, as of desktop::keyboardLayoutName().
+/// Layout id of US English, in the form that desktop::keyboardLayoutName() returns.
 inline constexpr const char *EnglishLayout = "00000409";
 
 /// Passes digits, Backspace and Enter. Shows a box for any other key.

@@ -22,11 +22,13 @@ class Connection
 {
 public:
     /// Opens an existing Ledger for this process alone. Throws if the file is missing, empty, not a
-    /// Ledger, damaged, encrypted with another password, not writable or in use.
+    /// Ledger, damaged, encrypted with another password, not writable or in use. Damage within a file
+    /// of more than 4 MB is found only after a crash, or once a statement reads the page.
     ///
     /// Never creates a Ledger and changes no rows, but does write: a temporary file beside the
     /// Ledger probes whether the folder is writable, and SQLite creates the WAL. A WAL of another
-    /// file is renamed; to recognise one, copies of its first page are read from temporary files.
+    /// file is renamed. To recognise one, the Ledger's first page, of which a WAL contains copies, is
+    /// written to temporary files and read from there.
     /// After a crash, damaged indexes are rebuilt, and the WAL is checkpointed if the file has an
     /// incomplete last page.
     static std::unique_ptr<Connection> open(const QString &path,
@@ -47,15 +49,16 @@ public:
     /// NULL as an invalid QVariant.
     ResultRows run(const QString &sql, const QVariantList &values = {});
 
-    /// Moves the WAL into the file. Only this overwrites deleted rows in the file.
+    /// Moves the WAL into the file now. Until that happens, here or when the WAL is long or the file
+    /// is closed, the file still contains deleted rows.
     void moveWalIntoFile();
 
     /// Throws FatalError if the file or its WAL was deleted or replaced, unless that was reported
     /// before. To be called before closing.
     void requireOwnFile();
 
-    /// Sets the number of pages from which on the WAL is moved into the file before the next
-    /// statement. Only tests change the default.
+    /// Sets how long the WAL may become, in pages. The next statement that writes first moves a
+    /// longer one into the file. Only tests change the default.
     void setMaxWalPages(int pages);
 
 private:

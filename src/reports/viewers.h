@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-// One function for each print button. Each shows a report in a modal dialog over @p opener, the
-// window of the button, so its grids do not change while the report reads them.
+// One function for each print button. Each runs a report, which reads its grids, and then shows the
+// pages in a modal dialog over @p opener, the window of the button.
 #pragma once
 
 #include "reports/statementreport.h"

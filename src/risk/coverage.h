@@ -5,7 +5,7 @@
 #include "entry/vocabulary.h"
 
 /// The label of a class's bar, and how many numbers the class has. Tod numbers with the same digits
-/// count as one, and those of equal digits cannot be bet.
+/// count as one, and those whose digits are all equal cannot be bet.
 struct CoverageBar
 {
     QStringView words;

@@ -30,7 +30,7 @@ void Combo::setList(const QStringList &entries)
         clear();
         addItems(entries);
     }
-    setCurrentIndex(-1); // QComboBox has selected the first entry
+    setCurrentIndex(-1); // addItems() selects the first entry
     if (isEditable())
         setEditText(text);
 }
