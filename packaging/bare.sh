@@ -141,8 +141,12 @@ try_folder()
     local archive plugins=build/release/tests/portable/plugins
     archive=$(echo build/portable/*.tar.gz)
     [[ -e $archive && -d $plugins ]] || die "./run folder and ./test have to be run here first"
-    # These programs depend on the libraries that every desktop has.
-    make_system ca-certificates,zenity,mesa-utils,alsa-utils,xvfb,xauth
+    make_system ca-certificates
+    # These programs depend on the libraries that every desktop has. debootstrap itself could not install them,
+    # since it does not know which package provides a virtual one.
+    inside root bash -c 'apt-get update && DEBIAN_FRONTEND=noninteractive apt-get install -y \
+        --no-install-recommends zenity mesa-utils alsa-utils xvfb xauth' >"$system.log" 2>&1 ||
+        die "the libraries of a desktop cannot be installed, see $system.log"
     tar -xf "$archive" -C "$system$home"
     cp -r "$plugins" "$system$home/visitor"
     inside root chown -R agent: "$home"
