@@ -28,7 +28,7 @@ inline constexpr QLatin1StringView PercentField("MPercen");
 int listCustomers(SpreadModel &list, const QString &part, ProgressBar &progress);
 
 /// Returns the number of customers with that name, case-insensitive. The name is inserted into the
-/// SQL text as it is: an apostrophe in it usually throws DatabaseFailure, which the callers expect.
+/// SQL text as it is: an apostrophe in it usually throws DatabaseFailure, with which the program ends.
 int countCustomersNamed(const QString &name);
 
 /// Adds a customer with the next key.

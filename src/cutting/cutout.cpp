@@ -6,7 +6,6 @@
 #include "ledger/ledger.h"
 #include "runtime/values.h"
 
-#include <algorithm>
 #include <array>
 
 using namespace Qt::StringLiterals;
@@ -30,23 +29,6 @@ enum class Read { Key, Name, Buyer, Money, User };
 const QVariant &field(const QVariantList &line, Read place)
 {
     return line[qsizetype(place)];
-}
-
-/// Sorts lines of equal money by NPK, oldest first. The index of tblNumber has the order of money
-/// but not that of NPK: with NPK in ORDER BY, SQLite would have to sort all lines.
-void sortEqualMoneyByKey(QList<QVariantList> &lines)
-{
-    const auto older = [](const QVariantList &left, const QVariantList &right) {
-        return field(left, Read::Key).toLongLong() < field(right, Read::Key).toLongLong();
-    };
-    for (auto first = lines.begin(); first != lines.end();) {
-        const QVariant &money = field(*first, Read::Money);
-        const auto end = std::find_if(first, lines.end(), [&](const QVariantList &line) {
-            return field(line, Read::Money) != money;
-        });
-        std::sort(first, end, older);
-        first = end;
-    }
 }
 
 /// Deletes a line from the book. NPK alone identifies it; like all statements that change a line,
@@ -93,21 +75,20 @@ void CutOut::LoadNumrunup()
                     " tblNumber.nuser"
                     " FROM tblNumber INNER JOIN tblMember ON tblNumber.nameFK = tblMember.MPK"
                     " WHERE [num23] = ? AND [numType] = ? AND [updown] = ? AND [numValue] = ?"
-                    " ORDER BY numBuy DESC"_s,
+                    " ORDER BY numBuy DESC, NPK"_s,
                     {SelNum23, SelNumType, SelUpDown, trimBlanks(SelNumValue)});
-    QList<QVariantList> lines = RecordsetA.takeRows();
-    sortEqualMoneyByKey(lines);
+    const QList<QVariantList> lines = RecordsetA.takeRows();
     if (lines.isEmpty())
         return;
     qint32 CutTotal = 0; // Sum first: a NULL amount must throw before any row is shown.
-    for (const QVariantList &line : std::as_const(lines))
+    for (const QVariantList &line : lines)
         CutTotal = addLong({CutTotal, CLng(numberOf(field(line, Read::Money)))});
     grid.setRows(int(lines.size()));
     std::array<QString, CutColumn::User + 1> texts;
     texts[CutColumn::Label] = twoPartLabel(SelNumType, SelUpDown);
     texts[CutColumn::Number] = trimBlanks(SelNumValue);
     int row = 0;
-    for (const QVariantList &line : std::as_const(lines)) {
+    for (const QVariantList &line : lines) {
         texts[CutColumn::Key] = field(line, Read::Key).toString();
         texts[CutColumn::Place] = QString::number(++row);
         texts[CutColumn::Customer] = u' ' + field(line, Read::Name).toString();

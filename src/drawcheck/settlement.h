@@ -7,8 +7,8 @@
 #include "widgets/progressbar.h"
 
 /// The data of the draw check page. Its members are public, since the page shows them and the
-/// report prints them. The amounts are stored as their displayed texts, and calculated from these
-/// texts.
+/// report prints them. They keep the amounts as displayed texts, from which further amounts are
+/// calculated; tblTrue gets numbers.
 class DrawCheck
 {
 public:
@@ -30,9 +30,10 @@ public:
 
     /// Checks the book against a result: fills the grid, sets the amounts and stores result and
     /// amounts in tblTrue. The discounts reduce the profit only if there is no winner. A check of
-    /// Book::CutOut stores only a result without a winner, with amounts of 0. Call zeroAmounts()
-    /// first. Throws "Type mismatch" if it calculates with a displayed amount of 0, which is "",
-    /// and "Overflow" beyond 32 bits; what was done before the error is not undone.
+    /// Book::CutOut stores only a result without a winner, with amounts of 0; with winners, both
+    /// labels become "เลขคัดออก" instead of an amount. Call zeroAmounts() first. Throws "Type
+    /// mismatch" if it calculates with a displayed amount of 0, which is "", and "Overflow" beyond
+    /// 32 bits; what was done before the error is not undone.
     void LoadnumberT(const ResultDigits &digits, ProgressBar &progress);
 
 private:

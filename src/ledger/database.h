@@ -37,7 +37,8 @@ public:
         Immutable, ///< read-only, without the WAL and without a lock
     };
 
-    /// Opens the file. Does not read from it.
+    /// Opens the file. A wrong password or a file that is no database shows only at the first
+    /// statement that reads.
     Database(const QString &path, Access access);
     ~Database();
     Q_DISABLE_COPY_MOVE(Database)

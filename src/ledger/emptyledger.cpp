@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Boards, scans and spelling searches read by class and number, lists of buyers by customer. The
+// Boards, scans and todSpelling() read by class and number, lists of buyers by customer. The
 // first index also has the customer and the user, so that the lines of a number are listed without
 // reading the table.
 constexpr std::array Indexes{

@@ -205,7 +205,7 @@ private:
         add(CodePage, Utf16);
         add(Window1, quint16(360), quint16(270), quint16(18000), quint16(9000), quint16(0x38),
             quint16(0), quint16(0), quint16(1), quint16(600));
-        for (const int font : {PlainFont, BoldFont, PlainFont, PlainFont}) // at least four
+        for (const int font : {PlainFont, BoldFont, PlainFont, PlainFont}) // Excel requires four
             addFont(font == BoldFont);
         for (quint16 format = 0; format < CellFormats::Count; ++format)
             add(Xf, CellFormats::record(format));
