@@ -8,6 +8,7 @@
 #include "shell/globals.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -149,7 +150,8 @@ void Board::fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbe
     texts[TypeColumn] = QString::number(betClass.numType);
     texts[DigitsColumn] = QString::number(betClass.num23);
     texts[SideColumn] = betClass.updown ? u"True"_s : u"False"_s;
-    bool halved = false;
+    std::vector<double> shown;
+    shown.reserve(lines.size());
     int row = 0;
     for (const auto &[number, money] : lines) {
         if (!money)
@@ -157,17 +159,14 @@ void Board::fillRows(int at, const BoardLines &lines, const HotNumbers &hotNumbe
         BoardTotal = addLong({BoardTotal, CLng(*money)});
         const bool isHot = hotNumbers.reach(betClass, number);
         texts[NumberColumn] = number;
-        texts[AmountColumn] = formatBaht(isHot ? *money / 2 : *money);
+        shown.push_back(std::round(isHot ? *money / 2 : *money)); // as formatBaht() does
+        texts[AmountColumn] = formatBaht(shown.back());
         grid.setRow(++row, texts);
         if (isHot)
             grid.setColor(row, NumberColumn, QColor(HotColor));
-        halved = halved || isHot;
         progress.step();
     }
-    if (halved)
-        grid.sortDescending(AmountColumn, [](const QString &text) {
-            return text.isEmpty() ? 0 : CDbl(text); // formatBaht(0) is empty
-        });
+    grid.sortDescending(shown);
 }
 
 void Board::takeTotal(int at)

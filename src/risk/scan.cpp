@@ -6,6 +6,8 @@
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 qint32 ScanRow = 0;
@@ -45,11 +47,6 @@ QString textOf(const QList<ScanLine> &related)
     return text;
 }
 
-double countOf(const QString &risk)
-{
-    return risk.isEmpty() ? 0 : CDbl(risk.chopped(1)); // without the percent sign
-}
-
 } // namespace
 
 RiskScan::RiskScan()
@@ -71,10 +68,11 @@ bool RiskScan::run(bool updown, ProgressBar &progress)
     const QList<ScanLine> lines = fill(updown, progress);
     if (lines.isEmpty())
         return true;
-    const int risky = relate(updown, lines);
-    grid.sortDescending(ScanColumn::Risk, countOf);
-    grid.setRows(risky); // rows without related lines are at the end
-    return risky > 0;
+    const std::vector<double> counts = relate(updown, lines);
+    grid.sortDescending(counts);
+    // Rows without related lines are at the end now.
+    grid.setRows(int(counts.size()) - int(std::count(counts.begin(), counts.end(), 0)));
+    return grid.rows() > 0;
 }
 
 /// Lists all numbers bought on a side and returns them in the order of the rows.
@@ -105,18 +103,19 @@ QList<ScanLine> RiskScan::fill(bool updown, ProgressBar &progress)
     return lines;
 }
 
-/// Writes the related lines of each row and their count. Returns how many rows have any.
-int RiskScan::relate(bool updown, const QList<ScanLine> &lines)
+/// Writes the related lines of each row and their count. Returns the counts.
+std::vector<double> RiskScan::relate(bool updown, const QList<ScanLine> &lines)
 {
     const RelatedLines book(updown, lines);
-    int risky = 0;
+    std::vector<double> counts;
     for (int row = 1; const ScanLine &line : lines) {
-        if (const QList<ScanLine> related = book.of(line); !related.isEmpty()) {
-            ++risky;
+        const QList<ScanLine> related = book.of(line);
+        counts.push_back(double(related.size()));
+        if (!related.isEmpty()) {
             grid.setText(row, ScanColumn::Risk, QString::number(related.size()) + u'%');
             grid.setText(row, ScanColumn::Related, textOf(related));
         }
         ++row;
     }
-    return risky;
+    return counts;
 }

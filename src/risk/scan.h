@@ -7,6 +7,8 @@
 #include "widgets/progressbar.h"
 #include "widgets/spreadmodel.h"
 
+#include <vector>
+
 /// Columns of the scan.
 namespace ScanColumn {
 inline constexpr int Related = 0; ///< hidden: the related lines, one per line of text
@@ -38,5 +40,5 @@ public:
 private:
     void SetupSpread();
     QList<ScanLine> fill(bool updown, ProgressBar &progress);
-    int relate(bool updown, const QList<ScanLine> &lines);
+    std::vector<double> relate(bool updown, const QList<ScanLine> &lines);
 };

@@ -2,6 +2,8 @@
 #include "widgets/spreadmodel.h"
 
 #include <algorithm>
+#include <functional>
+#include <numeric>
 #include <utility>
 #include <vector>
 
@@ -152,22 +154,22 @@ void SpreadModel::setTitles(int row, std::span<const GridColumn> columns, bool b
     }
 }
 
-void SpreadModel::sortDescending(int column,
-                                 const std::function<double(const QString &text)> &valueOf)
+void SpreadModel::sortDescending(std::span<const double> values)
 {
-    std::vector<std::pair<double, qsizetype>> order;
-    order.reserve(size_t(m_rows.size()));
-    for (const Row &row : std::as_const(m_rows))
-        order.emplace_back(valueOf(row[column].text), qsizetype(order.size()));
-    const auto above = [](const auto &left, const auto &right) { return left.first > right.first; };
-    if (std::is_sorted(order.begin(), order.end(), above))
+    Q_ASSERT(values.size() == size_t(rows()));
+    if (std::is_sorted(values.begin(), values.end(), std::greater<>()))
         return;
+    const Rebuild rebuild(*this);
+    std::vector<qsizetype> order(values.size());
+    std::iota(order.begin(), order.end(), 0);
+    const auto above = [&](qsizetype left, qsizetype right) {
+        return values[size_t(left)] > values[size_t(right)];
+    };
     std::stable_sort(order.begin(), order.end(), above);
     QList<Row> sorted;
     sorted.reserve(m_rows.size());
-    for (const auto &[value, row] : order)
-        sorted += m_rows[row];
-    const Rebuild rebuild(*this);
+    for (const qsizetype row : order)
+        sorted += std::move(m_rows[row]);
     m_rows.swap(sorted);
 }
 

@@ -10,7 +10,6 @@
 
 #include <QVarLengthArray>
 
-#include <functional>
 #include <span>
 
 /// Number of the first header row; the second is -999, the third -998.
@@ -83,9 +82,9 @@ public:
     /// Sets the titles of @p columns in a header row, and the alignment of the columns.
     void setTitles(int row, std::span<const GridColumn> columns, bool bold = false);
 
-    /// Sorts the rows by the value that @p valueOf returns for their text in @p column, the highest
-    /// first. Rows of equal value keep their order.
-    void sortDescending(int column, const std::function<double(const QString &text)> &valueOf);
+    /// Sorts the rows by @p values, one for each row, the highest first. Rows of equal value keep
+    /// their order.
+    void sortDescending(std::span<const double> values);
 
     /// Returns the first row whose text in @p column equals @p text exactly, or -1.
     int searchColumn(int column, const QString &text) const;
