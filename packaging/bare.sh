@@ -150,9 +150,10 @@ try_folder()
     tar -xf "$archive" -C "$system$home"
     cp -r "$plugins" "$system$home/visitor"
     inside root chown -R agent: "$home"
+    # "exit" keeps the shell, since Xvfb does not signal a process 1 that it is ready.
     # shellcheck disable=SC2016 # expanded by the inner shell
     inside agent bash -c 'cd ~ && QT_PLUGIN_PATH=$HOME/visitor QT_QPA_GENERIC_PLUGINS=visitor \
-        SDL_AUDIODRIVER=dummy xvfb-run -a timeout 30 mirakla-desk-*/mirakla-desk' >"$system.seen" ||
+        SDL_AUDIODRIVER=dummy xvfb-run -a timeout 30 mirakla-desk-*/mirakla-desk; exit $?' >"$system.seen" ||
         die "the folder does not start on $suite; the system is left in $system"
     grep -q '^font: Noto Sans, Noto Sans Thai$' "$system.seen" || die "Thai is not drawn; see $system.seen"
     [[ $(sqlcipher "$system$home"/mirakla-desk-*/data/ztkdata.ZDB "PRAGMA key = '639417';
