@@ -15,7 +15,7 @@ docs/pictures/check.png                 winners
 docs/pictures/customers.png             customers
 docs/pictures/cut.png                   cut
 docs/pictures/cuts.png                  cuts-page
-docs/pictures/entry.png                 ticket25
+docs/pictures/entry.png                 ticket-16,460
 docs/pictures/history.png               history
 docs/pictures/keys.png                  keys
 docs/pictures/paper.png                 winners-printed
@@ -25,7 +25,7 @@ docs/pictures/statement.png             statement-page
 docs/pictures/winners.png               winners-page
 packaging/guide/pictures/board.png      board
 packaging/guide/pictures/check.png      winners
-packaging/guide/pictures/entry.png      ticket7
+packaging/guide/pictures/entry.png      ticket-4,520
 packaging/guide/pictures/settings.png   settings
 '
 

@@ -1,22 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "access/look.h"
-
-#include "script/controls.h"
+#include "script/player.h"
 #include "widgets/narrowedfont.h"
 #include "widgets/spread.h"
 
 #include <QAccessible>
-#include <QApplication>
-#include <QFontInfo>
-#include <QHeaderView>
-#include <QImage>
-#include <QMap>
-#include <QScreen>
-#include <QScrollBar>
 
 #include <cmath>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 

@@ -1,151 +1,102 @@
 // SPDX-License-Identifier: MIT
-#include "script/controls.h"
-
+#include "script/player.h"
 #include "widgets/spread.h"
 
-#include <QAbstractButton>
-#include <QApplication>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QProgressBar>
-#include <QScrollArea>
-#include <QTabBar>
 #include <QTest>
-#include <QWindow>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
-QWidget *findIn(QWidget *parent, const QString &name)
+/// The caption of a grid or of a visible button.
+QString captionOf(const QWidget *control)
 {
-    if (auto *page = parent->findChild<QWidget *>(u"pageArea"_s)) {
-        if (QWidget *found = findIn(page, name))
-            return found;
-    }
-    if (auto *named = parent->findChild<QWidget *>(name))
-        return named;
-    for (auto *button : parent->findChildren<QAbstractButton *>()) {
-        if (button->isVisible() && button->text().remove(u'&').trimmed() == name)
-            return button;
-    }
-    return parent->objectName() == name ? parent : nullptr;
-}
-
-QString textOf(const QWidget *control)
-{
-    if (const auto *tabs = qobject_cast<const QTabBar *>(control)) {
-        QStringList captions;
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            const QString caption = tabs->tabText(tab).trimmed();
-            captions += tab == tabs->currentIndex() ? u'[' + caption + u']' : caption;
-        }
-        return captions.join(u'|');
-    }
-    if (const auto *bar = qobject_cast<const QProgressBar *>(control))
-        return QString::number(bar->value());
-    for (const char *property : {"currentText", "text", "title", "plainText"}) {
-        if (const QVariant text = control->property(property); text.isValid())
-            return text.toString();
-    }
-    return control->isWindow() ? control->windowTitle() : QString();
-}
-
-/// Two numbers such as "-999,2".
-std::optional<std::pair<int, int>> cellOf(const QString &text)
-{
-    const QStringList numbers = text.split(u',');
-    if (numbers.size() != 2)
-        return std::nullopt;
-    return std::pair(numbers[0].toInt(), numbers[1].toInt());
+    if (const auto *grid = qobject_cast<const Spread *>(control))
+        return grid->text(FirstHeaderRow, 1).trimmed();
+    const auto *button = qobject_cast<const QAbstractButton *>(control);
+    return button && button->isVisible() ? button->text().remove(u'&').trimmed() : QString();
 }
 
 /// Where a click goes, in the window; outside of it if there is no such place.
 QPoint placeIn(QWidget *control, const QString &place)
 {
-    const auto *button = qobject_cast<QAbstractButton *>(control);
-    QPoint at = button && button->isCheckable() ? QPoint(8, control->height() / 2)
-                                                : control->rect().center();
+    const QStringList cell = place.split(u',');
+    QRect rect = control->rect();
     if (auto *grid = qobject_cast<Spread *>(control)) {
-        QRect rect = grid->viewport()->rect();
-        if (const auto cell = cellOf(place)) {
-            const auto index = grid->model()->index(cell->first - 1, cell->second);
+        control = grid->viewport();
+        rect = control->rect();
+        if (place == u"below"_s)
+            rect.setTop(rect.bottom() - 4);
+        if (cell.size() == 2) {
+            const auto index = grid->model()->index(cell[0].toInt() - 1, cell[1].toInt());
             grid->scrollTo(index);
             rect = index.isValid() ? grid->visualRect(index) : QRect(-9, -9, 1, 1);
-        } else if (place == u"below"_s) {
-            rect.setTop(rect.bottom() - 4);
         }
-        at = grid->viewport()->mapTo(grid, rect.center());
     } else if (const auto *tabs = qobject_cast<QTabBar *>(control)) {
-        at = tabs->tabRect(place.toInt()).center();
+        rect = tabs->tabRect(place.toInt());
+    } else if (control->property("checkable").toBool()) {
+        rect.setWidth(16); // the box beside its words
     }
-    return control->mapTo(control->window(), at);
+    return control->mapTo(control->window(), rect.center());
 }
 
 } // namespace
 
 void expect(const QString &expected, const QString &actual)
 {
+    ++comparisons;
     if (expected != actual)
         throw NotYet{u"  expected  "_s + expected + u"\n  actual    "_s + actual};
 }
 
-QWidget *findControl(QWidget *window, const QString &name)
+QWidget *findControl(QWidget *window, const QString &path)
 {
     QWidget *found = window;
-    for (const QString &part : name.split(u'.')) {
-        found = found ? findIn(found, part) : nullptr;
-        if (!found)
-            throw NotYet{u"no control %1 in %2"_s.arg(name, nameOf(window))};
+    for (const QString &name : path.split(u'.')) {
+        const auto *page = found->findChild<QWidget *>(u"pageArea"_s);
+        QWidgetList controls = page ? page->findChildren<QWidget *>() : QWidgetList();
+        controls += found->findChildren<QWidget *>() << found;
+        const auto at = std::ranges::find_if(controls, [&](const QWidget *each) {
+            return each->objectName() == name || captionOf(each) == name;
+        });
+        if (at == controls.end())
+            throw NotYet{u"no control %1 in %2"_s.arg(path, nameOf(window))};
+        found = *at;
     }
     return found;
 }
 
 QString nameOf(const QWidget *control)
 {
-    while (control
-           && (control->objectName().isEmpty() || control->objectName().startsWith(u"qt_"_s)))
+    while (control && QRegularExpression(u"^(qt_.*)?$"_s).match(control->objectName()).hasMatch())
         control = control->parentWidget();
     return control ? control->objectName() : u"none"_s;
 }
 
 QString read(const QWidget *control, const QString &part)
 {
+    const auto *grid = qobject_cast<const Spread *>(control);
     const auto *combo = qobject_cast<const QComboBox *>(control);
-    if (const auto *grid = qobject_cast<const Spread *>(control)) {
-        if (const auto cell = cellOf(part))
-            return grid->text(cell->first, cell->second).trimmed();
-        if (part == u"active"_s || part == u"rows"_s)
-            return QString::number(part == u"active"_s ? grid->activeRow() : grid->rows());
-    }
-    if (combo && part == u"list"_s) {
-        QStringList entries;
-        for (int at = 0; at < combo->count(); ++at)
-            entries += combo->itemText(at);
-        return entries.join(u'|');
-    }
+    const auto *tabs = qobject_cast<const QTabBar *>(control);
+    const QStringList cell = part.split(u',');
+    QStringList texts;
+    if (grid && cell.size() == 2)
+        return grid->text(cell[0].toInt(), cell[1].toInt()).trimmed();
+    if (grid && (part == u"active"_s || part == u"rows"_s))
+        return QString::number(part == u"rows"_s ? grid->rows() : grid->activeRow());
+    for (int at = 0; combo && part == u"list"_s && at < combo->count(); ++at)
+        texts += combo->itemText(at);
+    for (int at = 0; tabs && at < tabs->count(); ++at)
+        texts += at == tabs->currentIndex() ? u'[' + tabs->tabText(at).trimmed() + u']'
+                                            : tabs->tabText(at).trimmed();
+    if (!texts.isEmpty())
+        return texts.join(u'|');
     if (part == u"base"_s)
         return control->palette().base().color().name();
-    return part.isEmpty() ? textOf(control).trimmed()
-                          : control->property(qPrintable(part)).toString();
-}
-
-QStringList gridRows(const QWidget *control, const QStringList &columns)
-{
-    const auto *grid = qobject_cast<const Spread *>(control);
-    QStringList rows;
-    for (int row = 1; grid && row <= grid->rows(); ++row) {
-        QStringList cells;
-        bool hot = false;
-        for (int column = 1; column <= grid->spreadModel()->columns(); ++column) {
-            if (columns.isEmpty() ? !grid->isColumnHidden(column)
-                                  : columns.contains(QString::number(column)))
-                cells += grid->text(row, column).trimmed();
-            hot = hot || grid->color(row, column).isValid();
-        }
-        rows += cells.join(u'|') + (hot ? u" hot"_s : QString());
-    }
-    return rows;
+    if (!part.isEmpty())
+        return control->property(qPrintable(part)).toString();
+    for (const char *property : {"value", "currentText", "text", "title", "plainText"})
+        if (const QVariant text = control->property(property); text.isValid())
+            return text.toString().trimmed();
+    return control->isWindow() ? control->windowTitle() : QString();
 }
 
 void scrollTo(QWidget *control)
@@ -159,40 +110,32 @@ void pressKey(const QString &key)
 {
     const QWidget *popup = QApplication::activePopupWidget();
     QWindow *window = popup ? popup->windowHandle() : QGuiApplication::focusWindow();
-    if (key.size() == 1) {
-        QTest::sendKeyEvent(QTest::Click, window, Qt::Key(key[0].toUpper().unicode()), key,
-                            Qt::NoModifier);
-        return;
-    }
     const QString name = key == u"<Enter>"_s ? u"Return"_s : key.sliced(1).chopped(1);
     const QKeySequence keys(name, QKeySequence::PortableText);
-    if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown)
+    if (key.size() == 1)
+        QTest::sendKeyEvent(QTest::Click, window, Qt::Key(key[0].toUpper().unicode()), key,
+                            Qt::NoModifier);
+    else if (keys.count() == 1 && keys[0].key() != Qt::Key_unknown)
+        QTest::sendKeyEvent(QTest::Click, window, keys[0].key(),
+                            name == u"Space"_s ? u" "_s : QString(), keys[0].keyboardModifiers());
+    else
         qFatal("no key %s", qUtf8Printable(key));
-    QTest::sendKeyEvent(QTest::Click, window, keys[0].key(),
-                        keys[0].key() == Qt::Key_Space ? u" "_s : QString(),
-                        keys[0].keyboardModifiers());
 }
 
 void click(QWidget *control, const QString &place, const QString &how)
 {
-    QWindow *window = control->window()->windowHandle();
     scrollTo(control);
-    QList<QPoint> places;
-    for (const QString &each : place.split(u'>')) {
-        places += placeIn(control, each);
-        const QWidget *there = control->window()->childAt(places.last());
-        if (!there || (there != control && !control->isAncestorOf(there)))
-            throw NotYet{u"%1 cannot be clicked there: it is hidden or covered by %2"_s.arg(
-                nameOf(control), nameOf(there))};
-    }
+    QWindow *window = control->window()->windowHandle();
+    const QPoint from = placeIn(control, place.section(u'>', 0, 0));
+    const QPoint to = placeIn(control, place.section(u'>', -1));
+    const QWidget *there = control->window()->childAt(to);
+    if (!there || (there != control && !control->isAncestorOf(there)))
+        throw NotYet{u"%1 is hidden or covered by %2"_s.arg(nameOf(control), nameOf(there))};
     const auto button = how == u"right"_s ? Qt::RightButton : Qt::LeftButton;
-    if (how == u"double"_s) {
-        QTest::mouseDClick(window, button, {}, places.first());
-    } else if (places.size() == 1) {
-        QTest::mouseClick(window, button, {}, places.first());
-    } else {
-        QTest::mousePress(window, button, {}, places.first());
-        QTest::mouseMove(window, places.last());
-        QTest::mouseRelease(window, button, {}, places.last());
-    }
+    if (how == u"double"_s)
+        return QTest::mouseDClick(window, button, {}, from);
+    QTest::mousePress(window, button, {}, from);
+    if (from != to)
+        QTest::mouseMove(window, to);
+    QTest::mouseRelease(window, button, {}, to);
 }

@@ -1,62 +1,32 @@
 // SPDX-License-Identifier: MIT
-#include "script/script.h"
-
-#include "script/verbs.h"
-#include "tour/drawfile.h"
-
-#include <QFile>
-#include <QFileInfo>
-#include <QHash>
-#include <QRegularExpression>
-
-using namespace Qt::StringLiterals;
+#include "script/player.h"
 
 namespace {
 
 struct Line
 {
-    int number;
     QString text;
-    QString origin; ///< line of the draw that it plays
+    QString place;
 };
 
-[[noreturn]] void refuseScript(const QString &path, int line, const QString &reason)
+/// The words of @p text without quotes; for each of them $1, $2 ... stand in the body of a verb.
+QStringList split(const QString &text)
 {
-    qFatal("%s:%d: %s", qUtf8Printable(path), line, qUtf8Printable(reason));
-}
-
-QList<QRegularExpressionMatch> matchesOf(const QString &text)
-{
-    static const QRegularExpression word(uR"("(?:[^"\\]|\\.)*"|\S+)"_s);
-    QList<QRegularExpressionMatch> matches;
+    static const QRegularExpression word(u"\"([^\"]*)\"|\\S+"_s);
+    QStringList words;
     for (const auto &match : word.globalMatch(text))
-        matches += match;
-    return matches;
+        words += match.hasCaptured(1) ? match.captured(1) : match.captured();
+    return words;
 }
 
-QString withoutQuotes(const QString &word)
+QString filledIn(QString text, const QStringList &words)
 {
-    return word.startsWith(u'"') ? word.sliced(1).chopped(1) : word;
-}
-
-/// @p text with the words of @p row for $1, $2 ... Within other words they lose their quotes.
-QString filledIn(QString text, const QString &row)
-{
-    const auto words = matchesOf(row);
-    const auto parts = matchesOf(text);
-    for (auto part = parts.crbegin(); part != parts.crend(); ++part) {
-        QString filled = part->captured();
-        for (qsizetype at = words.size(); at > 0; --at) {
-            const QString name = u'$' + QString::number(at);
-            const QString word = words[at - 1].captured();
-            filled.replace(name, part->captured() == name ? word : withoutQuotes(word));
-        }
-        text.replace(part->capturedStart(), part->capturedLength(), filled);
-    }
+    for (qsizetype at = words.size(); at > 0; --at)
+        text.replace(u'$' + QString::number(at), words[at - 1]);
     return text;
 }
 
-/// The lines that say something. One that begins with "/" goes on with the line before.
+/// The lines that are not empty. One that begins with a slash continues the line before.
 QList<Line> readLines(const QString &path)
 {
     QFile file(path);
@@ -64,15 +34,49 @@ QList<Line> readLines(const QString &path)
         qFatal("cannot read %s", qUtf8Printable(path));
     QList<Line> lines;
     int number = 0;
-    for (const QString &read : QString::fromUtf8(file.readAll()).split(u'\n')) {
-        const QString text = read.trimmed();
+    for (QString &text : QString::fromUtf8(file.readAll()).split(u'\n')) {
+        text.remove(QRegularExpression(u"^ +|\r$"_s));
         ++number;
         if (text.startsWith(u"/ "_s) && !lines.isEmpty())
             lines.last().text += u' ' + text;
         else if (!text.isEmpty() && !text.startsWith(u'#'))
-            lines += {number, text, {}};
+            lines += {text, u"%1:%2"_s.arg(path).arg(number)};
     }
     return lines;
+}
+
+/// The lines of a draw file of some kinds as steps. Successive rows of one grid are one step, such
+/// as: heavy "3 ตัวตรง" "232|47,177 / 222|1,000". The rows of a ticket are followed by the step "file".
+QList<Line> readDraw(const QString &path, const QStringList &kinds)
+{
+    static const QHash<QString, int> WordsBeforeRow{
+        {u"row"_s, 2}, {u"heavy"_s, 2}, {u"risk"_s, 2}, {u"win"_s, 1}};
+    QStringList estimates{u"Label31"_s, u"Label1"_s,  u"Label5"_s,  u"Label4"_s,
+                          u"Label8"_s,  u"Label13"_s, u"Label12"_s, u"Label9"_s};
+    QList<Line> steps;
+    QString before;
+    for (const auto &[text, place] : readLines(path)) {
+        QStringList fields = text.split(u'\t');
+        if (!kinds.contains(fields[0]))
+            continue;
+        if (fields[0] == u"risk"_s)
+            fields.last() += u'%';
+        else if (fields[0] == u"board"_s)
+            fields += estimates.takeFirst();
+        QStringList cells = fields.mid(WordsBeforeRow.value(fields[0], int(fields.size())));
+        const QString step = fields.first(fields.size() - cells.size()).join(u"\" \""_s) + u'"';
+        const QString row = cells.replaceInStrings(QRegularExpression(u"^ "_s), {}).join(u'|');
+        if (before.startsWith(u"row"_s) && fields[0] != u"row"_s)
+            steps += {u"file"_s, place};
+        if (!row.isEmpty() && step == before)
+            steps.last().text.chop(1);
+        else
+            steps += {QString(step).remove(step.indexOf(u'"'), 1), place};
+        if (!row.isEmpty())
+            steps.last().text += (step == before ? u" / "_s : u" \""_s) + row + u'"';
+        before = step;
+    }
+    return steps;
 }
 
 /// Puts the steps of "each", of "play" and of verbs made by "to" in their places.
@@ -81,46 +85,61 @@ class Expansion
 public:
     explicit Expansion(const QString &path) : m_folder(QFileInfo(path).path() + u'/')
     {
-        expand(readLines(path));
+        expand(readLines(m_folder + u"../script/common.verbs"_s), {}, {});
+        expand(readLines(path), {}, {});
     }
 
     QList<Line> lines;
 
 private:
     /// The lines from @p at to their "end".
-    static QList<Line> takeBody(const QList<Line> &from, qsizetype &at)
+    static QList<Line> takeBody(const QList<Line> &from, qsizetype &at, const QStringList &words)
     {
         QList<Line> body;
-        for (int open = 1; ++at < from.size(); body += from[at]) {
+        for (int open = 1; ++at < from.size();) {
             const QString verb = from[at].text.section(u' ', 0, 0);
             open += verb == u"each"_s || verb == u"to"_s ? 1 : verb == u"end"_s ? -1 : 0;
             if (open == 0)
                 break;
+            body += {filledIn(from[at].text, words), from[at].place};
         }
         return body;
     }
 
-    void expand(const QList<Line> &from, const QString &words = {}, const QString &origin = {})
+    void expand(const QList<Line> &from, const QStringList &words, const QString &caller)
     {
         for (qsizetype at = 0; at < from.size(); ++at) {
-            const Line line{from[at].number, filledIn(from[at].text, words), origin};
-            const QString verb = line.text.section(u' ', 0, 0);
-            const QString rest = line.text.mid(verb.size() + 1);
+            QString text = filledIn(from[at].text, words);
+            const QString place = from[at].place + caller;
+            const QString verb = text.section(u' ', 0, 0);
+            const QStringList rest = split(text).sliced(1);
             if (verb == u"to"_s) {
-                m_made[rest] = takeBody(from, at);
+                m_made[rest.value(0)] = takeBody(from, at, words);
+            } else if (verb == u"optional"_s) {
+                if (!text.contains(u'$'))
+                    expand({{text.sliced(9), from[at].place}}, {}, caller);
             } else if (verb == u"each"_s) {
-                const QList<Line> body = takeBody(from, at);
-                for (const QString &row : rowsOf(rest))
-                    expand(body, row, origin);
+                expandRows(takeBody(from, at, words), rest, caller);
             } else if (verb == u"play"_s) {
-                for (const DrawFact &fact : readDraw(m_folder + wordsOf(rest).value(0)))
-                    if (wordsOf(rest).contains(fact.text.section(u' ', 0, 0)))
-                        expand({{line.number, fact.text, {}}}, {}, fact.place);
+                expand(readDraw(m_folder + rest.value(0), rest), {}, u" in "_s + place);
+            } else if (verb == u"click"_s) {
+                for (const QString &each : text.sliced(6).split(u" / "_s))
+                    lines += {u"click "_s + each, place};
             } else if (m_made.contains(verb)) {
-                expand(m_made[verb], rest, origin);
+                expandRows(m_made[verb], rest, u" in "_s + place);
             } else {
-                lines += line;
+                lines += {text, place};
             }
+        }
+    }
+
+    /// Expands @p body for each row of @p words, which are parted by slashes.
+    void expandRows(const QList<Line> &body, QStringList words, const QString &caller)
+    {
+        for (words += u"/"_s; !words.isEmpty();) {
+            const qsizetype end = words.indexOf(u"/"_s);
+            expand(body, words.first(end), caller);
+            words = words.sliced(end + 1);
         }
     }
 
@@ -128,74 +147,49 @@ private:
     QHash<QString, QList<Line>> m_made;
 };
 
-/// The keys of "<F5>" are one step, and so is each character of other words.
-void addKeys(QList<Step> &steps, const Step &line, const QStringList &words)
+/// The step and one more for each key: "<F5>" is a key, and so is each character of other words.
+QList<Step> stepsOf(const Step &step)
 {
-    static const QRegularExpression named(uR"(^(<.+>)(?:\*(\d+))?$)"_s);
-    for (const QString &word : words) {
-        const auto key = named.match(word);
-        const QStringList keys =
-            key.hasMatch() ? QStringList(qMax(1, key.captured(2).toInt()), key.captured(1))
-                           : word.split(QString(), Qt::SkipEmptyParts);
-        for (const QString &each : keys)
-            steps += {line.line, u"key"_s, each, {each}, line.text};
-    }
-}
-
-void addStep(QList<Step> &steps, const Step &step)
-{
-    if (step.verb != u"key"_s)
-        steps += step;
-    if (step.verb == u"key"_s)
-        addKeys(steps, step, step.words);
-    else if (step.verb == u"at"_s)
-        addKeys(steps, step, step.words.mid(2));
-    else if (step.verb == u"type"_s)
-        addKeys(steps, step,
-                step.words.value(1).isEmpty() ? QStringList(u"<Backspace>"_s) << step.words.mid(2)
-                                              : step.words.mid(1));
+    static const QHash<QString, int> WordsBeforeKeys{{u"key"_s, 0}, {u"at"_s, 2}, {u"type"_s, 1}};
+    static const QRegularExpression key(u"(<[^<>]+>)(?:\\*(\\d+))?|."_s);
+    if (!WordsBeforeKeys.contains(step.verb))
+        return {step};
+    QList<Step> steps(step.verb == u"key"_s ? 0 : 1, step);
+    for (const QString &word : step.words.mid(WordsBeforeKeys[step.verb]))
+        for (const auto &match : key.globalMatch(word))
+            steps += QList<Step>(qMax(1, match.captured(2).toInt()),
+                                 {u"key"_s,
+                                  match.captured(match.hasCaptured(1) ? 1 : 0),
+                                  {},
+                                  step.text,
+                                  step.place});
+    return steps;
 }
 
 } // namespace
 
-QStringList wordsOf(const QString &text)
-{
-    QStringList words;
-    for (const auto &match : matchesOf(text)) {
-        const QString word = match.captured();
-        words += word.startsWith(u'"') ? withoutQuotes(word)
-                                             .replace(u"\\n"_s, u"\n"_s)
-                                             .replace(u"\\t"_s, u"\t"_s)
-                                             .replace(u"\\\""_s, u"\""_s)
-                                       : word;
-    }
-    return words;
-}
-
-QStringList rowsOf(const QString &text)
-{
-    QStringList rows;
-    for (const QString &row : text.split(u" / "_s))
-        rows += row.trimmed();
-    return text == u"none"_s ? QStringList() : rows;
-}
-
 QList<Case> readScript(const QString &path)
 {
-    QList<Step> before;
-    QList<Case> cases;
-    for (const Line &line : Expansion(path).lines) {
-        const QString verb = line.text.section(u' ', 0, 0);
-        const QString rest = line.text.mid(verb.size() + 1);
-        if (verb == u"case"_s)
-            cases += {rest, before};
-        else if (!findVerb(verb))
-            refuseScript(path, line.number, u"no verb "_s + verb);
-        else
-            addStep(cases.isEmpty() ? before : cases.last().steps,
-                    {line.number, verb, rest, wordsOf(rest), line.text + line.origin});
+    QList<Case> cases(1); // the steps before the first case
+    bool started = false;
+    for (const auto &[text, place] : Expansion(path).lines) {
+        const QString verb = text.section(u' ', 0, 0);
+        const QString rest = text.mid(verb.size() + 1).trimmed();
+        if (verb == u"case"_s) {
+            cases += {rest, cases[0].steps};
+            started =
+                std::ranges::find(cases[0].steps, u"start"_s, &Step::verb) != cases[0].steps.end();
+            continue;
+        }
+        if (workOf(verb) == Work::Unknown || text.contains(u'$'))
+            qFatal("%s: not a step: %s", qUtf8Printable(place), qUtf8Printable(text));
+        if (workOf(verb) != Work::Aside && !std::exchange(started, true))
+            cases.last().steps += {u"start"_s, {}, {}, text, place};
+        started = started && verb != u"ends"_s;
+        cases.last().steps +=
+            stepsOf({verb, rest, split(rest).replaceInStrings(u"\\n"_s, u"\n"_s), text, place});
     }
-    if (cases.isEmpty())
-        refuseScript(path, 1, u"no case"_s);
-    return cases;
+    if (cases.size() == 1)
+        qFatal("%s: no case", qUtf8Printable(path));
+    return cases.sliced(1);
 }

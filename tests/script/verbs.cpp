@@ -1,439 +1,273 @@
 // SPDX-License-Identifier: MIT
-#include "script/verbs.h"
-
-#include "access/look.h"
-#include "desktop/clock.h"
-#include "desktop/region.h"
 #include "entry/vocabulary.h"
 #include "paper/pageview.h"
-#include "script/controls.h"
-#include "script/dump.h"
+#include "script/player.h"
 #include "support/otherreaders.h"
-
-#include <QAbstractButton>
-#include <QAbstractItemView>
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QDir>
-#include <QHash>
-#include <QInputMethodEvent>
-#include <QLineEdit>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QWheelEvent>
-
-#include <algorithm>
-#include <array>
-
-using namespace Qt::StringLiterals;
+#include "widgets/spread.h"
 
 namespace {
 
-void expectRows(const QString &expected, QStringList actual, bool inAnyOrder = false)
+/// Compares rows, in any order if @p sorted. "none" is no row, "…" any more rows.
+void expectRows(const QString &expected, QStringList actual, bool sorted = false)
 {
-    const QStringList words = wordsOf(expected);
-    QStringList rows = rowsOf(words.size() == 1 ? words[0] : expected);
-    if (!rows.isEmpty() && rows.last() == u"…"_s && actual.size() >= rows.size() - 1)
+    QStringList rows = expected == u"none"_s ? QStringList() : expected.split(u" / "_s);
+    if (!rows.isEmpty() && rows.last() == u"…"_s)
         actual = actual.mid(0, rows.size() - 1) << u"…"_s;
-    if (inAnyOrder) {
+    if (sorted) {
         rows.sort();
         actual.sort();
     }
-    expect(rows.isEmpty() ? u"none"_s : rows.join(u" / "_s),
-           actual.isEmpty() ? u"none"_s : actual.join(u" / "_s));
+    expect(rows.join(u" / "_s), actual.join(u" / "_s));
 }
 
-// What lies in the Ledger, in the folder and on the clock.
-
-void addMembers(Stage &stage, const Step &step)
+/// Adds a bet: customer, class, number, money.
+void addLine(const Step &step)
 {
-    for (const QString &row : rowsOf(step.rest)) {
-        const QStringList words = wordsOf(row);
-        stage.run(u"INSERT INTO tblMember (MPK, Mname, Mpercen) VALUES (?, ?, ?)"_s,
-                  {words.value(0), words.value(1), words.value(2)});
-    }
+    const auto *row =
+        std::ranges::find(BetClasses, QStringView(step.words.value(1)), &BetClass::caption);
+    if (row == BetClasses.end())
+        qFatal("%s: no class of bets", qUtf8Printable(step.place));
+    Stage::run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy, nuser) "
+               "VALUES (?, ?, ?, ?, ?, ?, 'sv')"_s,
+               {step.words[0], row->num23, -int(row->updown), row->numType, step.words.value(2),
+                step.words.value(3)});
 }
 
-void addHotNumbers(Stage &stage, const Step &step)
+void compareFiles(const Step &step)
 {
-    for (const QString &number : step.words)
-        stage.run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s, {number});
-}
-
-/// A row without a class has that of the row before.
-void addLines(Stage &stage, const Step &step)
-{
-    const BetClass *betClass = BetClasses.end();
-    for (const QString &row : rowsOf(step.rest)) {
-        QStringList words = wordsOf(row);
-        if (words.size() == 4) {
-            const QString caption = words.takeAt(1);
-            betClass = std::find_if(BetClasses.begin(), BetClasses.end(),
-                                    [&](const auto &each) { return caption == each.caption; });
-        }
-        if (words.size() != 3 || betClass == BetClasses.end())
-            qFatal("%d: not a line: %s", step.line, qUtf8Printable(row));
-        stage.run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy, nuser)"
-                  " VALUES (?, ?, ?, ?, ?, ?, 'sv')"_s,
-                  {words[0], betClass->num23, -int(betClass->updown), betClass->numType, words[1],
-                   words[2]});
-    }
-}
-
-void runSql(Stage &stage, const Step &step)
-{
-    const QStringList parts = step.rest.split(u" => "_s);
-    const QStringList rows = stage.run(parts[0]);
-    if (parts.size() > 1)
-        expectRows(parts[1], rows);
-}
-
-void setClockTo(Stage &, const Step &step)
-{
-    constexpr int BuddhistYears = 543;
-    const QDateTime time = QDateTime::fromString(step.rest, u"yyyy-MM-dd HH:mm"_s);
-    if (!time.isValid())
-        qFatal("%d: not a time: %s", step.line, qUtf8Printable(step.rest));
-    setClock([time] { return time.addYears(-BuddhistYears); });
-}
-
-void setRegion(Stage &, const Step &step)
-{
-    setMachineRegion(QLocale(step.rest));
-}
-
-void copyText(Stage &, const Step &step)
-{
-    QApplication::clipboard()->setText(step.words.value(0));
-}
-
-void writeFile(Stage &stage, const Step &step)
-{
-    QFile file(stage.file(step.words.value(0)));
-    if (!file.open(QIODevice::WriteOnly) || file.write(step.words.value(1).toUtf8()) < 0)
-        qFatal("%d: cannot write %s", step.line, qUtf8Printable(file.fileName()));
-}
-
-void compareFiles(Stage &stage, const Step &step)
-{
-    const QStringList parts = step.rest.split(u" => "_s);
-    const QFileInfo pattern(stage.file(parts[0]));
+    const QFileInfo pattern(Stage::file(step.words[0]));
     QStringList names;
-    for (const QFileInfo &file :
-         pattern.dir().entryInfoList({pattern.fileName()}, QDir::Files | QDir::Hidden))
+    for (const QFileInfo &file : pattern.dir().entryInfoList({pattern.fileName()}, QDir::Files))
         names += file.fileName() + (file.size() == 0 ? u"(empty)"_s : QString());
-    expect(parts.value(1), names.isEmpty() ? u"none"_s : names.join(u' '));
+    expect(step.words.mid(2).join(u' '), names.join(u' '));
 }
 
-// What a person does.
-
-void start(Stage &stage, const Step &)
+/// Empties a field. The keys that fill it are steps of their own.
+void enterField(QWidget *control)
 {
-    stage.start();
-}
-
-void openPage(Stage &stage, const Step &step)
-{
-    click(findControl(stage.activeWindow(), u"navigation."_s + step.rest));
-}
-
-void chooseWindow(Stage &stage, const Step &step)
-{
-    for (QWidget *window : QApplication::topLevelWidgets()) {
-        if (window->objectName() == step.rest && window->isVisible())
-            stage.chosen = window;
-    }
-    expect(step.rest, stage.activeWindow()->objectName());
-}
-
-void clickControl(Stage &stage, const Step &step)
-{
-    const QString last = step.words.last();
-    const bool how = last == u"double"_s || last == u"right"_s;
-    click(findControl(stage.activeWindow(), step.words[0]),
-          step.words.size() > (how ? 2 : 1) ? step.words[1] : QString(), how ? last : QString());
-}
-
-void moveTo(Stage &stage, const Step &step)
-{
-    QWidget *grid = findControl(stage.activeWindow(), step.words[0]);
-    grid->setFocus();
-    QMetaObject::invokeMethod(grid, "setActiveRow", Q_ARG(int, step.words.value(1).toInt()));
-}
-
-void pressKeyInFocus(Stage &stage, const Step &step)
-{
-    if (stage.activeWindow() && !QApplication::focusWidget())
-        throw NotYet{u"no control has the focus"_s};
-    pressKey(step.rest);
-}
-
-void turnWheel(Stage &stage, const Step &step)
-{
-    QWidget *control = findControl(stage.activeWindow(), step.words[0]);
-    const QPoint middle = control->rect().center();
-    const bool ctrl = step.words.value(1) == u"ctrl"_s;
-    QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, {0, -120}, Qt::NoButton,
-                      ctrl ? Qt::ControlModifier : Qt::NoModifier, Qt::NoScrollPhase, false);
-    QApplication::sendEvent(control, &wheel);
-}
-
-/// What an input method gives, such as one for another script.
-void composeText(Stage &stage, const Step &step)
-{
-    stage.activeWindow();
-    QInputMethodEvent composed;
-    composed.setCommitString(step.words[0]);
-    QApplication::sendEvent(QApplication::focusWidget(), &composed);
-}
-
-/// Selects what stands in a field; the keys that replace it are steps of their own.
-void enterField(Stage &stage, const Step &step)
-{
-    QWidget *control = findControl(stage.activeWindow(), step.words[0]);
-    auto *combo = qobject_cast<QComboBox *>(control);
+    const auto *combo = qobject_cast<QComboBox *>(control);
     auto *field = combo ? combo->lineEdit() : qobject_cast<QLineEdit *>(control);
     if (!field)
-        throw NotYet{step.words[0] + u" is no field"_s};
+        throw NotYet{nameOf(control) + u" is no field"_s};
     control->setFocus();
     field->selectAll();
+    if (!field->text().isEmpty())
+        pressKey(u"<Backspace>"_s);
 }
 
-void chooseEntry(Stage &stage, const Step &step)
+/// Chooses an entry of the list that drops down, unless it is chosen.
+void chooseEntry(QComboBox *combo, const QString &entry)
 {
-    auto *combo = qobject_cast<QComboBox *>(findControl(stage.activeWindow(), step.words[0]));
-    const int entry = combo ? combo->findText(step.words.value(1)) : -1;
-    if (entry < 0)
-        throw NotYet{u"no entry "_s + step.words.value(1)};
+    if (combo->currentText() == entry && !combo->isEditable())
+        return;
+    if (combo->findText(entry) < 0)
+        throw NotYet{u"no entry "_s + entry};
     combo->setFocus();
     combo->showPopup();
-    combo->view()->setCurrentIndex(combo->model()->index(entry, combo->modelColumn()));
+    combo->view()->setCurrentIndex(
+        combo->model()->index(combo->findText(entry), combo->modelColumn()));
     pressKey(u"<Enter>"_s);
-    stage.window()->activateWindow(); // the offscreen platform does not
+    if (QApplication::activeWindow() != combo->window())
+        combo->window()->activateWindow(); // the offscreen platform does not
 }
 
-/// In a dialog that asks for a file, also that of a printer: saves in the program's folder.
-void saveAs(Stage &stage, const Step &step)
+/// What "focus", a control, or a part of it in brackets, shows.
+QString shownBy(const QString &words)
 {
-    auto *field = stage.activeWindow()->findChild<QWidget *>(u"filename"_s);
-    if (!field)
-        field = findControl(stage.activeWindow(), u"fileNameEdit"_s);
-    field->setProperty("text", stage.file(step.rest));
-    field->setFocus();
-    pressKey(u"<Enter>"_s);
+    if (words == u"focus"_s)
+        return nameOf(Stage::activeWindow()->focusWidget());
+    const QWidget *seen = findControl(Stage::window(), words.section(u'[', 0, 0));
+    return read(seen, words.section(u'[', 1).section(u']', 0, 0));
 }
 
-void resizeWindow(Stage &stage, const Step &step)
+/// Compares the rows of a grid: the cells in the columns named in brackets, by default in those that
+/// are visible, parted by "|". The column "hot" is there if a cell of the row is coloured.
+void seeGrid(const Step &step)
 {
-    stage.activeWindow()->resize(step.words.value(0).toInt(), step.words.value(1).toInt());
-}
-
-void closeWindow(Stage &stage, const Step &)
-{
-    stage.activeWindow()->close();
-}
-
-// What a person sees.
-
-/// A control has to say a text, or to be in a state.
-void see(Stage &stage, const Step &step)
-{
-    static const QRegularExpression parts(uR"(^(.*?)(?:\[(.*)\]|\.(active|rows|list|base))?$)"_s);
-    static const QHash<QString, std::pair<const char *, bool>> States{
-        {u"shown"_s, {"visible", true}},   {u"hidden"_s, {"visible", false}},
-        {u"enabled"_s, {"enabled", true}}, {u"disabled"_s, {"enabled", false}},
-        {u"checked"_s, {"checked", true}}, {u"unchecked"_s, {"checked", false}}};
-    for (qsizetype at = 0; at < step.words.size(); at += 2) {
-        const auto match = parts.match(step.words[at]);
-        const QString part = match.captured(2) + match.captured(3);
-        const QWidget *control = findControl(stage.window(), match.captured(1));
-        const QString text = step.words.value(at + 1, u"nothing"_s).trimmed();
-        const auto state = States.find(text);
-        if (part.isEmpty() && state != States.end())
-            expect(step.words[at] + u' ' + text,
-                   control->property(state->first).toBool() == state->second
-                       ? step.words[at] + u' ' + text
-                       : u"not "_s + text);
-        else
-            expect(step.words[at] + u' ' + text, step.words[at] + u' ' + read(control, part));
+    const QString name = step.words[0];
+    const QString columns = name.section(u'[', 1).section(u']', 0, 0).replace(u',', u'|');
+    const auto *grid =
+        qobject_cast<Spread *>(findControl(Stage::window(), name.section(u'[', 0, 0)));
+    QStringList rows;
+    for (int row = 1; grid && row <= grid->rows(); ++row) {
+        QStringList cells;
+        bool hot = false;
+        for (int column = 1; column <= grid->spreadModel()->columns(); ++column) {
+            hot = hot || grid->color(row, column).isValid();
+            if (columns.isEmpty() ? !grid->isColumnHidden(column)
+                                  : columns.split(u'|').contains(QString::number(column)))
+                cells += grid->text(row, column).trimmed();
+        }
+        if (hot && (columns.isEmpty() || columns.endsWith(u"hot"_s)))
+            cells += u"hot"_s;
+        rows += cells.join(u'|');
     }
+    expectRows(step.rest.sliced(step.rest.indexOf(u' ', step.rest.indexOf(name) + name.size()) + 1),
+               rows, name.endsWith(u'*'));
 }
 
-void seeGrid(Stage &stage, const Step &step)
+/// Compares the box on top with words such as: warning OK [Cancel] "title" "text". Presses the button
+/// behind the arrow, or a key, by default Enter.
+void readBox(const Step &step)
 {
-    const QString name = step.words[0].section(u'[', 0, 0);
-    const QString columns = step.words[0].section(u'[', 1, 1).section(u']', 0, 0);
-    expectRows(step.rest.mid(step.words[0].size() + 1),
-               gridRows(findControl(stage.window(), name), columns.split(u',', Qt::SkipEmptyParts)),
-               step.words[0].endsWith(u'*'));
-}
-
-void seeFocus(Stage &stage, const Step &step)
-{
-    stage.activeWindow();
-    expect(step.rest, nameOf(QApplication::focusWidget()));
-}
-
-/// A box in the words of a script: warning OK [Cancel] "title" "text". The program's folder is FOLDER.
-QString describe(const Stage &stage, const QMessageBox &box)
-{
-    const QString folder = QDir::toNativeSeparators(stage.file({}));
-    constexpr std::array Icons{u"none", u"information", u"warning", u"critical", u"question"};
-    QStringList words{QString::fromUtf16(Icons.at(size_t(box.icon())))};
-    for (QAbstractButton *button : box.buttons()) {
-        const QString caption = button->text().remove(u'&');
-        const bool preselected = button == static_cast<QAbstractButton *>(box.defaultButton());
-        words += preselected ? u'[' + caption + u']' : caption;
-    }
-    for (QString text : {box.windowTitle(), box.text()})
-        words +=
-            u'"'
-            + text.replace(folder, u"FOLDER/"_s).replace(u'"', u"\\\""_s).replace(u'\n', u"\\n"_s)
-            + u'"';
-    return words.join(u' ');
-}
-
-/// Compares the box on top and presses its button @p answer with keys, or a key such as "<Esc>".
-void answerBox(const Stage &stage, const QString &expected, const QString &answer)
-{
+    static const char *const Icons[]{"none", "information", "warning", "critical", "question"};
+    const QStringList parts = step.rest.split(u" -> "_s);
+    const QString answer = parts.value(1, u"<Enter>"_s);
     const QMessageBox *box = Stage::box();
-    expect(expected, box ? describe(stage, *box) : u"no box"_s);
+    if (!box)
+        throw NotYet{u"  expected  "_s + parts[0] + u"\n  actual    no box"_s};
+    QString words = QLatin1String(Icons[box->icon()]);
+    for (QAbstractButton *button : box->buttons())
+        words += (button == box->defaultButton() ? u" [%1]"_s : u" %1"_s)
+                     .arg(button->text().remove(u'&'));
+    QString text = u" \"%1\" \"%2\""_s.arg(box->windowTitle(), box->text());
+    text.replace(QDir::toNativeSeparators(Stage::file({})), u"FOLDER/"_s);
+    expect(parts[0], words + text.replace(u'\n', u"\\n"_s));
     if (!box->isActiveWindow() || !box->isAncestorOf(QApplication::focusWidget()))
         throw NotYet{u"the box is not active"_s};
-    if (answer.startsWith(u'<'))
-        return pressKey(answer);
-    for (qsizetype tabs = box->buttons().size();; --tabs) {
-        const auto *button = qobject_cast<QAbstractButton *>(QApplication::focusWidget());
-        if (button && button->text().remove(u'&') == answer)
+    for (QAbstractButton *button : box->buttons()) {
+        if (answer == button->text().remove(u'&')) {
+            button->setFocus();
             return pressKey(u"<Space>"_s);
-        if (tabs == 0)
-            qFatal("the box has no button %s", qUtf8Printable(answer));
-        pressKey(u"<Tab>"_s);
+        }
     }
+    pressKey(answer);
 }
 
-void readBox(Stage &stage, const Step &step)
+/// Saves a picture of the window, or of the first page of its report, in the folder DESK_PICTURES.
+/// Fails if the desktop gives a control a font of its own, which may have no Thai letters.
+void takePicture(const QString &name, bool ofPage)
 {
-    const qsizetype arrow = step.rest.lastIndexOf(u" -> "_s);
-    answerBox(stage, arrow < 0 ? step.rest : step.rest.first(arrow),
-              arrow < 0 ? u"<Enter>"_s : step.rest.sliced(arrow + 4));
-}
-
-void readRefusal(Stage &stage, const Step &step)
-{
-    answerBox(stage, u"warning [OK] \"รายงานสถานะ\" "_s + step.rest, u"<Enter>"_s);
-}
-
-void readStatus(Stage &stage, const Step &step)
-{
-    answerBox(stage, u"information [OK] \"รายงานสถานะ\" "_s + step.rest, u"<Enter>"_s);
-}
-
-void lookForFaults(Stage &stage, const Step &)
-{
-    expect({}, faultsIn(stage.activeWindow()).join(u"\n            "_s));
-}
-
-/// Those of the desktop, for a program that starts after it: "dark" or "bright".
-void setColors(Stage &, const Step &step)
-{
-    if (step.rest == u"dark"_s)
-        QApplication::setPalette(QPalette(QColor(0x3A, 0x3A, 0x3A), QColor(0x2D, 0x2D, 0x2D)));
-}
-
-/// Whoever started this process sees its end.
-void awaitEnd(Stage &, const Step &)
-{
-    throw NotYet{u"the program still runs"_s};
-}
-
-/// Saves a picture of the window, or of the first page of its report, in the folder DESK_PICTURES. Fails where a desktop gives a control
-/// a font of its own, which may have no Thai letters.
-void takePicture(Stage &stage, const Step &step)
-{
-    QWidget *window = stage.activeWindow();
+    QWidget *window = Stage::activeWindow();
     for (const QWidget *part : window->findChildren<QWidget *>())
         expect(QApplication::font().family(), part->font().family());
     const QString folder = qEnvironmentVariable("DESK_PICTURES");
     if (folder.isEmpty())
         return;
-    auto *report = step.words.size() > 1 ? window->findChild<PageView *>() : nullptr;
-    if (report)
+    auto *report = window->findChild<PageView *>();
+    if (ofPage)
         report->setZoom(100);
-    const QPixmap picture = report ? report->picture(1) : window->grab();
-    if (!picture.save(folder + u'/' + step.words[0] + u".png"_s))
+    const QPixmap picture = ofPage ? report->picture(1) : window->grab();
+    if (!picture.save(folder + u'/' + name + u".png"_s))
         qFatal("cannot save a picture in %s", qUtf8Printable(folder));
 }
 
-/// Compares with the stored text, or rewrites that.
-void compareDump(Stage &stage, const Step &step)
+/// Compares a window, a part of it or a file with the stored text, or rewrites that.
+void compareDump(const Step &step)
 {
     const QString of = step.words.value(1);
-    const bool isFile = of.endsWith(u".xls"_s) || of.endsWith(u".pdf"_s);
-    if (isFile && !QFile::exists(stage.file(of)))
+    if (of.contains(u'.') && !QFile::exists(Stage::file(of)))
         throw NotYet{u"no file "_s + of};
-    QStringList lines = isFile         ? readByOthers(stage.file(of))
-                        : of.isEmpty() ? dumpWindow(stage.activeWindow())
-                                       : dumpWindow(findControl(stage.activeWindow(), of));
-    lines = lines.filter(QRegularExpression(step.words.value(2)));
-    QFile stored(stage.stored + step.words[0] + u".txt"_s);
-    const bool accept = qEnvironmentVariableIsSet("DESK_ACCEPT");
-    if (!stored.open(accept ? QIODevice::WriteOnly : QIODevice::ReadOnly))
-        throw NotYet{u"no stored text "_s + stored.fileName()};
-    if (accept) {
-        stored.write((lines.join(u'\n') + u'\n').toUtf8());
-        return;
-    }
-    QStringList expected = QString::fromUtf8(stored.readAll()).split(u'\n', Qt::SkipEmptyParts);
-    QStringList actual = lines;
-    expected.removeIf([&](const QString &line) { return actual.removeOne(line); });
-    if (!expected.isEmpty() || !actual.isEmpty())
-        expect(expected.join(u"\n            "_s), actual.join(u"\n            "_s));
+    QWidget *window = Stage::activeWindow();
+    QStringList actual = of.contains(u'.')
+                             ? readByOthers(Stage::file(of))
+                             : dumpWindow(of.isEmpty() ? window : findControl(window, of));
+    actual = actual.filter(QRegularExpression(step.words.value(2)));
+    QFile file(QFileInfo(step.place).path() + u'/' + step.words[0] + u".dump"_s);
+    if (qEnvironmentVariableIsSet("DESK_ACCEPT") && file.open(QIODevice::WriteOnly))
+        file.write((actual.join(u'\n') + u'\n').toUtf8());
+    file.close();
+    if (!file.open(QIODevice::ReadOnly))
+        throw NotYet{u"no stored text "_s + file.fileName()};
+    const QStringList stored = QString::fromUtf8(file.readAll()).chopped(1).split(u'\n');
+    for (qsizetype line = 0; line < std::max(stored.size(), actual.size()); ++line)
+        expect(stored.value(line), actual.value(line));
 }
 
-constexpr std::array Verbs{
-    Verb{u"member", 0, addMembers},
-    Verb{u"hot", 0, addHotNumbers},
-    Verb{u"line", 0, addLines},
-    Verb{u"sql", Checks, runSql},
-    Verb{u"clock", 0, setClockTo},
-    Verb{u"region", 0, setRegion},
-    Verb{u"clip", 0, copyText},
-    Verb{u"write", 0, writeFile},
-    Verb{u"files", Checks, compareFiles},
-    Verb{u"start", 0, start},
-    Verb{u"page", InProgram | Acts, openPage},
-    Verb{u"in", InProgram | Acts, chooseWindow},
-    Verb{u"click", InProgram | Acts, clickControl},
-    Verb{u"at", InProgram | Acts, moveTo},
-    Verb{u"key", InProgram | Acts, pressKeyInFocus},
-    Verb{u"type", InProgram | Acts, enterField},
-    Verb{u"wheel", InProgram | Acts, turnWheel},
-    Verb{u"compose", InProgram | Acts, composeText},
-    Verb{u"choose", InProgram | Acts, chooseEntry},
-    Verb{u"save", InProgram | Acts, saveAs},
-    Verb{u"size", InProgram | Acts, resizeWindow},
-    Verb{u"close", InProgram | Acts, closeWindow},
-    Verb{u"see", InProgram | Checks, see},
-    Verb{u"grid", InProgram | Checks, seeGrid},
-    Verb{u"focus", InProgram | Checks, seeFocus},
-    Verb{u"box", InProgram | Checks, readBox},
-    Verb{u"refused", InProgram | Checks, readRefusal},
-    Verb{u"informed", InProgram | Checks, readStatus},
-    Verb{u"dump", InProgram | Checks, compareDump},
-    Verb{u"colors", 0, setColors},
-    Verb{u"look", InProgram | Acts | Checks, lookForFaults},
-    Verb{u"picture", InProgram, takePicture},
-    Verb{u"ends", InProgram | Checks, awaitEnd},
-};
+void doAside(const Step &step, const QStringList &words)
+{
+    if (step.verb == u"bet"_s) {
+        addLine(step);
+    } else if (step.verb == u"sql"_s) {
+        const QStringList rows = Stage::run(step.rest.section(u" => "_s, 0, 0));
+        if (step.rest.contains(u" => "_s))
+            expectRows(step.rest.section(u" => "_s, 1), rows);
+    } else if (step.verb == u"files"_s) {
+        compareFiles(step);
+    } else if (step.verb == u"clip"_s) {
+        QApplication::clipboard()->setText(words[0]);
+    } else if (step.verb == u"colors"_s) {
+        QApplication::setPalette(QPalette(QColor(words[0]), QColor(words[1])));
+    } else if (step.verb == u"write"_s) {
+        QFile file(Stage::file(words[0]));
+        if (!file.open(QIODevice::WriteOnly) || file.write(words[1].toUtf8()) < 0)
+            qFatal("cannot write %s", qUtf8Printable(file.fileName()));
+    }
+}
+
+void look(const Step &step, const QStringList &words)
+{
+    if (step.verb == u"start"_s)
+        Stage::start();
+    else if (step.verb == u"see"_s)
+        for (qsizetype at = 0; at < words.size(); at += 2)
+            expect(words[at] + u' ' + words.value(at + 1, u"nothing"_s).trimmed(),
+                   words[at] + u' ' + shownBy(words[at]));
+    else if (step.verb == u"grid"_s)
+        seeGrid(step);
+    else if (step.verb == u"box"_s)
+        readBox(step);
+    else if (step.verb == u"dump"_s)
+        compareDump(step);
+    else if (step.verb == u"look"_s)
+        expect({}, faultsIn(Stage::activeWindow()).join(u"\n            "_s));
+    else if (step.verb == u"picture"_s)
+        takePicture(words[0], words.size() > 1);
+    else if (step.verb == u"ends"_s)
+        throw NotYet{u"the program still runs"_s};
+}
+
+void act(const Step &step, const QStringList &words)
+{
+    QWidget *window = Stage::activeWindow();
+    QWidget *focus = QApplication::focusWidget();
+    if (step.verb == u"close"_s) {
+        window->close();
+    } else if (step.verb == u"key"_s || step.verb == u"compose"_s) {
+        QInputMethodEvent composed;
+        composed.setCommitString(step.rest);
+        if (!focus)
+            throw NotYet{u"no control has the focus"_s};
+        if (step.verb == u"key"_s)
+            pressKey(step.rest);
+        else
+            QApplication::sendEvent(focus, &composed);
+    } else if (QWidget *control = findControl(window, words[0]); step.verb == u"click"_s) {
+        click(control, words.value(1), words.last());
+    } else if (step.verb == u"at"_s) {
+        control->setFocus();
+        QMetaObject::invokeMethod(control, "setActiveRow", Q_ARG(int, words[1].toInt()));
+    } else if (step.verb == u"type"_s) {
+        enterField(control);
+    } else if (step.verb == u"choose"_s) {
+        chooseEntry(qobject_cast<QComboBox *>(control), words[1]);
+    } else if (step.verb == u"set"_s) {
+        control->setProperty(qPrintable(words[1]),
+                             QString(words[2]).replace(u"FOLDER/"_s, Stage::file({})));
+    } else if (step.verb == u"wheel"_s) {
+        const QPoint middle = control->rect().center();
+        QWheelEvent wheel(middle, control->mapToGlobal(middle), {}, {0, -120}, {},
+                          words.size() > 1 ? Qt::ControlModifier : Qt::NoModifier, {}, false);
+        QApplication::sendEvent(control, &wheel);
+    }
+}
 
 } // namespace
 
-const Verb *findVerb(const QString &name)
+Work workOf(const QString &verb)
 {
-    const auto *verb = std::find_if(Verbs.begin(), Verbs.end(),
-                                    [&](const Verb &each) { return each.name == name; });
-    return verb == Verbs.end() ? nullptr : verb;
+    static const QStringList Aside = u"bet sql files clip colors write"_s.split(u' ');
+    static const QStringList Looks = u"start see grid box dump look picture ends"_s.split(u' ');
+    static const QStringList Acts =
+        u"close key compose click at type choose set wheel"_s.split(u' ');
+    return Aside.contains(verb)   ? Work::Aside
+           : Looks.contains(verb) ? Work::Looks
+           : Acts.contains(verb)  ? Work::Acts
+                                  : Work::Unknown;
+}
+
+void run(const Step &step)
+{
+    const Work work = workOf(step.verb);
+    (work == Work::Aside ? doAside : work == Work::Looks ? look : act)(step, step.words);
 }
