@@ -111,13 +111,14 @@ void pressKey(const QString &key)
     const QWidget *popup = QApplication::activePopupWidget();
     QWindow *window = popup ? popup->windowHandle() : QGuiApplication::focusWindow();
     const QString name = key == u"<Enter>"_s ? u"Return"_s : key.sliced(1).chopped(1);
+    const QString last = name.section(u'+', -1); // such as the 5 of Alt+5, which is a text too
+    const QString text = last == u"Space"_s ? u" "_s : last.size() == 1 ? last : QString();
     const QKeySequence keys(name, QKeySequence::PortableText);
     if (key.size() == 1)
         QTest::sendKeyEvent(QTest::Click, window, Qt::Key(key[0].toUpper().unicode()), key,
                             Qt::NoModifier);
     else if (keys.count() == 1 && keys[0].key() != Qt::Key_unknown)
-        QTest::sendKeyEvent(QTest::Click, window, keys[0].key(),
-                            name == u"Space"_s ? u" "_s : QString(), keys[0].keyboardModifiers());
+        QTest::sendKeyEvent(QTest::Click, window, keys[0].key(), text, keys[0].keyboardModifiers());
     else
         qFatal("no key %s", qUtf8Printable(key));
 }
