@@ -83,13 +83,35 @@ QList<Line> readDraw(const QString &path, const QStringList &kinds)
 class Expansion
 {
 public:
-    explicit Expansion(const QString &path) : m_folder(QFileInfo(path).path() + u'/')
+    /// The lines of a script that are left, with @p words for $1, $2 ...
+    QList<Line> expand(const QList<Line> &from, const QStringList &words, const QString &caller)
     {
-        expand(readLines(m_folder + u"../script/common.verbs"_s), {}, {});
-        expand(readLines(path), {}, {});
+        QList<Line> lines;
+        for (qsizetype at = 0; at < from.size(); ++at) {
+            const QString text = filledIn(from[at].text, words);
+            const QString place = from[at].place + caller;
+            const QString verb = text.section(u' ', 0, 0);
+            const QStringList rest = split(text).sliced(1);
+            if (verb == u"to"_s)
+                m_made[rest.value(0)] = takeBody(from, at, words);
+            else if (verb == u"each"_s)
+                lines += expandRows(takeBody(from, at, words), rest, caller);
+            else if (verb == u"play"_s)
+                lines += expand(readDraw(QFileInfo(from[at].place).path() + u'/' + rest.value(0), rest), {},
+                                u" in "_s + place);
+            else if (verb == u"optional"_s)
+                lines += text.contains(u'$')
+                             ? QList<Line>()
+                             : expand({{text.sliced(9), from[at].place}}, {}, caller);
+            else if (m_made.contains(verb))
+                lines += expandRows(m_made[verb], rest, u" in "_s + place);
+            else
+                for (const QString &each :
+                     verb == u"click"_s ? text.split(u" / "_s) : QStringList(text))
+                    lines += {each.startsWith(verb) ? each : verb + u' ' + each, place};
+        }
+        return lines;
     }
-
-    QList<Line> lines;
 
 private:
     /// The lines from @p at to their "end".
@@ -106,44 +128,15 @@ private:
         return body;
     }
 
-    void expand(const QList<Line> &from, const QStringList &words, const QString &caller)
-    {
-        for (qsizetype at = 0; at < from.size(); ++at) {
-            QString text = filledIn(from[at].text, words);
-            const QString place = from[at].place + caller;
-            const QString verb = text.section(u' ', 0, 0);
-            const QStringList rest = split(text).sliced(1);
-            if (verb == u"to"_s) {
-                m_made[rest.value(0)] = takeBody(from, at, words);
-            } else if (verb == u"optional"_s) {
-                if (!text.contains(u'$'))
-                    expand({{text.sliced(9), from[at].place}}, {}, caller);
-            } else if (verb == u"each"_s) {
-                expandRows(takeBody(from, at, words), rest, caller);
-            } else if (verb == u"play"_s) {
-                expand(readDraw(m_folder + rest.value(0), rest), {}, u" in "_s + place);
-            } else if (verb == u"click"_s) {
-                for (const QString &each : text.sliced(6).split(u" / "_s))
-                    lines += {u"click "_s + each, place};
-            } else if (m_made.contains(verb)) {
-                expandRows(m_made[verb], rest, u" in "_s + place);
-            } else {
-                lines += {text, place};
-            }
-        }
-    }
-
     /// Expands @p body for each row of @p words, which are parted by slashes.
-    void expandRows(const QList<Line> &body, QStringList words, const QString &caller)
+    QList<Line> expandRows(const QList<Line> &body, QStringList words, const QString &caller)
     {
-        for (words += u"/"_s; !words.isEmpty();) {
-            const qsizetype end = words.indexOf(u"/"_s);
-            expand(body, words.first(end), caller);
-            words = words.sliced(end + 1);
-        }
+        QList<Line> lines;
+        for (words += u"/"_s; !words.isEmpty(); words = words.sliced(words.indexOf(u"/"_s) + 1))
+            lines += expand(body, words.first(words.indexOf(u"/"_s)), caller);
+        return lines;
     }
 
-    QString m_folder;
     QHash<QString, QList<Line>> m_made;
 };
 
@@ -172,7 +165,9 @@ QList<Case> readScript(const QString &path)
 {
     QList<Case> cases(1); // the steps before the first case
     bool started = false;
-    for (const auto &[text, place] : Expansion(path).lines) {
+    Expansion expansion;
+    expansion.expand(readLines(QFileInfo(path).path() + u"/../script/common.verbs"_s), {}, {});
+    for (const auto &[text, place] : expansion.expand(readLines(path), {}, {})) {
         const QString verb = text.section(u' ', 0, 0);
         const QString rest = text.mid(verb.size() + 1).trimmed();
         if (verb == u"case"_s) {

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include "entry/vocabulary.h"
 #include "paper/pageview.h"
 #include "script/player.h"
 #include "support/otherreaders.h"
@@ -18,19 +17,6 @@ void expectRows(const QString &expected, QStringList actual, bool sorted = false
         actual.sort();
     }
     expect(rows.join(u" / "_s), actual.join(u" / "_s));
-}
-
-/// Adds a bet: customer, class, number, money.
-void addLine(const Step &step)
-{
-    const auto *row =
-        std::ranges::find(BetClasses, QStringView(step.words.value(1)), &BetClass::caption);
-    if (row == BetClasses.end())
-        qFatal("%s: no class of bets", qUtf8Printable(step.place));
-    Stage::run(u"INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy, nuser) "
-               "VALUES (?, ?, ?, ?, ?, ?, 'sv')"_s,
-               {step.words[0], row->num23, -int(row->updown), row->numType, step.words.value(2),
-                step.words.value(3)});
 }
 
 void compareFiles(const Step &step)
@@ -85,21 +71,26 @@ QString shownBy(const QString &words)
 void seeGrid(const Step &step)
 {
     const QString name = step.words[0];
-    const QString columns = name.section(u'[', 1).section(u']', 0, 0).replace(u',', u'|');
     const auto *grid =
         qobject_cast<Spread *>(findControl(Stage::window(), name.section(u'[', 0, 0)));
+    QStringList columns = name.section(u'[', 1).section(u']', 0, 0).split(u',', Qt::SkipEmptyParts);
+    const int count = grid ? grid->spreadModel()->columns() : 0;
+    if (columns.isEmpty()) {
+        for (int column = 1; column <= count; ++column)
+            if (!grid->isColumnHidden(column))
+                columns += QString::number(column);
+        columns += u"hot"_s;
+    }
     QStringList rows;
     for (int row = 1; grid && row <= grid->rows(); ++row) {
         QStringList cells;
-        bool hot = false;
-        for (int column = 1; column <= grid->spreadModel()->columns(); ++column) {
-            hot = hot || grid->color(row, column).isValid();
-            if (columns.isEmpty() ? !grid->isColumnHidden(column)
-                                  : columns.split(u'|').contains(QString::number(column)))
-                cells += grid->text(row, column).trimmed();
-        }
-        if (hot && (columns.isEmpty() || columns.endsWith(u"hot"_s)))
-            cells += u"hot"_s;
+        for (const QString &column : columns)
+            cells += grid->text(row, column.toInt()).trimmed();
+        if (columns.last() == u"hot"_s)
+            cells.removeLast();
+        for (int column = 1; column <= count && columns.last() == u"hot"_s; ++column)
+            if (grid->color(row, column).isValid())
+                cells += u"hot"_s;
         rows += cells.join(u'|');
     }
     expectRows(step.rest.sliced(step.rest.indexOf(u' ', step.rest.indexOf(name) + name.size()) + 1),
@@ -163,7 +154,7 @@ void compareDump(const Step &step)
                              ? readByOthers(Stage::file(of))
                              : dumpWindow(of.isEmpty() ? window : findControl(window, of));
     actual = actual.filter(QRegularExpression(step.words.value(2)));
-    QFile file(QFileInfo(step.place).path() + u'/' + step.words[0] + u".dump"_s);
+    QFile file(QFileInfo(step.place.section(u" in "_s, 0, 0)).path() + u'/' + step.words[0] + u".dump"_s);
     if (qEnvironmentVariableIsSet("DESK_ACCEPT") && file.open(QIODevice::WriteOnly))
         file.write((actual.join(u'\n') + u'\n').toUtf8());
     file.close();
@@ -176,9 +167,7 @@ void compareDump(const Step &step)
 
 void doAside(const Step &step, const QStringList &words)
 {
-    if (step.verb == u"bet"_s) {
-        addLine(step);
-    } else if (step.verb == u"sql"_s) {
+    if (step.verb == u"sql"_s) {
         const QStringList rows = Stage::run(step.rest.section(u" => "_s, 0, 0));
         if (step.rest.contains(u" => "_s))
             expectRows(step.rest.section(u" => "_s, 1), rows);
@@ -256,7 +245,7 @@ void act(const Step &step, const QStringList &words)
 
 Work workOf(const QString &verb)
 {
-    static const QStringList Aside = u"bet sql files clip colors write"_s.split(u' ');
+    static const QStringList Aside = u"sql files clip colors write"_s.split(u' ');
     static const QStringList Looks = u"start see grid box dump look picture ends"_s.split(u' ');
     static const QStringList Acts =
         u"close key compose click at type choose set wheel"_s.split(u' ');
