@@ -110,7 +110,7 @@ void pressKey(const QString &key)
 {
     const QWidget *popup = QApplication::activePopupWidget();
     QWindow *window = popup ? popup->windowHandle() : QGuiApplication::focusWindow();
-    const QString name = key == u"<Enter>"_s ? u"Return"_s : key.sliced(1).chopped(1);
+    const QString name = key == u"<Enter>"_s ? u"Return"_s : key.mid(1, key.size() - 2);
     const QString last = name.section(u'+', -1); // such as the 5 of Alt+5, which is a text too
     const QString text = last == u"Space"_s ? u" "_s : last.size() == 1 ? last : QString();
     const QKeySequence keys(name, QKeySequence::PortableText);
