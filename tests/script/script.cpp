@@ -97,8 +97,9 @@ public:
             else if (verb == u"each"_s)
                 lines += expandRows(takeBody(from, at, words), rest, caller);
             else if (verb == u"play"_s)
-                lines += expand(readDraw(QFileInfo(from[at].place).path() + u'/' + rest.value(0), rest), {},
-                                u" in "_s + place);
+                lines +=
+                    expand(readDraw(QFileInfo(from[at].place).path() + u'/' + rest.value(0), rest),
+                           {}, u" in "_s + place);
             else if (verb == u"optional"_s)
                 lines += text.contains(u'$')
                              ? QList<Line>()

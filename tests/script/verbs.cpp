@@ -154,7 +154,8 @@ void compareDump(const Step &step)
                              ? readByOthers(Stage::file(of))
                              : dumpWindow(of.isEmpty() ? window : findControl(window, of));
     actual = actual.filter(QRegularExpression(step.words.value(2)));
-    QFile file(QFileInfo(step.place.section(u" in "_s, 0, 0)).path() + u'/' + step.words[0] + u".dump"_s);
+    QFile file(QFileInfo(step.place.section(u" in "_s, 0, 0)).path() + u'/' + step.words[0]
+               + u".dump"_s);
     if (qEnvironmentVariableIsSet("DESK_ACCEPT") && file.open(QIODevice::WriteOnly))
         file.write((actual.join(u'\n') + u'\n').toUtf8());
     file.close();
