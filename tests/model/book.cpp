@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "model/trade.h"
 
+#include <QMap>
 #include <QVariant>
 
 #include <algorithm>
 #include <limits>
-#include <set>
 #include <tuple>
 
 using namespace Qt::StringLiterals;
@@ -18,62 +18,63 @@ constexpr qint64 Most = std::numeric_limits<qint32>::max();
 const QString Hot = u" hot"_s; // behind a row with half the money
 const QStringList Words{u""_s, u"ตรง"_s, u"โต๊ด"_s, u"วิ่ง"_s};
 
-QString sorted(QString digits)
+/// Straight at the end of a prize, otherwise with its digits in any places.
+bool matches(const Bet &bet, const QString &prize)
 {
-    std::sort(digits.begin(), digits.end());
-    return digits;
-}
-
-/// A key for the order of a Thai dictionary: a vowel written before its consonant counts after it,
-/// signs above the letters do not count.
-QString thaiOrder(QString name)
-{
-    for (qsizetype at = 0; at + 1 < name.size(); ++at) {
-        if (name[at] >= u'เ' && name[at] <= u'ไ') {
-            std::swap(name[at], name[at + 1]);
-            ++at;
-        }
-    }
-    return name.removeIf([](QChar sign) { return sign >= QChar(0x0e47) && sign <= QChar(0x0e4e); });
-}
-
-template<typename Value>
-int nextKey(const std::map<int, Value> &values)
-{
-    return values.empty() ? 1 : values.rbegin()->first + 1;
-}
-
-/// True if the first bet can win together with the second, longer one.
-bool isRelated(const Bet &bet, const Bet &other)
-{
-    const auto &[digits, top, type, caption] = Classes[bet.betClass];
-    const Class &longer = Classes[other.betClass];
-    const QString &number = bet.number;
-    if (top != longer.top || longer.digits != (top ? 3 : 2))
-        return false;
-    if (type == Run)
-        return longer.type == Straight && other.number.contains(number);
-    if (digits == 3)
-        return type == Tod && longer.type == Straight && sorted(number) == sorted(other.number);
-    if (type == Tod)
-        return other.number.contains(number[0]) && other.number.contains(number[1]);
-    return top && other.number.endsWith(number);
+    if (bet.what().type == Straight)
+        return prize.endsWith(bet.number);
+    return std::all_of(bet.number.begin(), bet.number.end(),
+                       [&](QChar digit) { return bet.number.count(digit) <= prize.count(digit); });
 }
 
 bool isWon(const Bet &bet, const QString &result)
 {
-    const auto &[digits, top, type, caption] = Classes[bet.betClass];
-    if (!top && digits == 3)
-        return QStringList{result.mid(3, 3), result.mid(6, 3), result.mid(9, 3), result.mid(12, 3)}
-            .contains(bet.number);
-    QString prize = top ? result.left(3) : result.right(2);
-    if (type == Straight)
-        return prize.endsWith(bet.number);
-    return std::all_of(bet.number.begin(), bet.number.end(), [&](QChar digit) {
-        const qsizetype at = prize.indexOf(digit);
-        return at >= 0 && !prize.remove(at, 1).isNull();
-    });
+    const auto &[digits, top, type, caption] = bet.what();
+    const int end = top ? 3 : digits == 3 ? 15 : 17;
+    for (int at = top ? 0 : digits == 3 ? 3 : 15; at < end; at += 3) {
+        if (matches(bet, result.mid(at, 3)))
+            return true;
+    }
+    return false;
 }
+
+/// True if the first bet can win together with the second one, of the most digits.
+bool isRelated(const Bet &bet, const Bet &other)
+{
+    const auto &[digits, top, type, caption] = other.what();
+    return top == bet.what().top && digits == (top ? 3 : 2) && matches(bet, other.number)
+           && (type == Straight ? bet.betClass != other.betClass : bet.what().digits == 2);
+}
+
+/// All money on each number, by side, type, digits and number.
+std::map<std::pair<int, QString>, Bet> sums(const Book::Bets &lines,
+                                            const std::function<bool(const Bet &)> &counts)
+{
+    std::map<std::pair<int, QString>, Bet> sums;
+    for (const auto &[key, line] : lines) {
+        if (!counts(line))
+            continue;
+        const int rank = 100 * !line.what().top + 10 * line.what().type + line.what().digits;
+        Bet &sum = sums[{rank, line.number}];
+        sum = {line.betClass, line.number, sum.amount + line.amount};
+    }
+    return sums;
+}
+
+int timesHot(const Book &book, const Bet &bet)
+{
+    return int(std::count_if(book.hot.begin(), book.hot.end(), [&](const QString &number) {
+        return number.size() == bet.number.size() && matches(bet, number);
+    }));
+}
+
+qint64 shown(const Book &book, const Bet &bet)
+{
+    return timesHot(book, bet) > 0 ? (bet.amount + 1) / 2 : bet.amount;
+}
+
+/// Rows by what they are sorted by.
+using Rows = QMap<std::tuple<qint64, qint64, QString, int>, QString>;
 
 template<typename... Fields>
 QString joined(const Fields &...fields)
@@ -83,26 +84,10 @@ QString joined(const Fields &...fields)
     return texts.join(u' ');
 }
 
-/// A result and its amounts as they are stored.
-QString toText(const QString &result, qint64 profit, qint64 payout)
+template<typename Value>
+int nextKey(const std::map<int, Value> &values)
 {
-    return joined(result.mid(0, 3), result.mid(3, 3), result.mid(6, 3), result.mid(9, 3),
-                  result.mid(12, 3), result.mid(15), profit, payout);
-}
-
-/// A bet for each number of each class, with its money in all lines that count.
-std::vector<Bet> sums(const Book::Bets &lines, const std::function<bool(const Bet &)> &counts)
-{
-    std::map<std::pair<size_t, QString>, qint64> money;
-    for (const auto &[key, line] : lines) {
-        if (counts(line))
-            money[{line.betClass, line.number}] += line.amount;
-    }
-    std::vector<Bet> bets;
-    bets.reserve(money.size());
-    for (const auto &[bet, amount] : money)
-        bets.push_back({bet.first, bet.second, amount});
-    return bets;
+    return values.empty() ? 1 : values.rbegin()->first + 1;
 }
 
 } // namespace
@@ -120,23 +105,19 @@ int Book::customer(const QString &name)
 
 /// All tod bets on the same digits are to have one spelling: the lowest one in the book. The keyed
 /// order counts only if another order of its digits reads the same.
-QString Book::spelling(const Bet &bet) const
-{
-    const QString digits = sorted(bet.number);
-    const bool pair = std::adjacent_find(digits.begin(), digits.end()) != digits.end();
-    std::set<QString> inBook;
-    for (const auto &[key, line] : lines) {
-        if (line.betClass == bet.betClass && (line.number != bet.number || pair)
-            && sorted(line.number) == digits && customers.contains(line.customer))
-            inBook.insert(line.number);
-    }
-    return inBook.empty() ? bet.number : *inBook.begin();
-}
-
 void Book::file(const QString &name, Bet bet, const Between &between)
 {
-    if (Classes[bet.betClass].type == Tod)
-        bet.number = spelling(bet);
+    const QString keyed = bet.number;
+    const bool pair = keyed.count(keyed.front()) > 1 || keyed.count(keyed.back()) > 1;
+    QStringList inBook;
+    for (const auto &[key, line] : lines) {
+        if (line.betClass == bet.betClass && bet.what().type == Tod
+            && (line.number != keyed || pair) && matches(line, keyed)
+            && customers.contains(line.customer))
+            inBook += line.number;
+    }
+    if (!inBook.isEmpty())
+        bet.number = *std::min_element(inBook.begin(), inBook.end());
     const size_t known = customers.size();
     bet.customer = customer(name);
     if (customers.size() > known)
@@ -160,144 +141,6 @@ void Book::cut(int key, qint64 amount, const Between &between)
     cuts[nextKey(cuts)] = taken;
 }
 
-std::vector<int> Book::linesOn(size_t betClass, const QString &number) const
-{
-    std::vector<int> keys;
-    for (const auto &[key, line] : lines) {
-        if (line.betClass == betClass && line.number == number && customers.contains(line.customer))
-            keys.push_back(key);
-    }
-    std::stable_sort(keys.begin(), keys.end(), [&](int one, int other) {
-        return lines.at(one).amount > lines.at(other).amount;
-    });
-    return keys;
-}
-
-int Book::timesHot(const Bet &bet) const
-{
-    const Type type = Classes[bet.betClass].type;
-    return int(std::count_if(hot.begin(), hot.end(), [&](const QString &number) {
-        return type == Tod ? sorted(number) == sorted(bet.number)
-                           : type == Straight && number == bet.number;
-    }));
-}
-
-qint64 Book::shown(const Bet &bet) const
-{
-    return timesHot(bet) > 0 ? (bet.amount + 1) / 2 : bet.amount;
-}
-
-Board Book::board(size_t betClass, const QString &name) const
-{
-    const auto counts = [&](const Bet &line) {
-        const auto customer = customers.find(line.customer);
-        return line.betClass == betClass
-               && (name.isEmpty()
-                   || (customer != customers.end() && customer->second.name == name));
-    };
-    qint64 total = 0;
-    std::set<std::tuple<qint64, qint64, QString>> rows; // the highest amount shown first
-    for (const Bet &bet : sums(lines, counts)) {
-        rows.insert({-shown(bet), -bet.amount, bet.number});
-        total += bet.amount;
-    }
-    Board board;
-    for (const auto &[shown, money, number] : rows)
-        board.rows +=
-            number + u'|' + baht(-shown) + (timesHot({betClass, number}) > 0 ? Hot : u""_s);
-    if (!rows.empty())
-        board = {board.rows, baht(total), baht(-std::get<0>(*rows.begin()) * rates[betClass])};
-    return board;
-}
-
-QStringList Book::scan(bool top) const
-{
-    const auto bets =
-        sums(lines, [&](const Bet &line) { return Classes[line.betClass].top == top; });
-    std::map<std::tuple<int, qint64, QString, Type>, QString> rows; // most related lines first
-    for (const Bet &bet : bets) {
-        QString related;
-        for (const Bet &other : bets) {
-            if (isRelated(bet, other))
-                related += u"%1  =  %2      ยอด  %3\r\n"_s.arg(Classes[other.betClass].type)
-                               .arg(other.number)
-                               .arg(other.amount);
-        }
-        const int count = int(related.count(u'\n'));
-        const Type type = Classes[bet.betClass].type;
-        if (count > 0)
-            rows[{-count, -bet.amount, bet.number, type}] = u"%1|%2|%3|%4%|%5"_s.arg(
-                Words[type], bet.number, baht(shown(bet)), QString::number(count), related);
-    }
-    QStringList inOrder;
-    for (const auto &[place, row] : rows)
-        inOrder += row;
-    return inOrder;
-}
-
-/// A win for each customer and number, in the order of their list.
-std::vector<Bet> Book::wins(const QString &result, const Bets &from) const
-{
-    std::map<std::tuple<QString, bool, Type, int, QString, int>, Bet> wins;
-    for (const auto &[key, line] : from) {
-        if (!isWon(line, result) || !customers.contains(line.customer))
-            continue;
-        const auto &[digits, top, type, caption] = Classes[line.betClass];
-        const QString name = thaiOrder(customers.at(line.customer).name);
-        Bet &win = wins[{name, !top, type, digits, line.number, line.customer}];
-        win = {line.betClass, line.number, win.amount + line.amount, line.customer};
-    }
-    std::vector<Bet> inOrder;
-    inOrder.reserve(wins.size());
-    for (const auto &[place, win] : wins)
-        inOrder.push_back(win);
-    return inOrder;
-}
-
-QString Book::row(const Bet &win, qint64 payout) const
-{
-    const Class &what = Classes[win.betClass];
-    const Customer &customer = customers.at(win.customer);
-    return u"%1-%2| %3| %4|%5|%6| %7|0%8"_s.arg(Words[what.type], what.top ? u"บน"_s : u"ล่าง"_s,
-                                                win.number, customer.percent, baht(win.amount),
-                                                baht(payout), customer.name, customer.telephone);
-}
-
-Check Book::check(const QString &result)
-{
-    Check check;
-    for (const auto &[key, line] : lines)
-        check.profit += line.amount;
-    qint64 discounted = 0;
-    for (const auto &[key, amount] : discounts)
-        discounted += amount;
-    for (const Bet &win : wins(result, lines)) {
-        qint64 payout = win.amount * rates[win.betClass];
-        for (int left = timesHot(win); left > 0; --left) {
-            check.fails = check.fails || payout == 0 || payout > Most;
-            payout = (payout + 1) / 2;
-        }
-        check.payout += payout;
-        check.fails = check.fails || payout == 0 || check.payout > Most;
-        check.rows += row(win, payout) + (timesHot(win) > 0 ? Hot : u""_s);
-    }
-    check.fails = check.fails || (!check.rows.empty() && check.profit == discounted);
-    check.profit -= check.rows.empty() ? discounted : check.payout;
-    if (!check.fails)
-        kept = toText(result, check.profit, check.payout);
-    return check;
-}
-
-Check Book::checkCuts(const QString &result)
-{
-    Check check;
-    for (const Bet &win : wins(result, cuts)) // which another pays
-        check.rows += row(win, win.amount * rates[win.betClass]);
-    if (check.rows.empty())
-        kept = toText(result, 0, 0);
-    return check;
-}
-
 void Book::close(const Between &between)
 {
     discounts.clear();
@@ -311,12 +154,99 @@ void Book::close(const Between &between)
     history += kept;
 }
 
-void Book::wipe()
+QStringList Book::linesOn(size_t betClass, const QString &number) const
 {
-    Book wiped;
-    wiped.rates = rates;
-    wiped.kept = kept;
-    *this = wiped;
+    Rows rows;
+    for (const auto &[key, line] : lines) {
+        if (line.betClass == betClass && line.number == number && customers.contains(line.customer))
+            rows[{-line.amount, key, {}, 0}] =
+                QString::number(key) + u'|' + baht(line.amount) + u' ';
+    }
+    return rows.values();
+}
+
+QStringList Book::board(size_t betClass, int ofCustomer) const
+{
+    Rows rows; // the highest amount shown first
+    qint64 total = 0;
+    const auto counts = [&](const Bet &line) {
+        return line.betClass == betClass && (ofCustomer < 0 || line.customer == ofCustomer);
+    };
+    for (const auto &[place, bet] : sums(lines, counts)) {
+        rows[{-shown(*this, bet), -bet.amount, bet.number, 0}] =
+            bet.number + u'|' + baht(shown(*this, bet)) + (timesHot(*this, bet) > 0 ? Hot : u""_s);
+        total += bet.amount;
+    }
+    if (rows.empty())
+        return {u"0|0"_s};
+    const qint64 estimate = -std::get<0>(rows.firstKey()) * rates[betClass];
+    return QStringList(baht(total) + u'|' + baht(estimate)) + rows.values();
+}
+
+QStringList Book::scan(bool top) const
+{
+    const auto bets = sums(lines, [&](const Bet &line) { return line.what().top == top; });
+    Rows rows; // most related lines first
+    for (const auto &[place, bet] : bets) {
+        QString related;
+        for (const auto &[otherPlace, other] : bets) {
+            if (isRelated(bet, other))
+                related += u"%1  =  %2      ยอด  %3\r\n"_s.arg(other.what().type)
+                               .arg(other.number, QString::number(other.amount));
+        }
+        const qint64 count = related.count(u'\n');
+        if (count > 0)
+            rows[{-count, -bet.amount, bet.number, bet.what().type}] =
+                QStringList{Words[bet.what().type], bet.number, baht(shown(*this, bet)),
+                            QString::number(count) + u'%', related}
+                    .join(u'|');
+    }
+    return rows.values();
+}
+
+QStringList Book::check(const QString &result, bool ofCuts)
+{
+    qint64 taken = 0;
+    qint64 discounted = 0;
+    for (const auto &[key, line] : lines)
+        taken += line.amount;
+    for (const auto &[key, amount] : discounts)
+        discounted += amount;
+    QStringList rows;
+    qint64 payouts = 0;
+    bool fails = false;
+    std::map<QString, int> keys;
+    for (const auto &[key, each] : customers)
+        keys[each.name] = key;
+    for (const auto &[name, key] : keys) {
+        const auto wins = [&, key = key](const Bet &line) {
+            return line.customer == key && isWon(line, result);
+        };
+        for (const auto &[place, win] : sums(ofCuts ? cuts : lines, wins)) {
+            qint64 payout = win.amount * rates[win.betClass];
+            const int halved = ofCuts ? 0 : timesHot(*this, win); // another pays what was cut
+            fails = fails || payout == 0 || (halved > 0 && payout > Most);
+            for (int left = halved; left > 0; --left)
+                payout = (payout + 1) / 2;
+            payouts += payout;
+            fails = fails || payouts > Most;
+            rows += u"%1-%2| %3| %4|%5|%6| %7|0%8%9"_s.arg(
+                Words[win.what().type], win.what().top ? u"บน"_s : u"ล่าง"_s, win.number,
+                customers.at(key).percent, baht(win.amount), baht(payout), name,
+                customers.at(key).telephone, halved > 0 ? Hot : u""_s);
+        }
+    }
+    const bool won = !rows.empty();
+    if (ofCuts && won)
+        return rows << u"เลขคัดออก|เลขคัดออก"_s;
+    if (fails || (won && taken == discounted))
+        return {};
+    const qint64 profit = ofCuts ? 0 : taken - (won ? payouts : discounted);
+    kept.clear();
+    for (int at = 0; at < 17; at += 3)
+        kept += result.mid(at, 3) + u' ';
+    kept += joined(profit, payouts);
+    return rows << (won ? baht(payouts) : u"0"_s) + u'|' + (ofCuts ? u"0"_s : baht(profit));
 }
 
 QStringList Book::rows() const
@@ -326,7 +256,7 @@ QStringList Book::rows() const
         rows += joined(u"customer"_s, key, each.name, each.percent, each.telephone);
     for (const auto *table : {&lines, &cuts}) {
         for (const auto &[key, line] : *table) {
-            const auto &[digits, top, type, caption] = Classes[line.betClass];
+            const auto &[digits, top, type, caption] = line.what();
             rows += joined(table == &lines ? u"line"_s : u"cut"_s, key, line.customer, digits,
                            top ? -1 : 0, int(type), line.number, line.amount, u"sv"_s);
         }
@@ -334,13 +264,13 @@ QStringList Book::rows() const
     for (const auto &[key, amount] : discounts)
         rows += joined(u"discount"_s, key, amount);
     for (const QString &number : hot)
-        rows += joined(u"hot"_s, number);
+        rows += u"hot "_s + number;
     rows += u"rates"_s;
     for (const qint64 rate : rates)
         rows.last() += u' ' + QString::number(rate);
-    rows += joined(u"result"_s, kept);
+    rows += u"result "_s + kept;
     for (const QString &draw : history)
-        rows += joined(u"draw"_s, draw);
+        rows += u"draw "_s + draw;
     return rows;
 }
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // The rules of the trade, written a second time for the tests: what keyed lines put on a ticket,
-// how it is filed and cut, what the boards, the risk scan and the draw check show of it, and what
+// how it is saved and cut, what the boards, the risk scan and the draw check show of it, and what
 // the end of a draw leaves. It shares no code with the program and prefers plain loops to speed.
 #pragma once
 
@@ -9,7 +9,6 @@
 #include <array>
 #include <functional>
 #include <map>
-#include <vector>
 
 namespace model {
 
@@ -42,6 +41,9 @@ struct Bet
     QString number;
     qint64 amount = 0;
     int customer = 0; ///< unless it is on a ticket or stands for all customers
+
+    const Class &what() const { return Classes[betClass]; }
+    bool operator==(const QString &other) const { return number == other; }
 };
 
 /// The bets of each class, the newest first.
@@ -53,11 +55,11 @@ struct Ticket
     /// Adds to the bet on a number, or makes a new first one.
     void add(size_t betClass, const QString &number, qint64 amount);
 
-    QStringList rows() const; ///< such as "1: 123=1,050", classes counted from 1
-    std::vector<Bet> inOrderOfSaving() const;
+    QStringList rows(size_t betClass) const; ///< such as "123|1,050"
+    QList<Bet> inOrderOfSaving() const;
     qint64 total() const;
 
-    std::array<std::vector<Bet>, Classes.size()> bets;
+    std::array<QList<Bet>, Classes.size()> bets;
     bool showsTop = false; ///< the tab after the last line that was accepted
 };
 
@@ -68,55 +70,37 @@ struct Customer
     QString telephone{};
 };
 
-/// A board as shown: rows such as "12|1,050", " hot" behind a halved one, both amounts as text.
-struct Board
-{
-    QStringList rows;
-    QString total = QStringLiteral("0"); ///< not halved
-    QString estimate = QStringLiteral("0");
-};
-
-struct Check
-{
-    QStringList rows; ///< the cells of each winner, " hot" behind a halved one
-    qint64 payout = 0;
-    qint64 profit = 0;
-    bool fails = false; ///< on an amount of 0, or one beyond 32 bits
-};
+/// Called between two statements of an operation, where a kill leaves half of it.
+using Between = std::function<void()>;
+inline void nothing() {}
 
 /// The book of one draw, and what outlives it. Lines and discounts have the keys of the Ledger.
 struct Book
 {
     using Bets = std::map<int, Bet>;
-    /// Called between two statements of an operation, where a kill leaves half of it.
-    using Between = std::function<void()>;
 
     /// Key of the first customer of that name, who is registered if new.
     int customer(const QString &name);
 
-    void file(
-        const QString &name, Bet bet, const Between &between = [] {});
+    void file(const QString &name, Bet bet, const Between &between = nothing);
     void addDiscount(qint64 amount);
-    void cut(
-        int key, qint64 amount, const Between &between = [] {});
+    void cut(int key, qint64 amount, const Between &between = nothing);
+    void close(const Between &between = nothing);
 
-    /// Keys of the lines on a number, the biggest first.
-    std::vector<int> linesOn(size_t betClass, const QString &number) const;
+    /// The lines on a number, the biggest first, such as "17|1,050 " with their keys.
+    QStringList linesOn(size_t betClass, const QString &number) const;
 
-    /// All bets of a class, or those of customers of one name.
-    Board board(size_t betClass, const QString &name = {}) const;
+    /// All bets of a class, or those of one customer: total and estimate such as "1,050|73,500",
+    /// then rows such as "12|1,050", " hot" behind a halved one.
+    QStringList board(size_t betClass, int ofCustomer = -1) const;
 
     /// Rows of the risk scan of a side: type, number, money, count and related lines.
     QStringList scan(bool top) const;
 
-    /// Checks seventeen digits. Result and amounts are kept unless it fails.
-    Check check(const QString &result);
-
-    /// The same for the lines cut out. Keeps amounts of 0, but only if nothing wins.
-    Check checkCuts(const QString &result);
-
-    void close(const Between &between = [] {});
-    void wipe();
+    /// Checks seventeen digits against the book or the lines cut out: a row for each winner, " hot"
+    /// behind a halved one, then payout and profit. Nothing if it fails, as it does on an amount of
+    /// 0 or one beyond 32 bits. Result and amounts are kept unless it fails or a cut wins.
+    QStringList check(const QString &result, bool ofCuts = false);
 
     /// What the Ledger holds, a text for each row.
     QStringList rows() const;
@@ -129,13 +113,6 @@ struct Book
     std::map<int, qint64> discounts;
     QString kept = QStringLiteral("      0 0"); ///< result and amounts of the last check
     QStringList history;
-
-private:
-    QString spelling(const Bet &bet) const;
-    int timesHot(const Bet &bet) const;
-    qint64 shown(const Bet &bet) const; ///< half of it if it is hot
-    std::vector<Bet> wins(const QString &result, const Bets &from) const;
-    QString row(const Bet &win, qint64 payout) const;
 };
 
 } // namespace model
