@@ -1,82 +1,133 @@
 // SPDX-License-Identifier: MIT
-// A disk that fails on demand. It stands between the engine and the files of one folder, so it
-// works on every system and needs no rights and no disk of its own.
+// A disk that fails on demand: a VFS between SQLite and the files of one Ledger.
 #pragma once
 
-#include <QHash>
+#include <QDir>
+#include <QFile>
 #include <QRandomGenerator>
-#include <QStringList>
 
-#include <array>
 #include <functional>
+#include <map>
 
-/// What the engine asks of a disk.
-enum class Call { Open, Read, Write, Sync, Truncate, Delete };
+#include <sqlite3.h>
 
-/// What becomes of a call that is struck, and of those of its kind that follow.
-enum class Fault {
-    None,
-    Once,   ///< it alone fails
-    Always, ///< all fail from then on
-    Full,   ///< no file grows any more, and half of what does not fit is written
-};
-
-/// The engine's disk for as long as it lives; there is one at a time. Files in other folders pass
-/// through it untouched.
-class FaultyDisk
+inline QByteArray bytesOf(const QString &path)
 {
-public:
-    explicit FaultyDisk(const QString &folder);
-    ~FaultyDisk();
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// SQLite's disk as long as it exists; there is one at a time.
+struct FaultyDisk
+{
+    enum Fault { Once, Always, Full };
+
+    /// The @p nth call fails, and unless @p kind is Once, all calls after it. Of a disk that is
+    /// full, only writes fail that make a file longer.
+    explicit FaultyDisk(const QString &path, Fault kind = Once, int nth = 0)
+        : ledger(path), fault(kind), callsLeft(nth), synced{{path, bytesOf(path)}}
+    {
+        disk = this;
+        vfs.zName = "faulty";
+        vfs.xOpen = openFile;
+        sqlite3_vfs_register(&vfs, 1);
+    }
+    ~FaultyDisk()
+    {
+        sqlite3_vfs_unregister(&vfs);
+        sqlite3_vfs_register(systemVfs, 1);
+    }
     Q_DISABLE_COPY_MOVE(FaultyDisk)
 
-    /// Has the @p nth call of a kind from now on, counted from 1, be struck. For Full only writes
-    /// that let a file grow count.
-    void strike(Fault fault, Call call, int nth);
-    bool struck() const { return m_struck; }
-
-    /// Is called ahead of each sync, with all that was written since the last still in the air.
-    std::function<void()> aheadOfSync;
-
-    /// Puts into the empty folder @p into what a power cut would leave now: all that was synced,
-    /// and of the rest what the dice let get there, whole, torn, as noise or not at all.
-    void cutPower(QRandomGenerator &dice, const QString &into) const;
-
-    /// Every file that the engine ever opened, "" for one of no name.
-    const QStringList &opened() const { return m_opened; }
-
-    // For the engine's calls: each says what it is about to do, and is told whether it may.
-
-    bool fails(Call call, bool grows = false);
-    void note(const QString &path, Call call, qint64 offset = 0, const QByteArray &bytes = {});
-    bool watches(const QString &path) const { return path.startsWith(m_folder); }
-    Fault fault() const { return m_fault; }
-
-private:
-    struct Change
+    /// Returns what a power cut leaves of a file: of the bytes that were written since the last
+    /// sync some blocks old, some new and some noise.
+    QByteArray afterPowerCut(const QString &path, QRandomGenerator &random)
     {
-        Call call;
-        qint64 offset;
-        QByteArray bytes;
+        QByteArray left = synced[path];
+        QByteArray other = bytesOf(path);
+        if (random.bounded(2) == 1)
+            left.swap(other);
+        const qsizetype block = 1 << random.bounded(5, 13);
+        const int fates = random.bounded(1, 4); // with only one, all is old or all is new
+        for (qsizetype at = 0, fate = 0; at < left.size(); ++at) {
+            if (at % block == 0)
+                fate = random.bounded(fates);
+            const char changed = at < other.size() ? other[at] : '\0';
+            if (fate > 0 && left[at] != changed)
+                left[at] = fate == 1 ? changed : char(random.generate());
+        }
+        return left;
+    }
+
+    /// Counts a call and returns @p failure if it has to fail.
+    int resultOf(int failure)
+    {
+        if ((fault == Full) != (failure == SQLITE_FULL))
+            return SQLITE_OK;
+        --callsLeft;
+        return callsLeft == 0 || (callsLeft < 0 && fault != Once) ? failure : SQLITE_OK;
+    }
+
+    static int openFile(sqlite3_vfs *, const char *name, sqlite3_file *file, int flags, int *used)
+    {
+        const QString path = QDir::fromNativeSeparators(QString::fromUtf8(name));
+        if (path.isEmpty())
+            qFatal("SQLite opens a temporary file, which could show the rows of the book");
+        const bool isOurs = path.startsWith(disk->ledger);
+        int code = isOurs ? disk->resultOf(SQLITE_CANTOPEN) : SQLITE_OK;
+        if (code == SQLITE_OK)
+            code = systemVfs->xOpen(systemVfs, name, file, flags, used);
+        if (code != SQLITE_OK || !isOurs)
+            return code;
+        OpenFile &open = openFiles[file] = {path, file->pMethods, *file->pMethods};
+        file->pMethods = &open.faulty;
+        open.faulty.xRead = [](sqlite3_file *own, void *to, int size, sqlite3_int64 at) {
+            const int failure = disk->resultOf(SQLITE_IOERR_READ);
+            return failure ? failure : openFiles[own].real->xRead(own, to, size, at);
+        };
+        open.faulty.xWrite = writeFile;
+        open.faulty.xTruncate = [](sqlite3_file *own, sqlite3_int64 size) {
+            const int failure = disk->resultOf(SQLITE_IOERR_TRUNCATE);
+            return failure ? failure : openFiles[own].real->xTruncate(own, size);
+        };
+        open.faulty.xSync = [](sqlite3_file *own, int how) {
+            disk->beforeSync();
+            const int failure = disk->resultOf(SQLITE_IOERR_FSYNC);
+            if (failure == SQLITE_OK)
+                disk->synced[openFiles[own].path] = bytesOf(openFiles[own].path);
+            return failure ? failure : openFiles[own].real->xSync(own, how);
+        };
+        return SQLITE_OK;
+    }
+
+    /// Half of a write that fails is written.
+    static int writeFile(sqlite3_file *file, const void *from, int size, sqlite3_int64 at)
+    {
+        const sqlite3_io_methods *real = openFiles[file].real;
+        sqlite3_int64 length = 0;
+        real->xFileSize(file, &length);
+        const int failure = disk->resultOf(
+            disk->fault == Full && at + size > length ? SQLITE_FULL : SQLITE_IOERR_WRITE);
+        const int code = real->xWrite(file, from, failure ? size / 2 : size, at);
+        return failure ? failure : code;
+    }
+
+    /// SQLite's own methods and those in their place.
+    struct OpenFile
+    {
+        QString path;
+        const sqlite3_io_methods *real;
+        sqlite3_io_methods faulty;
     };
 
-    /// One file: what is on the disk for certain, and what happened to it since.
-    struct State
-    {
-        bool exists = false;
-        QByteArray bytes;
-        QList<Change> inTheAir;
+    inline static FaultyDisk *disk = nullptr;
+    inline static sqlite3_vfs *systemVfs = sqlite3_vfs_find(nullptr);
+    inline static sqlite3_vfs vfs = *systemVfs;
+    inline static std::map<sqlite3_file *, OpenFile> openFiles; ///< and some that were closed
 
-        void take(const Change &change);
-    };
-
-    static State afterPowerCut(const State &file, QRandomGenerator &dice);
-
-    QString m_folder;
-    QHash<QString, State> m_files;
-    QStringList m_opened;
-    Fault m_fault = Fault::None;
-    Call m_struckCall = Call::Open;
-    int m_callsLeft = 0;
-    bool m_struck = false;
+    QString ledger;
+    Fault fault;
+    int callsLeft;                        ///< 0 or less once a call has failed
+    std::map<QString, QByteArray> synced; ///< by path
+    std::function<void()> beforeSync = [] {};
 };

@@ -43,12 +43,15 @@ void saveTicket(const Step &step, const std::function<void()> &done)
 
 void cutLine(const Step &step)
 {
-    const QVariantList found =
+    const auto rows =
         LedgerConnection
             ->run(u"SELECT NPK, num23, numType, updown, numValue FROM tblNumber ORDER BY NPK"
-                  " LIMIT 1 OFFSET ? % (SELECT count(*) FROM tblNumber)"_s,
+                  " LIMIT 1 OFFSET ? % max(1, (SELECT count(*) FROM tblNumber))"_s,
                   {step.line})
-            .rows[0];
+            .rows;
+    if (rows.isEmpty())
+        return;
+    const QVariantList &found = rows[0];
     SelNum23 = quint8(found[1].toInt());
     SelNumType = quint8(found[2].toInt());
     SelUpDown = found[3].toInt() != 0;
@@ -137,6 +140,8 @@ void Step::perform(model::Book &book, const std::function<void(bool isDone)> &pa
         book.addDiscount(discount);
         break;
     case Cut: {
+        if (book.lines.empty())
+            break;
         const auto chosen = std::next(book.lines.begin(), line % book.lines.size());
         book.cut(chosen->first, partOf(chosen->second.amount), between);
         break;

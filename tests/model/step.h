@@ -10,7 +10,8 @@ class QRandomGenerator;
 
 struct Step
 {
-    enum Kind { File, Cut, Check, Close };
+    enum Kind : char { File = 'f', Cut = 'c', Check = 'k', Close = 'x' };
+
     static constexpr qint64 HighestAmount = 9'999;
 
     /// A random step with at most @p most bets and, if @p discounted, always a discount.
@@ -32,7 +33,7 @@ struct Step
     model::Ticket ticket{};
     qint64 discount = 0;
     QString result{};
-    quint32 line = 0; ///< which one is cut, modulo their count
+    quint32 line = 0; ///< which one is cut, modulo their count; none in an empty book
     quint32 part = 0;
 };
 
