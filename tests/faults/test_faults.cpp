@@ -140,7 +140,8 @@ struct Day
 /// to the next. Returns what is in the files if the model passes no such state.
 QString difference(const Files &files, Day day, qsizetype done, model::Book &model)
 {
-    const QStringList found = rowsIn(files);
+    QStringList found = rowsIn(files);
+    found.removeAll(u"WAL renamed"_s); // an old one, of which a power cut has left a part
     model::Book passing = model;
     std::optional<model::Book> same;
     qsizetype passed = 0;
@@ -289,7 +290,8 @@ private slots:
             QCOMPARE(dots, QByteArray(dots.size(), '.'));
             QVERIFY(!endedItself);
             const Day day{QRandomGenerator(seed), "ffckfckx"};
-            QCOMPARE(difference({}, day, dots.size(), model), QString());
+            const QString wrong = difference({}, day, dots.size(), model);
+            QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
             rows += dots.size();
             if (kill % 25 == 0) { // a book outlives many kills, but stays quick to read
                 beginBook();
@@ -324,7 +326,7 @@ private slots:
         Work work;
         int cuts = 0;
         QString wrong;
-        disk.beforeSync = [&] {
+        const auto cutPower = [&] {
             for (int seed = 0; seed < seeds && wrong.isEmpty(); ++seed, ++cuts) {
                 model::Book model;
                 const QByteArray ledger = disk.afterPowerCut(book(), m_random);
@@ -332,10 +334,11 @@ private slots:
                 wrong = difference({ledger, wal}, today, work.done, model);
             }
         };
-        work.run(today);
-        QCOMPARE(wrong, QString());
+        disk.beforeSync = cutPower;
+        work.run(today, cutPower);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
         QCOMPARE(work.box, QString());
-        qInfo("%d power cuts at %d syncs", cuts, cuts / seeds);
+        qInfo("%d power cuts at %d moments", cuts, cuts / seeds);
     }
 
     void failingCallEndsInTheReport()
@@ -355,7 +358,8 @@ private slots:
                     left = disk.callsLeft;
                 }
                 model::Book model;
-                QCOMPARE(difference({}, today, work.done, model), QString());
+                const QString wrong = difference({}, today, work.done, model);
+                QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
                 if (work.status == 0 && work.box.isEmpty()) // not needed, or done again later
                     continue;
                 QCOMPARE(work.status, 1);
@@ -379,7 +383,8 @@ private slots:
         QFile::setPermissions(data, permissions);
         QCOMPARE(work.box, Report + ReadOnly);
         model::Book model;
-        QCOMPARE(difference({}, today, work.done, model), QString());
+        const QString wrong = difference({}, today, work.done, model);
+        QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     }
 
     void damagedBookIsRefused()
