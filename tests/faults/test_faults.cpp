@@ -69,12 +69,15 @@ QString book()
     return programFile(u"data/ztkdata.ZDB"_s);
 }
 
+model::Book expected; ///< model of the book
+
 /// Makes a new folder for the program, with an empty book. All books have the same key.
 void beginBook()
 {
     static std::optional<QTemporaryDir> folder;
     static QByteArray empty;
     CloseLedger();
+    expected = {};
     folder.emplace();
     setProgramFolder(folder->path());
     QDir(folder->path()).mkdir(u"data"_s);
@@ -136,13 +139,13 @@ struct Day
     qsizetype at = 0;
 };
 
-/// Does a day with the model of a book up to the row that was done last, or to a state on the way
-/// to the next. Returns what is in the files if the model passes no such state.
-QString difference(const Files &files, Day day, qsizetype done, model::Book &model)
+/// Does a day with the model up to the row that was done last, or to a state on the way to the next.
+/// Returns what is in the files if the model passes no such state.
+QString difference(const Files &files, Day day, qsizetype done)
 {
     QStringList found = rowsIn(files);
     found.removeAll(u"WAL renamed"_s); // an old one, of which a power cut has left a part
-    model::Book passing = model;
+    model::Book passing = expected;
     std::optional<model::Book> same;
     qsizetype passed = 0;
     const auto compare = [&](bool isDone) {
@@ -154,7 +157,7 @@ QString difference(const Files &files, Day day, qsizetype done, model::Book &mod
     compare(false);
     while (passed <= done)
         day.next().perform(passing, compare);
-    model = same.value_or(model);
+    expected = same.value_or(expected);
     return same ? QString() : u"%1 rows done, then found:\n%2"_s.arg(done).arg(found.join(u'\n'));
 }
 
@@ -274,7 +277,6 @@ private slots:
 
     void killLosesNoDoneRow()
     {
-        model::Book model;
         qsizetype rows = 0;
         const int kills = numberIn("DESK_KILLS", 300);
         for (int kill = 1; kill <= kills; ++kill) {
@@ -290,13 +292,11 @@ private slots:
             QCOMPARE(dots, QByteArray(dots.size(), '.'));
             QVERIFY(!endedItself);
             const Day day{QRandomGenerator(seed), "ffckfckx"};
-            const QString wrong = difference({}, day, dots.size(), model);
+            const QString wrong = difference({}, day, dots.size());
             QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
             rows += dots.size();
-            if (kill % 25 == 0) { // a book outlives many kills, but stays quick to read
+            if (kill % 25 == 0) // a book outlives many kills, but stays quick to read
                 beginBook();
-                model = {};
-            }
         }
         qInfo("%d kills in %d rows", kills, int(rows));
         QVERIFY(rows > kills);
@@ -328,10 +328,10 @@ private slots:
         QString wrong;
         const auto cutPower = [&] {
             for (int seed = 0; seed < seeds && wrong.isEmpty(); ++seed, ++cuts) {
-                model::Book model;
+                expected = {};
                 const QByteArray ledger = disk.afterPowerCut(book(), m_random);
                 const QByteArray wal = disk.afterPowerCut(book() + u"-wal"_s, m_random);
-                wrong = difference({ledger, wal}, today, work.done, model);
+                wrong = difference({ledger, wal}, today, work.done);
             }
         };
         disk.beforeSync = cutPower;
@@ -344,7 +344,7 @@ private slots:
     void failingCallEndsInTheReport()
     {
         static const QRegularExpression report(
-            u"^(%1|%2)(disk I/O error|database or disk is full|%3|%4)$"_s.arg(
+            u"^((%1|%2)(disk I/O error|database or disk is full|%3|%4))?$"_s.arg(
                 QRegularExpression::escape(Report), Refused, Shut, Unreadable));
         const Day today = day("fcckfkx");
         int runs = 0;
@@ -357,12 +357,9 @@ private slots:
                     work.run(today);
                     left = disk.callsLeft;
                 }
-                model::Book model;
-                const QString wrong = difference({}, today, work.done, model);
+                const QString wrong = difference({}, today, work.done);
                 QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
-                if (work.status == 0 && work.box.isEmpty()) // not needed, or done again later
-                    continue;
-                QCOMPARE(work.status, 1);
+                QCOMPARE(work.status, work.box.isEmpty() ? 0 : 1); // some are done again later
                 QVERIFY2(report.match(work.box).hasMatch(), qPrintable(work.box));
             }
         }
@@ -382,8 +379,8 @@ private slots:
             [&] { work.run(today, [&] { QFile::setPermissions(data, NotWritable); }); });
         QFile::setPermissions(data, permissions);
         QCOMPARE(work.box, Report + ReadOnly);
-        model::Book model;
-        const QString wrong = difference({}, today, work.done, model);
+        refuses(ReadOnly, [&](auto &) { QFile::setPermissions(data, NotWritable); });
+        const QString wrong = difference({}, today, work.done);
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong));
     }
 
@@ -409,8 +406,6 @@ private slots:
                 bytes.replace(at * PageSize, PageSize, QByteArray(PageSize, '\0'));
             });
         }
-        for (const int size : {0, 1})
-            refuses(Unreadable, [&](QByteArray &bytes) { bytes.truncate(size); });
         for (const auto &sql : {u"PRAGMA application_id = 1;"_s, u"DROP TABLE tblNumLog;"_s}) {
             refuses(Unreadable, [&](QByteArray &bytes) {
                 runStockTool(book(), u"639417"_s, sql);
@@ -418,12 +413,10 @@ private slots:
             });
         }
         refuses(ReadOnly, [](auto &) { QFile::setPermissions(book(), QFile::ReadOwner); });
-#ifndef Q_OS_WIN
-        refuses(ReadOnly,
-                [](auto &) { QFile::setPermissions(programFile(u"data"_s), NotWritable); });
-#endif
         refuses(Shut, [](auto &) { QFile::remove(book()) && QDir().mkdir(book()); });
         write(book() + u"-wal"_s, "of a book that was moved away");
+        for (const int size : {0, 1})
+            refuses(Unreadable, [&](QByteArray &bytes) { bytes.truncate(size); });
         refuses(Shut, [](auto &) { QFile::remove(book()); });
         QCOMPARE(Files().wal, "of a book that was moved away");
         QCOMPARE(endStatus(ConnectLedger), std::nullopt); // the good one
@@ -435,16 +428,15 @@ private slots:
         Day today = day("ffkc");
         std::vector<std::pair<Files, QStringList>> copies;
         std::set<QStringList> passed;
-        model::Book model;
         const auto copy = [&] { copies.emplace_back(Files(), rowsIn({})); };
         for (int session = 0; session < 3; ++session) {
             LedgerConnection = open();
             for (int step = 0; step < 4; ++step) {
                 const Step next = today.next();
                 next.perform();
-                next.perform(model, [&](bool) { passed.insert(model.rows()); });
+                next.perform(expected, [&](bool) { passed.insert(expected.rows()); });
                 copy();
-                QCOMPARE(copies.back().second, model.rows());
+                QCOMPARE(copies.back().second, expected.rows());
             }
             CloseLedger();
             const QByteArray ledger = bytesOf(book());
@@ -482,7 +474,7 @@ private slots:
         QSKIP("the memory in use is known only to glibc");
 #else
         const auto window = startProgram();
-        // SQLite's cache of pages and Qt's of pixmaps grow up to a bound, which is no leak.
+        // These grow up to a bound, which is no leak.
         QPixmapCache::setCacheLimit(0);
         LedgerConnection->run(u"PRAGMA cache_size = 100"_s);
         LedgerConnection->run(
@@ -505,10 +497,13 @@ private slots:
             memory.push_back(qint64(mallinfo2().uordblks + mallinfo2().hblkhd));
         }
         const auto third = tickets / 3;
-        const qint64 first = *std::min_element(memory.begin() + third, memory.end() - third);
-        const qint64 last = *std::min_element(memory.end() - third, memory.end());
-        qInfo("%d tickets, %d bytes more for each", tickets, int(last - first) / third);
-        QVERIFY((last - first) / third < 130);
+        const auto median = [third](auto begin) {
+            std::sort(begin, begin + third);
+            return begin[third / 2];
+        };
+        const qint64 grown = median(memory.end() - third) - median(memory.begin() + third);
+        qInfo("%d tickets, %d bytes more for each", tickets, int(grown) / third);
+        QVERIFY(grown < 40'000 + 50 * third); // some blocks are taken once, at any time
 #endif
     }
 };
