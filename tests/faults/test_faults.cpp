@@ -251,9 +251,8 @@ class FaultsTest : public QObject
         bytes = bytesOf(book());
         const BoxScript script;
         withPlainRights([&] { QCOMPARE(endStatus(ConnectLedger), 1); });
-        const QStringList boxes = (Refused + words.split(u'|').join(u'|' + Refused)).split(u'|');
-        QVERIFY2(boxes.contains(script.texts().join(u'\n')),
-                 qPrintable(script.texts().join(u'\n')));
+        const QString box = script.texts().join(u'\n');
+        QVERIFY2(words.split(u'|').contains(QString(box).remove(Refused)), qPrintable(box));
         QCOMPARE(QDir(data.filePath()).entryList(), names);
         QCOMPARE(bytesOf(book()), bytes);
         for (const QString &path : {data.filePath(), book()})
