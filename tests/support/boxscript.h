@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// Answers the program's boxes from a list, in place of real windows, and keeps what they said.
+// Answers the program's boxes from a list instead of showing windows, and keeps them.
 #pragma once
 
 #include "desktop/msgbox.h"
@@ -7,16 +7,18 @@
 #include <QList>
 #include <QStringList>
 
-#include <utility>
-
-/// Shows boxes for as long as it lives. A question takes the next prepared answer; one that no
-/// answer was prepared for is answered Cancel, so that nothing unforeseen is ever agreed to.
+/// Answers boxes as long as it lives. A question gets the next prepared answer, or Cancel if none is
+/// left, so that nothing unexpected is ever accepted.
 class BoxScript
 {
 public:
     explicit BoxScript(QList<BoxAnswer> answers = {})
-        : m_answers(std::move(answers)),
-          m_before(setBoxShower([this](const Box &box) { return answer(box); }))
+        : m_before(setBoxShower([this, answers](const Box &box) mutable {
+              m_boxes += box;
+              if (box.style.buttons == BoxButtons::Ok)
+                  return BoxAnswer::Ok;
+              return answers.isEmpty() ? BoxAnswer::Cancel : answers.takeFirst();
+          }))
     {}
     ~BoxScript() { setBoxShower(m_before); }
     Q_DISABLE_COPY_MOVE(BoxScript)
@@ -32,15 +34,6 @@ public:
     }
 
 private:
-    BoxAnswer answer(const Box &box)
-    {
-        m_boxes += box;
-        if (box.style.buttons == BoxButtons::Ok)
-            return BoxAnswer::Ok;
-        return m_answers.isEmpty() ? BoxAnswer::Cancel : m_answers.takeFirst();
-    }
-
-    QList<BoxAnswer> m_answers;
     QList<Box> m_boxes;
     BoxShower m_before;
 };

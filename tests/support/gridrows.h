@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: MIT
-// A grid as a test reads it.
+// The rows of a grid as texts.
 #pragma once
 
 #include "widgets/spreadmodel.h"
 
 #include <QStringList>
 
-/// All rows, their cells in @p columns parted by "|", " hot" behind a row coloured in @p colored.
+/// Returns the cells of @p columns of all rows, joined by "|", with " hot" after a row that is
+/// coloured in the column @p colored.
 inline QStringList rowsOf(const SpreadModel &grid, const QList<int> &columns, int colored = 0)
 {
     QStringList rows;
@@ -14,9 +15,7 @@ inline QStringList rowsOf(const SpreadModel &grid, const QList<int> &columns, in
         QStringList cells;
         for (const int column : columns)
             cells += grid.text(row, column);
-        rows += cells.join(u'|');
-        if (grid.color(row, colored).isValid())
-            rows.last() += QStringLiteral(" hot");
+        rows += cells.join(u'|') + QLatin1String(grid.color(row, colored).isValid() ? " hot" : "");
     }
     return rows;
 }

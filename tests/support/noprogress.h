@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// A progress bar that nobody sees.
+// A progress bar that shows nothing.
 #pragma once
 
 #include "widgets/progressbar.h"

@@ -1,42 +1,27 @@
 // SPDX-License-Identifier: MIT
 #include "support/otherreaders.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QThread>
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-/// The name of a file for a program of this machine, which under Wine is another one.
-QString machineName(const QString &path)
-{
-#ifdef Q_OS_WIN
-    return qEnvironmentVariable("DESK_WINE_DRIVES") + u'/' + path.left(1).toLower() + path.mid(1);
-#else
-    return path;
-#endif
-}
-
-} // namespace
-
-/// Wine starts a program of the machine, but neither waits for it nor takes its output. So the
+/// Wine starts programs of the machine but neither waits for them nor reads their output, so the
 /// answer is a file.
 QStringList readByOthers(const QString &path)
 {
+    QString reader = QStringLiteral(DESK_FILE_READER);
+    QString machinePath = path;
 #ifdef Q_OS_WIN
-    const QString reader = u"Z:" DESK_FILE_READER ""_s;
-#else
-    const QString reader = u"" DESK_FILE_READER ""_s;
+    reader.prepend(u"Z:"_s);
+    machinePath =
+        qEnvironmentVariable("DESK_WINE_DRIVES") + u'/' + path.left(1).toLower() + path.mid(1);
 #endif
     QFile answer(path + u".read"_s);
-    QProcess::startDetached(reader, {machineName(path), machineName(answer.fileName())});
-    QElapsedTimer waited;
-    waited.start();
-    while (!answer.open(QIODevice::ReadOnly)) {
-        if (waited.hasExpired(30'000))
+    QProcess::startDetached(reader, {machinePath, machinePath + u".read"_s});
+    for (int tries = 0; !answer.open(QIODevice::ReadOnly); ++tries) {
+        if (tries == 6000)
             qFatal("no answer from %s", qUtf8Printable(reader));
         QThread::msleep(5);
     }

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
-// What programs that others wrote read in the files that the program writes.
+// What other programs read in the files of this one.
 #pragma once
 
 #include <QStringList>
 
-/// Contents and formats of an .xls or PDF file, as lines of readfile.py; none if it cannot be read.
+/// Returns contents and formats of an .xls or PDF file as printed by readfile.py.
 QStringList readByOthers(const QString &path);

@@ -21,11 +21,13 @@
 std::optional<int> endStatus(const Statement &statement)
 {
 #ifdef __SANITIZE_ADDRESS__
-    // What the toolkit has in hand where the process would have ended is never given back.
+    // Qt does not free what it holds where the process would have ended.
     const __lsan::ScopedDisabler noLeaks;
 #endif
-    auto before = setProgramEnder([](int status) { throw EndedProgram{status}; });
-    const auto restore = qScopeGuard([&] { setProgramEnder(before); });
+    const auto restore =
+        qScopeGuard([before = setProgramEnder([](int status) { throw EndedProgram{status}; })] {
+            setProgramEnder(before);
+        });
     try {
         statement();
     } catch (const EndedProgram &end) {
@@ -46,8 +48,8 @@ QString errorOf(const Statement &statement)
 
 void withPlainRights(const Statement &statement)
 {
-#ifdef Q_OS_WIN
-    statement(); // a read-only file is one for an administrator, too
+#ifdef Q_OS_WIN // where a read-only file is one for an administrator too
+    statement();
 #else
     __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
     std::array<__user_cap_data_struct, _LINUX_CAPABILITY_U32S_3> rights{};
@@ -55,7 +57,7 @@ void withPlainRights(const Statement &statement)
     auto plain = rights;
     plain[0].effective &= ~(1U << CAP_DAC_OVERRIDE);
     if (syscall(SYS_capset, &header, plain.data()) != 0)
-        qFatal("the process cannot put its rights aside");
+        qFatal("the capabilities cannot be reduced");
     const auto restore = qScopeGuard([&] { syscall(SYS_capset, &header, rights.data()); });
     statement();
 #endif

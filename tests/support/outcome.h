@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-// What became of a statement that may fail: the error that it raised, the end of the program.
+// How a statement ended: it returned, failed, or ended the program.
 #pragma once
 
 #include <QString>
@@ -9,18 +9,17 @@
 
 using Statement = std::function<void()>;
 
-/// Thrown where the process would have ended, so that no code behind that point runs.
+/// Thrown where the process would have ended, so that no later code runs.
 struct EndedProgram
 {
     int status;
 };
 
-/// Status with which @p statement ended the program; nothing if it came back.
+/// Returns the status with which @p statement ended the program, or nothing if it returned.
 std::optional<int> endStatus(const Statement &statement);
 
-/// Report of the run-time error that @p statement raised; "" if it came back.
+/// Returns the report of the RunTimeError that @p statement threw, or "".
 QString errorOf(const Statement &statement);
 
-/// Runs @p statement without root's right to pass over file permissions, so that a read-only
-/// file is one for root as for anybody else.
+/// Runs @p statement without root's power to ignore permissions.
 void withPlainRights(const Statement &statement);

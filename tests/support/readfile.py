@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 # SPDX-License-Identifier: MIT
 """Prints what other programs read in a sheet or PDF of the program, as text: readfile.py FILE ANSWER.
-The answer has its name once it is whole."""
+The answer gets its name when it is complete."""
 
 import os
 import re
@@ -14,20 +14,18 @@ import xlrd.compdoc
 
 
 def print_setup(path):
-    """What xlrd skips."""
-    records = xlrd.compdoc.CompDoc(open(path, "rb").read()).get_named_stream("Workbook")
+    """Reads the records that xlrd skips."""
+    stream = xlrd.compdoc.CompDoc(open(path, "rb").read()).get_named_stream("Workbook")
+    records = {}
     at = 0
-    margins = set()
-    while at + 4 <= len(records):
-        kind, size = struct.unpack_from("<HH", records, at)
-        if 0x26 <= kind <= 0x29:
-            margins.add("%.4f" % struct.unpack_from("<d", records, at + 4))
-        elif kind == 0x81:
-            fits = struct.unpack_from("<H", records, at + 4)[0] & 0x100
-        elif kind == 0xA1:
-            setup = struct.unpack_from("<6H", records, at + 4)
+    while at + 4 <= len(stream):
+        kind, size = struct.unpack_from("<HH", stream, at)
+        records[kind] = stream[at + 4 : at + 4 + size]
         at += 4 + size
+    margins = {"%.4f" % struct.unpack("<d", records[kind]) for kind in range(0x26, 0x2A)}
+    setup = struct.unpack_from("<6H", records[0xA1])
     yield f"paper {setup[0]} " + ("portrait" if setup[5] & 2 else "landscape")
+    fits = struct.unpack("<H", records[0x81])[0] & 0x100
     yield f"margins {' '.join(sorted(margins))}" + (f" fits {setup[3]}x{setup[4]}" if fits else "")
 
 
@@ -58,23 +56,21 @@ def sheet(path):
 
 
 def document(path):
-    def lines(*command):
-        return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout.decode().split("\n")
+    def output(*command):
+        return subprocess.run(command, check=True, stdout=subprocess.PIPE).stdout.decode()
 
-    for line in lines("pdfinfo", "-l", "9999", path):
-        if line.startswith("Title:") or "size:" in line and line.startswith("Page "):
+    for line in output("pdfinfo", "-l", "9999", path).split("\n"):
+        if re.match(r"Title:|Page .*size:", line):
             yield " ".join(line.split())
-    for at, page in enumerate("\n".join(lines("pdftotext", "-bbox", path, "-")).split("<page ")[1:]):
+    for at, page in enumerate(output("pdftotext", "-bbox", path, "-").split("<page ")[1:], 1):
         ends = re.findall(r'xMax="([\d.]+)" yMax="([\d.]+)"', page)
         right, low = (max(float(end[side]) for end in ends) for side in (0, 1))
-        yield f"Page {at + 1} text up to {right // 100:.0f}00,{low // 100:.0f}00"
-    for font in lines("pdffonts", path)[2:]:
+        yield f"Page {at} text up to {right // 100:.0f}00,{low // 100:.0f}00"
+    for font in output("pdffonts", path).split("\n")[2:]:
         if font and not re.search(r" yes +\w+ +\w+ +\d+ +\d+$", font):
             yield "missing font " + font
-    for at, page in enumerate("\n".join(lines("pdftotext", "-layout", path, "-")).split("\f")):
-        for line in page.split("\n"):
-            if line.strip():
-                yield f"{at + 1}: " + " ".join(line.split())
+    for at, page in enumerate(output("pdftotext", "-layout", path, "-").split("\f"), 1):
+        yield from (f"{at}: " + " ".join(line.split()) for line in page.split("\n") if line.strip())
 
 
 def read(path):

@@ -25,25 +25,16 @@ TestLedger::~TestLedger()
     setProgramFolder({});
 }
 
-QString TestLedger::path() const
-{
-    return m_folder.filePath(u"data/ztkdata.ZDB"_s);
-}
-
 QStringList TestLedger::files() const
 {
-    return QDir(m_folder.filePath(u"data"_s)).entryList(QDir::NoDotAndDotDot | QDir::AllEntries);
+    return QDir(m_folder.filePath(u"data"_s)).entryList(QDir::Files);
 }
 
 QStringList TestLedger::run(const QString &sql, const QVariantList &values) const
 {
     QStringList lines;
-    for (const QVariantList &row : LedgerConnection->run(sql, values).rows) {
-        QStringList fields;
-        for (const QVariant &field : row)
-            fields += field.toString();
-        lines += fields.join(u' ');
-    }
+    for (const QVariantList &row : LedgerConnection->run(sql, values).rows)
+        lines += QVariant(row).toStringList().join(u' ');
     return lines;
 }
 
@@ -54,13 +45,13 @@ void TestLedger::addMember(int key, const QString &name, const QString &percent)
 
 void copyProgramData(const QString &from, const QString &to)
 {
-    for (const auto &part : {u"/data/Styles"_s, u"/data/mp3"_s}) {
+    for (const auto &part : {u"/data/Styles/"_s, u"/data/mp3/"_s}) {
         QDir().mkpath(to + part);
         const QStringList files = QDir(from + part).entryList(QDir::Files);
         if (files.isEmpty())
             qFatal("nothing to copy in %s", qPrintable(from + part));
         for (const QString &file : files)
-            QFile::copy(from + part + u'/' + file, to + part + u'/' + file);
+            QFile::copy(from + part + file, to + part + file);
     }
 }
 
@@ -69,15 +60,13 @@ QString runStockTool(const QString &path, const QString &password, const QString
     QProcess tool;
     tool.setProcessChannelMode(QProcess::MergedChannels);
     tool.start(u"sqlcipher"_s, {u"-batch"_s, path});
-    // Newer versions print a word for the key; what stands above the dashes is dropped.
+    // Newer versions print a word for the key: what is above the dashes is dropped.
     if (!password.isEmpty())
-        tool.write(
-            u"PRAGMA key = '%1'; PRAGMA cipher_compatibility = 3; SELECT '---';\n"_s.arg(password)
-                .toUtf8());
+        tool.write("PRAGMA key = '" + password.toUtf8()
+                   + "'; PRAGMA cipher_compatibility = 3; SELECT '---';\n");
     tool.write(commands.toUtf8() + '\n');
     tool.closeWriteChannel();
     tool.waitForFinished();
     const QString printed = QString::fromUtf8(tool.readAll()).remove(u'\r');
-    const qsizetype dashes = printed.indexOf(u"---\n"_s);
-    return printed.sliced(dashes < 0 ? 0 : dashes + 4).trimmed();
+    return printed.section(u"---\n"_s, -1).trimmed();
 }

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: MIT
-// A Ledger of a test's own, in a temporary folder: the real, encrypted file, opened as the
-// program opens it.
+// A Ledger in a temporary program folder: the real, encrypted file, opened as by the program.
 #pragma once
 
 #include <QStringList>
 #include <QTemporaryDir>
 #include <QVariant>
 
-/// Open as LedgerConnection for as long as it lives; then closed and removed.
+/// Open as LedgerConnection until it is destroyed, which also deletes the folder.
 class TestLedger
 {
 public:
@@ -15,12 +14,12 @@ public:
     ~TestLedger();
     Q_DISABLE_COPY_MOVE(TestLedger)
 
-    QString path() const;
+    QString path() const { return m_folder.filePath(QStringLiteral("data/ztkdata.ZDB")); }
 
-    /// Names of all that lies in the Ledger's folder.
+    /// Returns the names of the files in the folder of the Ledger.
     QStringList files() const;
 
-    /// Runs a statement; gives the rows that it reads, their fields joined by blanks.
+    /// Runs a statement and returns the rows that it reads, with their fields joined by blanks.
     QStringList run(const QString &sql, const QVariantList &values = {}) const;
 
     void addMember(int key, const QString &name, const QString &percent) const;
@@ -29,9 +28,9 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Copies the look and the words of the program in folder @p from to the program folder @p to.
+/// Copies the style sheet and the sounds of the program folder @p from to the program folder @p to.
 void copyProgramData(const QString &from, const QString &to);
 
-/// Runs commands on a database file with the engine's stock tool, a reader that shares no code
-/// with the program. An empty password means a plain file. Gives what it printed, errors included.
+/// Runs commands on a database file with SQLCipher's shell, which shares no code with the program.
+/// Without a password the file is a plain one. Returns what it prints, errors included.
 QString runStockTool(const QString &path, const QString &password, const QString &commands);
