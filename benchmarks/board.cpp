@@ -1,29 +1,21 @@
 // SPDX-License-Identifier: MIT
 // Measures the board: its reload and its filter against their bare statements, and a cut together
 // with the reload after it.
-#include "barefile.h"
-#include "drawlines.h"
+#include "book.h"
 #include "figure.h"
-#include "workfolder.h"
 
 #include "cutting/form3.h"
 #include "desktop/msgbox.h"
-#include "program.h"
 #include "widgets/combo.h"
 #include "widgets/spread.h"
 
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QTest>
 #include <QTimer>
-
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int HotCount = 50;
 
 const QString Buyer = u"ลูกค้า 7"_s;
 
@@ -44,24 +36,8 @@ class BoardDesk
 {
 public:
     explicit BoardDesk(int lines)
-    {
-        ConnectLedger();
-        for (int key = 1; key <= CustomerCount; ++key)
-            m_folder.addMember(key, u"ลูกค้า %1"_s.arg(key), u"10"_s);
-        for (int key = 1; key <= HotCount; ++key)
-            m_folder.run(u"INSERT INTO tblNumberFix VALUES (?, ?)"_s,
-                         {key, QString::number(1000 + key * 137 % 1000).right(key % 2 + 2)});
-        CloseLedger();
-        insertBare(m_folder.path().toUtf8(), drawLines(lines), Durable::AllAtOnce);
-        const QString copy = m_folder.path() + u".copy"_s;
-        QFile::copy(m_folder.path(), copy);
-        m_bare.emplace(copy.toUtf8());
-        m_window = startProgram();
-        if (!m_window || !QTest::qWaitForWindowActive(m_window.get()))
-            qFatal("the program did not start");
-        m_window->openPage(2);
-        QApplication::processEvents();
-    }
+        : m_folder(drawLines(lines)), m_bare(m_folder.copy()), m_window(openProgram(2))
+    {}
     ~BoardDesk()
     {
         m_window.reset();
@@ -124,7 +100,7 @@ public:
     }
 
     /// Returns the seconds that the statements of a reload take on a copy of the file.
-    double bareReload() { return m_bare->read(boards({})); }
+    double bareReload() { return m_bare.read(boards({})); }
 
     /// Returns the seconds that the statements of a filter take on the copy. Then reads the whole
     /// book, as the page does after its filter, so that both sides start with the same cache.
@@ -134,8 +110,8 @@ public:
         statements.push_back(
             {"SELECT tblMember.* FROM tblMember WHERE [Mname] LIKE ? ORDER BY MPK LIMIT 1",
              {u'%' + Buyer + u'%'}});
-        const double taken = m_bare->read(statements);
-        m_bare->read(boards({}));
+        const double taken = m_bare.read(statements);
+        m_bare.read(boards({}));
         return taken;
     }
 
@@ -157,7 +133,7 @@ private:
     Form3 &form() { return *m_window->findChild<Form3 *>(); }
 
     WorkFolder m_folder;
-    std::optional<BareReader> m_bare;
+    BareReader m_bare;
     std::unique_ptr<MDIForm1> m_window;
 };
 

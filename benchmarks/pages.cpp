@@ -1,29 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Measures the voice of the entry page and the list of customers.
+#include "book.h"
 #include "figure.h"
 #include "paintwatch.h"
-#include "workfolder.h"
-
-#include "program.h"
 
 #include <QCheckBox>
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QTest>
 #include <QWindow>
 
 namespace {
-
-std::unique_ptr<MDIForm1> openProgram(int page)
-{
-    auto window = startProgram();
-    if (!window || !QTest::qWaitForWindowActive(window.get()))
-        qFatal("the program did not start");
-    if (page != 0)
-        window->openPage(page);
-    QApplication::processEvents();
-    return window;
-}
 
 /// Splits the samples into hundreds and returns the median of their 99th percentiles, so that one
 /// hundred disturbed by other work on the machine does not count.

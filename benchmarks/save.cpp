@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: MIT
 // Measures a save against the same durable inserts through SQLite's C interface, and in a big
 // Ledger against a small one.
-#include "drawlines.h"
+#include "book.h"
 #include "figure.h"
 
 #include "entry/save.h"
-#include "ledger/ledger.h"
-#include "support/testledger.h"
 #include "widgets/workprogress.h"
 
 #include <QElapsedTimer>
@@ -43,15 +41,11 @@ struct ThousandRows : Ticket
 
 /// A Ledger with customers and @p count lines. It keeps its own connection, so that several can be
 /// open.
-class FilledLedger : public TestLedger
+class FilledLedger : public WorkFolder
 {
 public:
-    explicit FilledLedger(int count) : m_count(count)
+    explicit FilledLedger(int count) : WorkFolder(drawLines(count)), m_count(count)
     {
-        for (int customer = 1; customer <= CustomerCount; ++customer)
-            addMember(customer, u"ลูกค้า %1"_s.arg(customer), u"10"_s);
-        CloseLedger();
-        insertBare(path().toUtf8(), drawLines(count), Durable::AllAtOnce);
         ConnectLedger();
         m_connection = std::move(LedgerConnection);
     }

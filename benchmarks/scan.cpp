@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: MIT
 // Measures the top scan on a full book, with bets on every number on top.
-#include "barefile.h"
+#include "book.h"
 #include "figure.h"
-#include "workfolder.h"
 
 #include "cutting/board.h"
 #include "risk/vikoc.h"
 #include "widgets/spread.h"
 
 #include <QElapsedTimer>
-#include <QTest>
 
 #include <span>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -60,15 +56,9 @@ std::vector<BetLine> fullBook()
 
 Measured measureScan(benchmark::State &state)
 {
-    const WorkFolder folder;
-    insertBare(folder.path().toUtf8(), fullBook(), Durable::AllAtOnce);
-    const QString copy = folder.path() + u".copy"_s;
-    QFile::copy(folder.path(), copy);
-    BareReader bareCopy(copy.toUtf8());
+    const WorkFolder folder(fullBook());
+    BareReader bareCopy(folder.copy());
     ConnectLedger();
-    for (int hot = 0; hot < 50; ++hot)
-        folder.run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s,
-                   {QString::number(1000 + hot * 137).right(hot % 2 + 2)});
     const Board board;
     ViKoC scan(board, {}, nullptr);
     scan.show();

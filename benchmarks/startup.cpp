@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 // Measures the time from the start of a process to its first painted window, and its idle memory.
+#include "book.h"
 #include "figure.h"
-#include "workfolder.h"
 
 #include <QDir>
-#include <QFile>
 #include <QProcess>
 
 #include <chrono>

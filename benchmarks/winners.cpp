@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: MIT
 // Measures a draw check against its bare statements, and the time from the click on the check
 // button to thousands of painted winners.
-#include "barefile.h"
+#include "book.h"
 #include "figure.h"
 #include "paintwatch.h"
-#include "workfolder.h"
 
 #include "drawcheck/form4.h"
-#include "program.h"
 #include "shell/globals.h"
 #include "widgets/spread.h"
 #include "widgets/workprogress.h"
@@ -15,16 +13,11 @@
 #include <QAbstractButton>
 #include <QElapsedTimer>
 #include <QLineEdit>
-#include <QTest>
-
-#include <random>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int CustomerCount = 300;
-constexpr int HotCount = 50;
 constexpr int WinnerCount = 5000;
 const QString Result = u"12345678901234567"_s;
 
@@ -35,44 +28,6 @@ ResultDigits resultDigits()
         digits[size_t(at)] = Result.mid(at, 1);
     return digits;
 }
-
-/// Returns random lines: some 5,000 winning rows in a million lines.
-std::vector<BetLine> mixedLines(int count)
-{
-    std::mt19937 generator(20261122);
-    std::vector<BetLine> lines;
-    lines.reserve(size_t(count));
-    for (size_t at = 0; at < size_t(count); ++at) {
-        const BetClass &betClass = BetClasses[at % ClassCount];
-        lines.push_back(
-            {&betClass, 1 + int(generator() % CustomerCount),
-             QByteArray::number(1000 + uint(generator() % 1000)).right(betClass.num23)});
-    }
-    return lines;
-}
-
-void addCustomers(const TestLedger &ledger, int count)
-{
-    ledger.run(u"WITH RECURSIVE n(k) AS (SELECT 1 UNION ALL SELECT k + 1 FROM n WHERE k < ?)"
-               " INSERT INTO tblMember SELECT k, 'สม' || (k * 7919 % 1000) || 'ใจดี', 8 || k, 10"
-               " FROM n"_s,
-               {count});
-}
-
-/// A closed Ledger with @p lines lines and fifty hot numbers.
-class BigBook : public TestLedger
-{
-public:
-    explicit BigBook(int lines)
-    {
-        addCustomers(*this, CustomerCount);
-        for (int hot = 0; hot < HotCount; ++hot)
-            run(u"INSERT INTO tblNumberFix (Fnumber) VALUES (?)"_s,
-                {QString::number(100 + hot * 17)});
-        CloseLedger();
-        insertBare(path().toUtf8(), mixedLines(lines), Durable::AllAtOnce);
-    }
-};
 
 /// Reads rates and discounts, then checks a draw. Returns the seconds of the check alone, from the
 /// sum of the book to the stored result.
@@ -96,7 +51,7 @@ double checkDraw(int &winners)
 
 Measured measureWinnerSearch(benchmark::State &state, int lines)
 {
-    const BigBook book(lines);
+    const WorkFolder book(drawLines(lines));
     const BoundStatement search = winnerSearch(Book::Ours, resultDigits());
     const BareStatements statements{{"SELECT sum(numBuy) FROM tblNumber", {}},
                                     {search.sql.toUtf8(), search.values}};
@@ -118,7 +73,10 @@ Measured measureWinnersShown(benchmark::State &state)
 {
     const WorkFolder folder;
     ConnectLedger();
-    addCustomers(folder, WinnerCount / 10);
+    folder.run(u"WITH RECURSIVE n(k) AS (SELECT 1 UNION ALL SELECT k + 1 FROM n WHERE k < ?)"
+               " INSERT INTO tblMember SELECT k, 'สม' || (k * 7919 % 1000) || 'ใจดี', 8 || k, 10"
+               " FROM n"_s,
+               {WinnerCount / 10});
     folder.run(u"WITH RECURSIVE n(k) AS (SELECT 0 UNION ALL SELECT k + 1 FROM n WHERE k < ? - 1)"
                " INSERT INTO tblNumber (NameFK, num23, updown, numType, numValue, numBuy)"
                " SELECT 1 + k / 10, w.num23, w.updown, w.numType, w.numValue, 20 FROM n JOIN"
@@ -128,10 +86,7 @@ Measured measureWinnersShown(benchmark::State &state)
                "  (8, 1, 0, 3, '6'), (9, 1, 0, 3, '7')) AS w ON w.i = k % 10"_s,
                {WinnerCount});
     CloseLedger();
-    const auto window = startProgram();
-    if (!window || !QTest::qWaitForWindowActive(window.get()))
-        qFatal("the program did not start");
-    window->openPage(3);
+    const auto window = openProgram(3);
     auto *grid = window->findChild<Spread *>(u"fpSpread1"_s);
     auto *button = window->findChild<QAbstractButton *>(u"Command18"_s);
     QTest::keyClicks(window->findChild<QLineEdit *>(u"text4"_s), Result.first(1));
