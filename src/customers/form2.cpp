@@ -3,6 +3,7 @@
 
 #include "ui_form2.h"
 
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
 #include "runtime/values.h"
@@ -45,14 +46,14 @@ void Form2::connectControls()
                    {{.field = m_ui->Tber, .longest = 10, .enterFocuses = m_ui->Tpercen},
                     {.field = m_ui->Tpercen, .longest = 2, .enterFocuses = m_ui->Tname}});
     connect(m_ui->fpSpread1, &Spread::rowPicked, this, &Form2::fpSpread1_RowPicked);
-    connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Form2::lvButtons_H0_Click);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form2::lvButtons_H1_Click);
-    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Form2::lvButtons_H3_Click);
-    connect(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Form2::lvButtons_H4_Click);
-    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form2::lvButtons_H5_Click);
-    connect(m_ui->cDel, &QPushButton::clicked, this, &Form2::cDel_Click);
+    connectHandler(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Form2::lvButtons_H0_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form2::lvButtons_H1_Click);
+    connectHandler(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Form2::lvButtons_H3_Click);
+    connectHandler(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Form2::lvButtons_H4_Click);
+    connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form2::lvButtons_H5_Click);
+    connectHandler(m_ui->cDel, &QPushButton::clicked, this, &Form2::cDel_Click);
     connect(m_ui->Tname, &QLineEdit::returnPressed, m_ui->Tber, qOverload<>(&QWidget::setFocus));
-    connect(m_ui->text1, &QLineEdit::returnPressed, this, &Form2::lvButtons_H5_Click);
+    connectHandler(m_ui->text1, &QLineEdit::returnPressed, this, &Form2::lvButtons_H5_Click);
     connect(m_ui->Tname, &QLineEdit::textEdited, this, &Form2::tidyName);
 }
 
@@ -85,9 +86,9 @@ void Form2::showEvent(QShowEvent *event)
 void Form2::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_F5)
-        lvButtons_H4_Click();
+        handle([this] { lvButtons_H4_Click(); });
     else if (event->key() == Qt::Key_Delete && !qobject_cast<QLineEdit *>(focusWidget()))
-        cDel_Click();
+        handle([this] { cDel_Click(); });
     else
         QWidget::keyPressEvent(event);
 }

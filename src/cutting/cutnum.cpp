@@ -4,6 +4,7 @@
 #include "ui_cutnum.h"
 
 #include "desktop/dialogplace.h"
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
 #include "runtime/values.h"
@@ -27,8 +28,8 @@ CutNum::CutNum(std::function<void()> unload, QWidget *parent)
     new FieldGuard(this, &m_focus,
                    {{.field = m_ui->text1, .longest = 5, .enterClicks = m_ui->lvButtons_H3}});
     connect(m_ui->fpSpread1, &Spread::rowClicked, this, &CutNum::fpSpread1_Click);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &CutNum::lvButtons_H1_Click);
-    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &CutNum::lvButtons_H3_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &CutNum::lvButtons_H1_Click);
+    connectHandler(m_ui->lvButtons_H3, &QPushButton::clicked, this, &CutNum::lvButtons_H3_Click);
     placeDialog(*this);
     LoadNumrunup();
     m_ui->fpSpread1->setFocus();
@@ -40,7 +41,7 @@ CutNum::~CutNum() = default;
 void CutNum::done(int result)
 {
     if (const auto unload = std::exchange(m_unload, {}))
-        unload();
+        handle(unload);
     QDialog::done(result);
 }
 

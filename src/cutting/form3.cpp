@@ -7,6 +7,7 @@
 #include "cutting/numcut.h"
 #include "cutting/selection.h"
 #include "desktop/dialogplace.h"
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "entry/namecombo.h"
 #include "entry/save.h"
@@ -61,16 +62,18 @@ void Form3::connectControls()
     new FieldGuard(this, &m_focus,
                    {{.field = m_ui->text1, .longest = 3, .enterClicks = m_ui->lvButtons_H3}});
     for (int at = 0; at < ClassCount; ++at)
-        connect(m_spreads[at], &Spread::rowOpened, this, [this, at] { fpSpread_DblClick(at); });
+        connectHandler(m_spreads[at], &Spread::rowOpened, this,
+                       [this, at] { fpSpread_DblClick(at); });
     m_ui->Combo1->keyPress = [this](int code) { return Combo1_KeyPress(code); };
     connect(m_ui->SSTab1, &TabStrip::clicked, this, &Form3::SSTab1_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, [this] { showBar(false); });
     connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, [this] { showBar(true); });
     connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Form3::lvButtons_H3_Click);
-    connect(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Form3::lvButtons_H4_Click);
-    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form3::lvButtons_H5_Click);
-    connect(m_ui->lvButtons_H6, &QPushButton::clicked, this, [this] { m_openers.showScan(*this); });
-    connect(m_ui->lvButtons_H7, &QPushButton::clicked, this, &Form3::lvButtons_H7_Click);
+    connectHandler(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Form3::lvButtons_H4_Click);
+    connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form3::lvButtons_H5_Click);
+    connectHandler(m_ui->lvButtons_H6, &QPushButton::clicked, this,
+                   [this] { m_openers.showScan(*this); });
+    connectHandler(m_ui->lvButtons_H7, &QPushButton::clicked, this, &Form3::lvButtons_H7_Click);
     auto *reload = new QShortcut(Qt::Key_F5, this);
     reload->setContext(Qt::WindowShortcut); // the customer strip is outside the page
     reload->setAutoRepeat(false);

@@ -4,6 +4,7 @@
 #include "ui_numcut.h"
 
 #include "desktop/dialogplace.h"
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
 #include "widgets/searchicon.h"
@@ -25,7 +26,7 @@ Numcut::Numcut(std::function<void(Numcut &)> print, QWidget *parent)
                    {{.field = m_ui->text1, .longest = 3, .enterClicks = m_ui->lvButtons_H3}});
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &QDialog::reject);
     connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Numcut::lvButtons_H3_Click);
-    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Numcut::lvButtons_H5_Click);
+    connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Numcut::lvButtons_H5_Click);
     Form_Load();
 }
 

@@ -2,7 +2,6 @@
 #include "desktop/application.h"
 
 #include "desktop/boxwindow.h"
-#include "desktop/programend.h"
 #include "desktop/programfolder.h"
 #include "desktop/savedialog.h"
 
@@ -49,13 +48,4 @@ Application::Application(int &argc, char **argv) : QApplication(withFusionStyle(
 #endif
     setBoxShower(showMessageBox);
     setSaveDialog(showSaveDialog);
-}
-
-bool Application::notify(QObject *receiver, QEvent *event)
-{
-    try {
-        return QApplication::notify(receiver, event);
-    } catch (const RunTimeError &error) {
-        endWithReport(error);
-    }
 }

@@ -30,21 +30,10 @@ void FocusTracker::focusMoved(QWidget *, QWidget *to)
 {
     if (!to || to == m_current || isTransient(to->window()))
         return;
-    // The focus may also change outside of Application::notify(). Sending an event makes sure that
-    // the handlers run inside it, where their run-time errors are caught.
-    m_left = std::exchange(m_current, to);
-    QEvent moved(QEvent::User);
-    QCoreApplication::sendEvent(this, &moved);
-}
-
-bool FocusTracker::event(QEvent *event)
-{
-    if (event->type() != QEvent::User)
-        return QObject::event(event);
-    const QPointer<QWidget> to = m_current;
-    if (m_left)
-        emit lostFocus(m_left);
-    if (to)
-        emit gotFocus(to);
-    return true;
+    const QPointer<QWidget> left = std::exchange(m_current, to);
+    const QPointer<QWidget> reached = to; // a slot may delete either
+    if (left)
+        emit lostFocus(left);
+    if (reached)
+        emit gotFocus(reached);
 }

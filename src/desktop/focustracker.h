@@ -19,12 +19,8 @@ signals:
     void lostFocus(QWidget *control);
     void gotFocus(QWidget *control);
 
-protected:
-    bool event(QEvent *event) override;
-
 private:
     void focusMoved(QWidget *from, QWidget *to);
 
     QPointer<QWidget> m_current; ///< has the focus, also while a box or another program is in front
-    QPointer<QWidget> m_left;    ///< lost it last
 };

@@ -4,6 +4,7 @@
 #include "ui_form4.h"
 
 #include "desktop/background.h"
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "entry/hotnumbers.h"
 #include "runtime/values.h"
@@ -63,9 +64,9 @@ void Form4::connectControls()
         if (selected)
             Option_Click(Book::CutOut);
     });
-    connect(m_ui->Command18, &QPushButton::clicked, this, &Form4::Command18_Click);
+    connectHandler(m_ui->Command18, &QPushButton::clicked, this, &Form4::Command18_Click);
     connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form4::lvButtons_H1_Click);
-    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form4::lvButtons_H5_Click);
+    connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form4::lvButtons_H5_Click);
 }
 
 /// Each digit moves the focus to the next box, so that all seventeen can be typed in one go. Enter

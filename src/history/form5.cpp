@@ -3,6 +3,7 @@
 
 #include "ui_form5.h"
 
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "history/drawlog.h"
 #include "runtime/values.h"
@@ -18,7 +19,7 @@ Form5::Form5(ProgressBar &progress, QWidget *parent)
     m_ui->fpSpread1->setSpreadModel(&m_draws);
     m_ui->fpSpread1->setRowPoints(19);
     setFocusProxy(m_ui->fpSpread1);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form5::lvButtons_H1_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form5::lvButtons_H1_Click);
     Form_Load();
 }
 

@@ -5,6 +5,7 @@
 
 #include "cutting/selection.h"
 #include "desktop/dialogplace.h"
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "risk/coverage.h"
 #include "risk/number.h"
@@ -40,11 +41,11 @@ ViKoC::~ViKoC()
 
 void ViKoC::connectControls()
 {
-    connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &ViKoC::lvButtons_H0_Click);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &ViKoC::lvButtons_H1_Click);
+    connectHandler(m_ui->lvButtons_H0, &QPushButton::clicked, this, &ViKoC::lvButtons_H0_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &ViKoC::lvButtons_H1_Click);
     const auto *buttons =
         new SpreadButtons(m_ui->fpSpread1, {ScanColumn::Inspect, ScanColumn::Cut});
-    connect(buttons, &SpreadButtons::pressed, this, &ViKoC::fpSpread1_ButtonClicked);
+    connectHandler(buttons, &SpreadButtons::pressed, this, &ViKoC::fpSpread1_ButtonClicked);
 }
 
 /// "วิเคราะห์เลขบน": scans the numbers on top.

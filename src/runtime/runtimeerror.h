@@ -51,7 +51,8 @@ public:
 
 /// Runs one statement of a handler that resumes at the next statement after an error. Returns false
 /// if it threw a RunTimeError; a FatalError is passed on. Wrap each statement separately, since an
-/// error skips the rest of @p statement.
+/// error skips the rest of @p statement. Does not catch an error in a slot that @p statement causes to
+/// run: that ends the program.
 template<typename Statement>
 bool resumeNext(Statement &&statement)
 {

@@ -4,6 +4,7 @@
 #include "ui_setting.h"
 
 #include "desktop/dialogplace.h"
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "fields/fieldguard.h"
 #include "runtime/values.h"
@@ -40,12 +41,12 @@ void Setting::connectControls()
                   .longest = 4,
                   .enterFocuses = at + 1 < m_rates.size() ? m_rates[at + 1] : nullptr};
     new FieldGuard(this, &m_focus, rules);
-    connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Setting::lvButtons_H0_Click);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Setting::lvButtons_H1_Click);
-    connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Setting::lvButtons_H2_Click);
-    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Setting::lvButtons_H3_Click);
-    connect(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Setting::lvButtons_H4_Click);
-    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Setting::lvButtons_H5_Click);
+    connectHandler(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Setting::lvButtons_H0_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Setting::lvButtons_H1_Click);
+    connectHandler(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Setting::lvButtons_H2_Click);
+    connectHandler(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Setting::lvButtons_H3_Click);
+    connectHandler(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Setting::lvButtons_H4_Click);
+    connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Setting::lvButtons_H5_Click);
 }
 
 void Setting::Form_Load()

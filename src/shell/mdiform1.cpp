@@ -4,6 +4,7 @@
 #include "ui_mdiform1.h"
 
 #include "desktop/dialogplace.h"
+#include "desktop/handler.h"
 #include "desktop/msgbox.h"
 #include "desktop/programend.h"
 #include "desktop/programfolder.h"
@@ -69,7 +70,7 @@ MDIForm1::MDIForm1(Pages pages) : m_ui(std::make_unique<Ui::MDIForm1>()), m_page
         std::make_unique<CustomerStrip>(*m_ui->Frame6, *m_ui->Tname, *m_ui->text2, *m_ui->text3);
     connectNavigation();
     m_strip->hide();
-    connect(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::endSession);
+    connectHandler(qApp, &QGuiApplication::commitDataRequest, this, &MDIForm1::endSession);
 }
 
 MDIForm1::~MDIForm1()
@@ -96,8 +97,9 @@ bool MDIForm1::MDIForm_Load()
 void MDIForm1::connectNavigation()
 {
     for (int page = 0; page < PageCount; ++page)
-        connect(m_pageButtons[page], &QPushButton::clicked, this, [this, page] { openPage(page); });
-    connect(m_ui->lvButtons_H5, &QPushButton::clicked, this, [this] {
+        connectHandler(m_pageButtons[page], &QPushButton::clicked, this,
+                       [this, page] { openPage(page); });
+    connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, [this] {
         m_pages.showSettings({*m_ui->pb1, *m_strip}, this);
         if (m_page)
             m_page->setFocus(); // so that typing can go on at once
@@ -120,7 +122,7 @@ void MDIForm1::openPage(int page)
 
 void MDIForm1::closeEvent(QCloseEvent *event)
 {
-    event->setAccepted(MDIForm_QueryUnload());
+    event->setAccepted(handle([this] { return MDIForm_QueryUnload(); }));
 }
 
 /// Asks before the desktop logs off or shuts down, while Cancel can still stop it.
