@@ -178,7 +178,13 @@ void Database::configure()
 ResultRows Database::run(const QString &sql, const QVariantList &values)
 {
     sqlite3_stmt *statement = prepare(sql);
-    const auto reset = qScopeGuard([statement] { sqlite3_reset(statement); });
+    // SQLite would use NULL for a missing value.
+    if (sqlite3_bind_parameter_count(statement) != values.size())
+        raiseDatabaseFailure(u"wrong number of values for: "_s + sql);
+    const auto reset = qScopeGuard([statement] {
+        sqlite3_reset(statement);
+        sqlite3_clear_bindings(statement); // the next call must not find these values
+    });
     for (int place = 0; place < values.size(); ++place)
         check(bindValue(statement, place + 1, values[place]));
 

@@ -59,8 +59,9 @@ public:
     /// when they return and deleted rows that are overwritten.
     void configure();
 
-    /// Runs a statement with @p values bound to its placeholders and returns the rows it reads. The
-    /// prepared statement is kept for the next call.
+    /// Runs a statement with @p values bound to its placeholders and returns the rows it reads. Throws
+    /// if there is not one value for each placeholder. The prepared statement is kept for the next
+    /// call, the values are not.
     ResultRows run(const QString &sql, const QVariantList &values = {});
 
     /// Returns true if a statement does not write to the file.

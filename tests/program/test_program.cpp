@@ -208,6 +208,16 @@ private slots:
         QVERIFY(!errorOf([&] { ledger.run(u"SELECT 1; DELETE FROM tblMember"_s); }).isEmpty());
     }
 
+    void valuesAreNotKeptForTheNextCall()
+    {
+        const TestLedger ledger;
+        const QString statement = u"DELETE FROM tblMember WHERE MPK = ? AND Mname = ?"_s;
+        ledger.run(statement, {1, u"-"_s});
+        for (const QVariantList &values : {QVariantList{}, {0}, {0, u"-"_s, 0}})
+            QVERIFY(!errorOf([&] { ledger.run(statement, values); }).isEmpty());
+        QCOMPARE(ledger.run(u"SELECT Mname FROM tblMember"_s), QStringList(u"-"_s));
+    }
+
     /// As by a program that synchronizes folders. It is noticed by the next write or at the end.
     void replacedLedgerIsRescued()
     {
