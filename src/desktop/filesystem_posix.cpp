@@ -27,6 +27,21 @@ bool mayBeWritten(const QByteArray &path)
     return faccessat(AT_FDCWD, path.constData(), W_OK, AT_EACCESS) == 0;
 }
 
+bool createPrivate(QFile &file)
+{
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly,
+                     QFile::ReadOwner | QFile::WriteOwner);
+}
+
+void makePrivate(const QByteArray &path)
+{
+    // By its path: closing a descriptor of the file would drop SQLite's locks.
+    struct stat found = {};
+    if (stat(path.constData(), &found) == 0 && found.st_uid == geteuid()
+        && (found.st_mode & (S_IRWXG | S_IRWXO)) != 0)
+        chmod(path.constData(), found.st_mode & (S_IRUSR | S_IWUSR));
+}
+
 void syncFolder(const QByteArray &folder)
 {
     const int opened = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);

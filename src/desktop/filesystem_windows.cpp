@@ -91,4 +91,11 @@ bool mayBeWritten(const QByteArray &path)
     return !file.isFile() || file.isWritable();
 }
 
+bool createPrivate(QFile &file)
+{
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+}
+
+void makePrivate(const QByteArray &) {}
+
 void syncFolder(const QByteArray &) {}

@@ -103,7 +103,6 @@ struct Connection::Place
     {
         file = fileIdAt(encodedPath).value_or(FileId{});
         wal = fileIdAt(encodedWal).value_or(FileId{});
-        permissions = QFile::permissions(realPath);
     }
 
     QString path;
@@ -114,7 +113,6 @@ struct Connection::Place
     QByteArray folder;
     FileId file; ///< zeros if unknown or in a Connection of create(): not checked
     FileId wal;
-    QFile::Permissions permissions;
 };
 
 Connection::Connection(std::unique_ptr<Place> place, Database::Access access)
@@ -147,6 +145,8 @@ std::unique_ptr<Connection> Connection::open(const QString &path, const QByteArr
             raiseDatabaseFailure(Refusal::ReadOnly);
         if (!isLedger(file))
             raiseDatabaseFailure(Refusal::NotALedger);
+        makePrivate(QFile::encodeName(real));
+        makePrivate(QFile::encodeName(walOf(real)));
         auto wal = std::make_unique<WalKeeper>(file, left, password);
         refuseDamaged(file, *wal, real, walExists, left.hasPages);
         ledger->m_wal = std::move(wal);
@@ -165,8 +165,12 @@ std::unique_ptr<Connection> Connection::create(const QString &path, const QByteA
         raiseDatabaseFailure(u"file exists: "_s + path);
     if (QFile::exists(walOf(path))) // SQLite would delete it, with bets of a file that was moved
         raiseDatabaseFailure(u"WAL of a missing file exists: "_s + path);
+    QFile file(path);
+    if (!createPrivate(file)) // SQLite would create it for all users to read
+        raiseDatabaseFailure(Refusal::CannotOpen);
+    file.close();
     std::unique_ptr<Connection> fresh(
-        new Connection(std::make_unique<Place>(path, password), Database::Access::Create));
+        new Connection(std::make_unique<Place>(path, password), Database::Access::Write));
     fresh->m_database.setKey(password);
     fresh->m_database.configure();
     return fresh;
@@ -231,8 +235,7 @@ void Connection::requireOwnFile()
     const QString name = QFileInfo(m_place->path).fileName();
     QString message = u"ไฟล์ %1 ถูกลบหรือถูกแทนที่ขณะโปรแกรมเปิดอยู่ "_s.arg(name);
     try {
-        message += u"ข้อมูลทั้งหมดเก็บไว้ในไฟล์ "_s
-                   + rescue(m_database, m_place->path, m_place->password, m_place->permissions);
+        message += u"ข้อมูลทั้งหมดเก็บไว้ในไฟล์ "_s + rescue(m_database, m_place->path, m_place->password);
     } catch (const RunTimeError &error) {
         message += u"และเก็บข้อมูลไว้ไม่ได้ : "_s + error.description();
     }

@@ -28,14 +28,15 @@ public:
     /// Never creates a Ledger and changes no rows, but does write: a temporary file beside the
     /// Ledger probes whether the folder is writable, and SQLite creates the WAL. A WAL of another
     /// file is renamed. To recognise one, the Ledger's first page, of which a WAL contains copies, is
-    /// written to temporary files and read from there.
+    /// written to temporary files and read from there. Other users lose their permissions on a Ledger
+    /// that this user owns.
     /// After a crash, damaged indexes are rebuilt, and the WAL is checkpointed if the file has an
     /// incomplete last page.
     static std::unique_ptr<Connection> open(const QString &path,
                                             const QByteArray &password = LedgerPassword);
 
-    /// Creates an encrypted database file without tables, for makeEmptyLedger(). Throws if the file
-    /// or its WAL exists.
+    /// Creates an encrypted database file without tables, for makeEmptyLedger(), which only its owner
+    /// can read and write. Throws if the file or its WAL exists.
     static std::unique_ptr<Connection> create(const QString &path,
                                               const QByteArray &password = LedgerPassword);
 

@@ -63,15 +63,8 @@ int bindValue(sqlite3_stmt *statement, int place, const QVariant &value)
 
 int flagsFor(Database::Access access)
 {
-    switch (access) {
-    case Database::Access::Write:
-        return SQLITE_OPEN_READWRITE;
-    case Database::Access::Create:
-        return SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
-    case Database::Access::Immutable:
-        break;
-    }
-    return SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
+    return access == Database::Access::Write ? SQLITE_OPEN_READWRITE
+                                             : SQLITE_OPEN_READONLY | SQLITE_OPEN_URI;
 }
 
 QByteArray nameFor(const QString &path, Database::Access access)

@@ -33,7 +33,6 @@ class Database
 public:
     enum class Access {
         Write,
-        Create,
         Immutable, ///< read-only, without the WAL and without a lock
     };
 

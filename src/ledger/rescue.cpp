@@ -22,14 +22,12 @@ QString datedName(const QString &begin, const QString &end, int number)
 }
 
 /// Creates an empty file with an unused name and returns its path.
-QString makeDated(const QString &begin, const QString &end, QFile::Permissions permissions)
+QString makeDated(const QString &begin, const QString &end)
 {
     for (int number = 1;; ++number) {
         QFile file(datedName(begin, end, number));
-        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly)) {
-            file.setPermissions(permissions);
+        if (createPrivate(file))
             return file.fileName();
-        }
         if (!file.exists())
             raiseDatabaseFailure(file.errorString());
     }
@@ -41,11 +39,11 @@ void syncFolderOf(const QString &path)
 }
 
 QString writeInto(const QString &folder, const Database &file, const QFileInfo &name,
-                  const QByteArray &password, QFile::Permissions permissions)
+                  const QByteArray &password)
 {
     const QString end = name.suffix().isEmpty() ? QString() : u'.' + name.suffix();
-    const QString path = makeDated(
-        QDir(folder).absoluteFilePath(name.completeBaseName() + u"-rescued-"_s), end, permissions);
+    const QString path =
+        makeDated(QDir(folder).absoluteFilePath(name.completeBaseName() + u"-rescued-"_s), end);
     try {
         Database copy(path, Database::Access::Write);
         copy.setKey(password);
@@ -70,19 +68,19 @@ void renameForeignWal(const QString &path)
             continue;
         if (!QFile::rename(path, aside))
             raiseDatabaseFailure(u"%1 is of another file and cannot be renamed"_s.arg(path));
+        makePrivate(QFile::encodeName(aside));
         break;
     }
     syncFolderOf(path);
 }
 
-QString rescue(const Database &file, const QString &path, const QByteArray &password,
-               QFile::Permissions permissions)
+QString rescue(const Database &file, const QString &path, const QByteArray &password)
 {
     const QFileInfo name(path);
     const QStringList folders{name.path(), name.path() + u"/.."_s, QDir::homePath()};
     for (const QString &folder : folders) {
         try {
-            return writeInto(folder, file, name, password, permissions);
+            return writeInto(folder, file, name, password);
         } catch (const RunTimeError &) {
             if (folder == folders.last())
                 throw;

@@ -3,7 +3,7 @@
 // date and the reason.
 #pragma once
 
-#include <QFile>
+#include <QString>
 
 class Database;
 
@@ -11,7 +11,6 @@ class Database;
 void renameForeignWal(const QString &path);
 
 /// Copies the data of @p file, which is open but no longer at @p path, to a new Ledger with the
-/// given @p password and @p permissions. The new file is beside @p path, or if that fails in the
-/// folder above, or in the home folder. Returns its path, or throws RunTimeError if all three fail.
-QString rescue(const Database &file, const QString &path, const QByteArray &password,
-               QFile::Permissions permissions);
+/// given @p password. The new file is beside @p path, or if that fails in the folder above, or in the
+/// home folder. Returns its path, or throws RunTimeError if all three fail.
+QString rescue(const Database &file, const QString &path, const QByteArray &password);

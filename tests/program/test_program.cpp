@@ -7,6 +7,7 @@
 #include "desktop/programfolder.h"
 #include "desktop/region.h"
 #include "desktop/savefile.h"
+#include "ledger/emptyledger.h"
 #include "ledger/ledger.h"
 #include "paper/pageview.h"
 #include "paper/pdfexport.h"
@@ -53,6 +54,14 @@ QStringList readFile(const QByteArray &bytes)
     const QTemporaryDir folder;
     saveFile(folder.filePath(u"file"_s), bytes);
     return readByOthers(folder.filePath(u"file"_s));
+}
+
+constexpr QFile::Permissions OfOthers{QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther
+                                      | QFile::WriteOther};
+
+bool isPrivate(const QString &path)
+{
+    return QFile::exists(path) && (QFile::permissions(path) & OfOthers) == 0;
 }
 
 PageItem itemOf(const QString &text, const TextStyle &style,
@@ -218,6 +227,22 @@ private slots:
         QCOMPARE(ledger.run(u"SELECT Mname FROM tblMember"_s), QStringList(u"-"_s));
     }
 
+    /// Whatever the umask. A Ledger that older versions made for others to read is tightened.
+    void filesAreTheirOwnersAlone()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("a file has the permissions of its folder there");
+#endif
+        const TestLedger ledger;
+        makeEmptyLedger(ledger.path() + u".new"_s);
+        QVERIFY(isPrivate(ledger.path() + u".new"_s));
+        CloseLedger();
+        QFile::setPermissions(ledger.path(), QFile::permissions(ledger.path()) | OfOthers);
+        ConnectLedger();
+        QVERIFY(isPrivate(ledger.path()));
+        QVERIFY(isPrivate(ledger.path() + u"-wal"_s));
+    }
+
     /// As by a program that synchronizes folders. It is noticed by the next write or at the end.
     void replacedLedgerIsRescued()
     {
@@ -239,6 +264,7 @@ private slots:
             report += boxes.texts().join(u' ');
             QVERIFY2(report.contains(u"ztkdata-rescued-"_s), qPrintable(report));
             QVERIFY(QFile::exists(ledger.path() + u"-wal"_s)); // it may belong to the other file
+            QVERIFY(isPrivate(report.section(u' ', -1)));
             const auto rescued = Connection::open(report.section(u' ', -1));
             QCOMPARE(rescued->run(u"SELECT Mname FROM tblMember"_s).rows[0][0], u"Lek"_s);
             QCOMPARE(rescued->run(u"PRAGMA journal_mode"_s).rows[0][0], u"wal"_s);
