@@ -11,7 +11,7 @@ HANDLE mutex = nullptr;
 
 bool becomeOnlyInstance()
 {
-    if (mutex)
+    if (hasInstanceLock())
         return true;
     // "Global\\" makes it visible to all users of the machine. It ends with the process. Opening
     // one that belongs to another user's copy may be denied.
@@ -26,9 +26,14 @@ bool becomeOnlyInstance()
     return false;
 }
 
+bool hasInstanceLock()
+{
+    return mutex != nullptr;
+}
+
 void leaveOnlyInstance()
 {
-    if (mutex)
+    if (hasInstanceLock())
         CloseHandle(mutex);
     mutex = nullptr;
 }

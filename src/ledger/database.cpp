@@ -82,10 +82,16 @@ void raiseDatabaseFailure(const QString &message)
     throw RunTimeError(RunTimeError::DatabaseFailure, message);
 }
 
+QString messageOf(Refusal reason)
+{
+    constexpr int codes[] = {SQLITE_CANTOPEN, SQLITE_READONLY, SQLITE_NOTADB, SQLITE_CORRUPT,
+                             SQLITE_BUSY};
+    return QString::fromUtf8(sqlite3_errstr(codes[int(reason)]));
+}
+
 void raiseDatabaseFailure(Refusal reason)
 {
-    constexpr int codes[] = {SQLITE_CANTOPEN, SQLITE_READONLY, SQLITE_NOTADB, SQLITE_CORRUPT};
-    raiseDatabaseFailure(QString::fromUtf8(sqlite3_errstr(codes[int(reason)])));
+    raiseDatabaseFailure(messageOf(reason));
 }
 
 Database::Database(const QString &path, Access access)

@@ -19,8 +19,11 @@ struct ResultRows
     QList<QVariantList> rows;
 };
 
-/// Why the program refuses a file that SQLite itself may accept.
-enum class Refusal { CannotOpen, ReadOnly, NotALedger, Damaged };
+/// Why the program refuses a file, also one that SQLite itself may accept.
+enum class Refusal { CannotOpen, ReadOnly, NotALedger, Damaged, InUse };
+
+/// Returns SQLite's message.
+QString messageOf(Refusal reason);
 
 /// Throws RunTimeError DatabaseFailure with a message, or with SQLite's message for a Refusal.
 [[noreturn]] void raiseDatabaseFailure(const QString &message);

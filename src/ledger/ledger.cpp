@@ -4,6 +4,8 @@
 #include "desktop/msgbox.h"
 #include "desktop/programend.h"
 #include "desktop/programfolder.h"
+#include "desktop/singleinstance.h"
+#include "ledger/database.h"
 #include "runtime/runtimeerror.h"
 #include "runtime/values.h"
 
@@ -19,7 +21,10 @@ void ConnectLedger()
     try {
         LedgerConnection = Connection::open(programFile(u"data/ztkdata.ZDB"_s));
     } catch (const RunTimeError &error) {
-        MsgBox(u"เชื่อมต่อฐานข้อมูลไม่ได้ : "_s + error.description());
+        if (!hasInstanceLock() && error.description() == messageOf(Refusal::InUse))
+            refuseSecondCopy(); // which could not be recognised before
+        else
+            MsgBox(u"เชื่อมต่อฐานข้อมูลไม่ได้ : "_s + error.description());
         endProgram(1);
     }
     atProgramEnd(CloseLedger);

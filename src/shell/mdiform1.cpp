@@ -82,8 +82,7 @@ bool MDIForm1::MDIForm_Load()
 {
     if (!becomeOnlyInstance()) {
         m_ended = true;
-        MsgBox(u"โปรแกรมถูกเปิดใช้อยู่แล้ว !!  ไม่สามารถเปิด ซ้อนกันเกิน 1 โปรแกรมในเครื่องเดียว.."_s,
-               {BoxButtons::Ok, BoxIcon::Critical});
+        refuseSecondCopy();
         return false;
     }
     CurrentUser = u"sv"_s;

@@ -7,6 +7,7 @@
 #include "desktop/programfolder.h"
 #include "desktop/region.h"
 #include "desktop/savefile.h"
+#include "desktop/singleinstance.h"
 #include "ledger/emptyledger.h"
 #include "ledger/ledger.h"
 #include "paper/pageview.h"
@@ -36,6 +37,11 @@
 
 #ifdef Q_OS_WIN
 #include <windows.h>
+#else
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #endif
 
 using namespace Qt::StringLiterals;
@@ -241,6 +247,49 @@ private slots:
         ConnectLedger();
         QVERIFY(isPrivate(ledger.path()));
         QVERIFY(isPrivate(ledger.path() + u"-wal"_s));
+    }
+
+    /// Anything else with the name of the lock file is not used, even if it could be locked.
+    void onlyAnEmptyFileIsALockFile()
+    {
+#ifdef Q_OS_WIN
+        QSKIP("the lock is no file there");
+#else
+        const QTemporaryDir folder;
+        const auto restore =
+            qScopeGuard([before = qgetenv("TMPDIR")] { qputenv("TMPDIR", before); });
+        qputenv("TMPDIR", folder.path().toUtf8());
+        const QString lock = folder.filePath(u"mirakla-desk.lock"_s);
+        const QByteArray name = QFile::encodeName(lock);
+        const QByteArray other = QFile::encodeName(folder.filePath(u"other"_s));
+        QVERIFY(saveFile(QFile::decodeName(other), {}));
+        const auto take = [&] {
+            const int file = open(name, O_RDONLY | O_NONBLOCK);
+            return flock(file, LOCK_EX) == 0 ? file : -1;
+        };
+        const std::array<std::function<bool()>, 5> makers{
+            [&] { return symlink(other, name) == 0; }, [&] { return link(other, name) == 0; },
+            [&] { return mkfifo(name, S_IRWXU) == 0; }, [&] { return mkdir(name, S_IRWXU) == 0; },
+            [&] { return saveFile(lock, "not empty"); }};
+        for (const auto &makeSomething : makers) {
+            QVERIFY(makeSomething());
+            const int taken = take();
+            QVERIFY(becomeOnlyInstance() && !hasInstanceLock());
+            close(taken);
+            QCOMPARE(std::remove(name), 0);
+        }
+        QVERIFY(becomeOnlyInstance() && hasInstanceLock());
+        leaveOnlyInstance();
+        const int taken = take();
+        QVERIFY(!becomeOnlyInstance());
+        close(taken);
+        qputenv("TMPDIR", name); // no folder
+        QVERIFY(becomeOnlyInstance() && !hasInstanceLock());
+        const TestLedger ledger;
+        const BoxScript boxes;
+        QCOMPARE(endStatus(ConnectLedger), 1); // a Ledger in use is a second copy then
+        QVERIFY(boxes.texts().value(0).startsWith(u"โปรแกรมถูกเปิดใช้อยู่แล้ว"_s));
+#endif
     }
 
     /// As by a program that synchronizes folders. It is noticed by the next write or at the end.
