@@ -11,6 +11,7 @@
 #   screen  to show windows without a display
 #   test    to run the tests
 #   bench   to run the benchmarks
+#   coverage to see which lines the tests run
 #   bare    to test the project on a system that has nothing installed
 #   lint    to check source and scripts
 #   fuzz    to build the fuzzers by hand
@@ -35,6 +36,7 @@ test    sqlcipher         reads the book independently of the program
 test    python3-xlrd      reads sheets independently of the program
 test    poppler-utils     reads PDF files independently of the program
 bench   libbenchmark-dev  measures the benchmarks
+coverage gcovr            adds up the lines that the tests run
 bare    debootstrap       installs a system into a folder
 lint    clang-format      checks the layout of the source
 lint    shellcheck        checks the scripts for common mistakes
@@ -133,7 +135,7 @@ build()
         test) option=BUILD_TESTING ;;
         bench) option=MIRAKLA_BENCHMARKS ;;
         ci) option=CMAKE_COMPILE_WARNING_AS_ERROR ;;
-        dev) folder=build/dev ;;
+        dev | coverage) folder=build/$preset ;;
     esac
     if [[ ! $folder/build.ninja -nt CMakePresets.json ]] ||
         { [[ -n $option ]] && ! grep -q "^$option:[A-Z]*=ON\$" "$folder/CMakeCache.txt"; }; then

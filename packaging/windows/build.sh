@@ -17,15 +17,10 @@ build_windows()
     build test keeper make-empty-ledger
     # CMake caches the paths of libraries, so other libraries need a new build folder.
     grep -qsF "=$prefix" "$windows_build/CMakeCache.txt" || rm -rf "$windows_build"
-    cmake -G Ninja -S . -B "$windows_build" -DCMAKE_BUILD_TYPE=Release \
-        -DBUILD_TESTING=ON -DMIRAKLA_BENCHMARKS=ON -DCMAKE_COMPILE_WARNING_AS_ERROR=ON \
-        -DCMAKE_TOOLCHAIN_FILE="$PWD/packaging/windows/toolchain.cmake" \
-        -DDESK_SYSROOT="$prefix" -DDESK_NATIVE_BUILD="$PWD/build/release" \
-        -DDESK_WINDOWS_ZIP="$PWD/$windows_zip" \
-        -DCMAKE_CROSSCOMPILING_EMULATOR="$PWD/packaging/windows/wine.sh" \
-        -DQT_HOST_PATH=/usr -DQT_HOST_PATH_CMAKE_DIR="/usr/lib/$(gcc -print-multiarch)/cmake" ||
+    DESK_SYSROOT=$prefix DESK_WINDOWS_ZIP=$PWD/$windows_zip \
+        DESK_HOST_CMAKE=/usr/lib/$(gcc -print-multiarch)/cmake cmake --preset windows ||
         die "the Windows build could not be configured"
-    cmake --build "$windows_build" --parallel "$(nproc)" || die "the Windows build failed"
+    cmake --build --preset windows --parallel "$(nproc)" || die "the Windows build failed"
 }
 
 # pack_windows: lays out the folder that is shipped and packs it. Only the archive is kept: someone

@@ -32,9 +32,11 @@ ShowKey::ShowKey(QWidget *owner)
 
 void ShowKey::open(QWidget *owner)
 {
-    static QPointer<ShowKey> window;
+    static QPointer<ShowKey> opened;
+    ShowKey *window = opened;
     if (!window) {
         window = new ShowKey(owner);
+        opened = window;
         const QRect desktop = owner->screen()->availableGeometry();
         window->resize(window->sizeHint().boundedTo(desktop.size() * 0.95));
         window->move(desktop.center() - window->rect().center());
