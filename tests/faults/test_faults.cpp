@@ -121,6 +121,8 @@ QStringList rowsIn(const Files &files)
             rows = check == u"ok"_s ? ledgerRows(*opened) : QStringList(check);
         } catch (const RunTimeError &error) {
             rows = {error.report()};
+            if (bytesOf(path) != files.ledger)
+                rows += u"and the refused file was changed"_s;
         }
         for (const QString &name : QDir(folder.path()).entryList({u"book-wal-of-another-file-*"_s}))
             rows +=
@@ -462,9 +464,25 @@ private slots:
             Files damaged = files;
             char &byte = damaged.wal[m_random.bounded(damaged.wal.size())];
             byte = char(byte ^ (1 << m_random.bounded(8)));
+            if (damage % 2 == 0) // which the WAL may repair
+                damaged.ledger.resize(damaged.ledger.size() + m_random.bounded(-1000, 1000), 'x');
             const QStringList found = rowsIn(damaged);
-            QVERIFY2(passed.contains(found), qPrintable(found.join(u'\n')));
+            const bool isRefused = // and left open, so that closing moves no WAL into it
+                found.join(u'|').remove(Report)
+                == u"database disk image is malformed|then:|database is locked"_s;
+            QVERIFY2(passed.contains(found) || (damage % 2 == 0 && isRefused),
+                     qPrintable(found.join(u'\n')));
         }
+        // Without ids, a WAL of another state could leave an index that disagrees with its table.
+        runStockTool(
+            book(), u"639417"_s,
+            u".dbconfig defensive off\n" // ignored by older versions
+            "PRAGMA writable_schema = ON; UPDATE sqlite_master SET"
+            " sql = replace(sql, '(NameFK)', '(numBuy)') WHERE name = 'tblNumber_buyer';"_s);
+        QVERIFY(rowsIn({}).join(u' ').contains(u"index"_s));
+        LedgerConnection = open();
+        LedgerConnection->run(u"INSERT INTO tblRMoney (rMoney) VALUES (1)"_s); // for a WAL
+        QCOMPARE(rowsIn({}), ledgerRows(*LedgerConnection));
     }
 
     void memoryStaysFlat()
