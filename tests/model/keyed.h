@@ -19,7 +19,7 @@ struct KeyedTicket
         keyLine(ticket, caption, line);
         const bool accepted = expected.key(caption, line);
         same(u"boxes and tab after "_s + caption + u' ' + line,
-             {QString::number(boxes.boxes().size()), QString::number(ticket.ShowTopTab)},
+             {QString::number(boxes.texts().size()), QString::number(ticket.ShowTopTab)},
              {QString::number(accepted ? 0 : 1), QString::number(expected.showsTop)});
         return accepted;
     }

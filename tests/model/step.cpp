@@ -78,7 +78,7 @@ void checkDraw(const QString &result)
 void closeAndRestart()
 {
     {
-        const BoxScript yes({BoxAnswer::Ok});
+        const BoxScript yes(BoxAnswer::Ok);
         if (endStatus([] { closeDraw([] { return true; }); }) != 0)
             qFatal("the program did not end with the draw");
     }

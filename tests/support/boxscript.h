@@ -1,39 +1,28 @@
 // SPDX-License-Identifier: MIT
-// Answers the program's boxes from a list instead of showing windows, and keeps them.
+// Answers the program's boxes instead of showing windows, and keeps their texts.
 #pragma once
 
 #include "desktop/msgbox.h"
 
-#include <QList>
 #include <QStringList>
 
-/// Answers boxes as long as it lives. A question gets the next prepared answer, or Cancel if none is
-/// left, so that nothing unexpected is ever accepted.
+/// Answers boxes as long as it lives: with Cancel, so that nothing unexpected is ever accepted, unless
+/// another answer is given.
 class BoxScript
 {
 public:
-    explicit BoxScript(QList<BoxAnswer> answers = {})
-        : m_before(setBoxShower([this, answers](const Box &box) mutable {
-              m_boxes += box;
-              if (box.style.buttons == BoxButtons::Ok)
-                  return BoxAnswer::Ok;
-              return answers.isEmpty() ? BoxAnswer::Cancel : answers.takeFirst();
+    explicit BoxScript(BoxAnswer answer = BoxAnswer::Cancel)
+        : m_before(setBoxShower([this, answer](const Box &box) {
+              m_texts += box.text;
+              return answer;
           }))
     {}
     ~BoxScript() { setBoxShower(m_before); }
     Q_DISABLE_COPY_MOVE(BoxScript)
 
-    const QList<Box> &boxes() const { return m_boxes; }
-
-    QStringList texts() const
-    {
-        QStringList texts;
-        for (const Box &box : m_boxes)
-            texts += box.text;
-        return texts;
-    }
+    const QStringList &texts() const { return m_texts; }
 
 private:
-    QList<Box> m_boxes;
+    QStringList m_texts;
     BoxShower m_before;
 };
