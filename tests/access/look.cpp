@@ -6,6 +6,7 @@
 #include <QAccessible>
 
 #include <cmath>
+#include <map>
 
 namespace {
 
@@ -41,13 +42,14 @@ double contrastOf(QWidget *control)
     const QRect inner = control->rect().adjusted(4, 4, -4, -4); // no frame
     const QRect place(control->mapTo(control->window(), inner.topLeft()), inner.size());
     const QImage picture = control->window()->grab(place).toImage();
-    QMap<double, int> lights;
+    std::map<double, int> lights;
     for (int at = 0; at < picture.width() * picture.height(); ++at) {
         const QRgb color = picture.pixel(at % picture.width(), at / picture.width());
         ++lights[std::pow(qGray(color) / 255.0, 2.2) + 0.05];
     }
-    const double background = std::max_element(lights.cbegin(), lights.cend()).key();
-    return std::max(lights.lastKey() / background, background / lights.firstKey());
+    const auto isRarer = [](const auto &a, const auto &b) { return a.second < b.second; };
+    const double background = std::max_element(lights.begin(), lights.end(), isRarer)->first;
+    return std::max(lights.rbegin()->first / background, background / lights.begin()->first);
 }
 
 } // namespace
