@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
 // Opens the damaged Ledger of a killed program and its WAL. The Ledger is refused and left as it
-// is, or it opens and holds some of the lines that were saved, to the letter.
+// is, or it opens and holds some of the lines that were saved, unchanged.
 #include "fuzz/fuzz.h"
 #include "ledger/connection.h"
 #include "ledger/emptyledger.h"
