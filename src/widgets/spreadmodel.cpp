@@ -117,12 +117,13 @@ void SpreadModel::setRow(int row, std::span<const QString> texts)
 
 QColor SpreadModel::color(int row, int column) const
 {
-    return hasCell(row, column) ? m_rows[row - 1][column].color : QColor();
+    const QRgb shown = hasCell(row, column) ? m_rows[row - 1][column].color : 0;
+    return shown != 0 ? QColor(shown) : QColor();
 }
 
 void SpreadModel::setColor(int row, int column, const QColor &color)
 {
-    cell(row, column).color = color;
+    cell(row, column).color = color.isValid() ? color.rgb() : 0;
     changed(row, column);
 }
 
@@ -203,9 +204,9 @@ QVariant SpreadModel::data(const QModelIndex &index, int role) const
     case Qt::TextAlignmentRole:
         return int(m_columns[index.column()]);
     case Qt::BackgroundRole:
-        return shown.color.isValid() ? QVariant(shown.color) : QVariant();
+        return shown.color != 0 ? QVariant(QColor(shown.color)) : QVariant();
     case Qt::ForegroundRole: // cell colours are light, and a dark desktop has white text
-        return shown.color.isValid() ? QVariant(QColor(Qt::black)) : QVariant();
+        return shown.color != 0 ? QVariant(QColor(Qt::black)) : QVariant();
     default:
         return {};
     }

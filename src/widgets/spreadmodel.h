@@ -7,7 +7,6 @@
 #include <QColor>
 #include <QList>
 #include <QString>
-
 #include <QVarLengthArray>
 
 #include <span>
@@ -98,7 +97,7 @@ private:
     struct Cell
     {
         QString text;
-        QColor color;
+        QRgb color = 0; ///< 0 is the default background; QColor would be four times as large
     };
     using Row =
         QVarLengthArray<Cell, 5>; ///< the columns of a board, without an allocation for each row
