@@ -119,9 +119,13 @@ void Database::finalizeAll()
 
 void Database::check(int code) const
 {
-    if (code != SQLITE_OK)
-        raiseDatabaseFailure(m_handle ? QString::fromUtf8(sqlite3_errmsg(m_handle))
-                                      : QString::fromUtf8(sqlite3_errstr(code)));
+    if (code == SQLITE_OK)
+        return;
+    // With SQLCipher 4.13, SQLite reports a page that fails its checksum as a lack of memory.
+    if (code == SQLITE_NOMEM)
+        raiseDatabaseFailure(Refusal::Damaged);
+    raiseDatabaseFailure(
+        QString::fromUtf8(m_handle ? sqlite3_errmsg(m_handle) : sqlite3_errstr(code)));
 }
 
 void Database::lock() const
