@@ -14,7 +14,7 @@
 #   coverage to see which lines the tests run
 #   bare    to test the project on a system that has nothing installed
 #   lint    to check source and scripts
-#   fuzz    to build the fuzzers by hand
+#   fuzz    to search for inputs that break a rule
 #   windows to build and test the program for Windows
 #   voice   to make the recordings again
 #   pictures to make the icon and the pictures of README and guide
@@ -135,7 +135,7 @@ build()
         test) option=BUILD_TESTING ;;
         bench) option=MIRAKLA_BENCHMARKS ;;
         ci) option=CMAKE_COMPILE_WARNING_AS_ERROR ;;
-        dev | coverage) folder=build/$preset ;;
+        dev | coverage | fuzz) folder=build/$preset ;;
     esac
     if [[ ! $folder/build.ninja -nt CMakePresets.json ]] ||
         { [[ -n $option ]] && ! grep -q "^$option:[A-Z]*=ON\$" "$folder/CMakeCache.txt"; }; then
