@@ -45,7 +45,7 @@ void Form2::connectControls()
     new FieldGuard(this, &m_focus,
                    {{.field = m_ui->Tber, .longest = 10, .enterFocuses = m_ui->Tpercen},
                     {.field = m_ui->Tpercen, .longest = 2, .enterFocuses = m_ui->Tname}});
-    connect(m_ui->fpSpread1, &Spread::rowPicked, this, &Form2::fpSpread1_RowPicked);
+    connectHandler(m_ui->fpSpread1, &Spread::rowPicked, this, &Form2::fpSpread1_RowPicked);
     connectHandler(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Form2::lvButtons_H0_Click);
     connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form2::lvButtons_H1_Click);
     connectHandler(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Form2::lvButtons_H3_Click);
@@ -54,7 +54,7 @@ void Form2::connectControls()
     connectHandler(m_ui->cDel, &QPushButton::clicked, this, &Form2::cDel_Click);
     connect(m_ui->Tname, &QLineEdit::returnPressed, m_ui->Tber, qOverload<>(&QWidget::setFocus));
     connectHandler(m_ui->text1, &QLineEdit::returnPressed, this, &Form2::lvButtons_H5_Click);
-    connect(m_ui->Tname, &QLineEdit::textEdited, this, &Form2::tidyName);
+    connectHandler(m_ui->Tname, &QLineEdit::textEdited, this, &Form2::tidyName);
 }
 
 /// Removes line breaks and other control characters from what is typed or pasted. Limits the length

@@ -27,7 +27,7 @@ CutNum::CutNum(std::function<void()> unload, QWidget *parent)
     m_ui->fpSpread1->setColumnDigits(CutColumn::Amount, 17);
     new FieldGuard(this, &m_focus,
                    {{.field = m_ui->text1, .longest = 5, .enterClicks = m_ui->lvButtons_H3}});
-    connect(m_ui->fpSpread1, &Spread::rowClicked, this, &CutNum::fpSpread1_Click);
+    connectHandler(m_ui->fpSpread1, &Spread::rowClicked, this, &CutNum::fpSpread1_Click);
     connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &CutNum::lvButtons_H1_Click);
     connectHandler(m_ui->lvButtons_H3, &QPushButton::clicked, this, &CutNum::lvButtons_H3_Click);
     placeDialog(*this);

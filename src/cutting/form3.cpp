@@ -65,10 +65,10 @@ void Form3::connectControls()
         connectHandler(m_spreads[at], &Spread::rowOpened, this,
                        [this, at] { fpSpread_DblClick(at); });
     m_ui->Combo1->keyPress = [this](int code) { return Combo1_KeyPress(code); };
-    connect(m_ui->SSTab1, &TabStrip::clicked, this, &Form3::SSTab1_Click);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, [this] { showBar(false); });
-    connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, [this] { showBar(true); });
-    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Form3::lvButtons_H3_Click);
+    connectHandler(m_ui->SSTab1, &TabStrip::clicked, this, &Form3::SSTab1_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, [this] { showBar(false); });
+    connectHandler(m_ui->lvButtons_H2, &QPushButton::clicked, this, [this] { showBar(true); });
+    connectHandler(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Form3::lvButtons_H3_Click);
     connectHandler(m_ui->lvButtons_H4, &QPushButton::clicked, this, &Form3::lvButtons_H4_Click);
     connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form3::lvButtons_H5_Click);
     connectHandler(m_ui->lvButtons_H6, &QPushButton::clicked, this,
@@ -77,7 +77,7 @@ void Form3::connectControls()
     auto *reload = new QShortcut(Qt::Key_F5, this);
     reload->setContext(Qt::WindowShortcut); // the customer strip is outside the page
     reload->setAutoRepeat(false);
-    connect(reload, &QShortcut::activated, this, &Form3::Form_KeyDown);
+    connectHandler(reload, &QShortcut::activated, this, &Form3::Form_KeyDown);
 }
 
 void Form3::Form_Load()

@@ -25,7 +25,7 @@ Numcut::Numcut(std::function<void(Numcut &)> print, QWidget *parent)
     new FieldGuard(this, &m_focus,
                    {{.field = m_ui->text1, .longest = 3, .enterClicks = m_ui->lvButtons_H3}});
     connect(m_ui->lvButtons_H0, &QPushButton::clicked, this, &QDialog::reject);
-    connect(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Numcut::lvButtons_H3_Click);
+    connectHandler(m_ui->lvButtons_H3, &QPushButton::clicked, this, &Numcut::lvButtons_H3_Click);
     connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Numcut::lvButtons_H5_Click);
     Form_Load();
 }

@@ -7,6 +7,7 @@
 
 #include <QObject>
 
+#include <type_traits>
 #include <utility>
 
 /// Returns the result of @p handler, or ends the program with a report if it throws a RunTimeError.
@@ -32,9 +33,18 @@ void connectHandler(const Sender *sender, Signal signal, Receiver *receiver,
     });
 }
 
-/// Connects a signal to a function without arguments that can throw.
-template<typename Sender, typename Signal, typename Receiver, typename Handler>
-void connectHandler(const Sender *sender, Signal signal, Receiver *receiver, Handler handler)
+/// Connects a signal to a function that can throw. It takes all arguments of the signal or none.
+template<typename Sender, typename Source, typename... Arguments, typename Receiver,
+         typename Handler>
+requires(!std::is_member_pointer_v<Handler>) void connectHandler(
+    const Sender *sender, void (Source::*signal)(Arguments...), Receiver *receiver, Handler handler)
 {
-    QObject::connect(sender, signal, receiver, [handler] { handle(handler); });
+    QObject::connect(sender, signal, receiver, [handler](Arguments... arguments) {
+        handle([&] {
+            if constexpr (std::is_invocable_v<Handler, Arguments...>)
+                handler(arguments...);
+            else
+                handler();
+        });
+    });
 }

@@ -51,21 +51,21 @@ void Form4::connectControls()
     new FieldGuard(this, &m_focus, digitRules());
     for (QLineEdit *box : m_boxes)
         box->installEventFilter(this);
-    connect(&m_focus, &FocusTracker::gotFocus, this, [this](QWidget *control) {
+    connectHandler(&m_focus, &FocusTracker::gotFocus, this, [this](QWidget *control) {
         const auto *box = std::find(m_boxes.begin(), m_boxes.end(), control);
         if (box != m_boxes.end())
             (*box)->selectAll();
     });
-    connect(m_ui->Option1, &QRadioButton::toggled, this, [this](bool selected) {
+    connectHandler(m_ui->Option1, &QRadioButton::toggled, this, [this](bool selected) {
         if (selected)
             Option_Click(Book::Ours);
     });
-    connect(m_ui->Option2, &QRadioButton::toggled, this, [this](bool selected) {
+    connectHandler(m_ui->Option2, &QRadioButton::toggled, this, [this](bool selected) {
         if (selected)
             Option_Click(Book::CutOut);
     });
     connectHandler(m_ui->Command18, &QPushButton::clicked, this, &Form4::Command18_Click);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form4::lvButtons_H1_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form4::lvButtons_H1_Click);
     connectHandler(m_ui->lvButtons_H5, &QPushButton::clicked, this, &Form4::lvButtons_H5_Click);
 }
 

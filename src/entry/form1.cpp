@@ -63,17 +63,17 @@ void Form1::connectControls()
         this, &m_focus, {{.field = m_ui->Tnumber, .longest = 50, .filter = FieldFilter::Line}});
     m_ui->Tnumber->installEventFilter(this); // installed after the guard, so called before it
     connectHandler(guard, &FieldGuard::entered, this, &Form1::Tnumber_KeyPress);
-    connect(&m_focus, &FocusTracker::gotFocus, this, &Form1::controlGotFocus);
-    connect(&m_focus, &FocusTracker::lostFocus, this, &Form1::controlLostFocus);
+    connectHandler(&m_focus, &FocusTracker::gotFocus, this, &Form1::controlGotFocus);
+    connectHandler(&m_focus, &FocusTracker::lostFocus, this, &Form1::controlLostFocus);
     connectHandler(m_ui->Combo1, &Combo::clicked, this, &Form1::Combo1_Click);
     m_ui->Combo1->keyPress = [this](int code) { return Combo1_KeyPress(code); };
-    connect(m_ui->Combo2, &Combo::clicked, this, &Form1::Combo2_Click);
-    connect(m_ui->C01, &QCheckBox::clicked, this, &Form1::C01_Click);
-    connect(m_ui->Label12, &QPushButton::clicked, this, &Form1::Label12_Click);
-    connect(m_ui->SSTab1, &TabStrip::clicked, this, &Form1::SSTab1_Click);
+    connectHandler(m_ui->Combo2, &Combo::clicked, this, &Form1::Combo2_Click);
+    connectHandler(m_ui->C01, &QCheckBox::clicked, this, &Form1::C01_Click);
+    connectHandler(m_ui->Label12, &QPushButton::clicked, this, &Form1::Label12_Click);
+    connectHandler(m_ui->SSTab1, &TabStrip::clicked, this, &Form1::SSTab1_Click);
     connectHandler(m_ui->lvButtons_H0, &QPushButton::clicked, this, &Form1::lvButtons_H0_Click);
-    connect(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form1::lvButtons_H1_Click);
-    connect(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Form1::lvButtons_H2_Click);
+    connectHandler(m_ui->lvButtons_H1, &QPushButton::clicked, this, &Form1::lvButtons_H1_Click);
+    connectHandler(m_ui->lvButtons_H2, &QPushButton::clicked, this, &Form1::lvButtons_H2_Click);
 }
 
 void Form1::Form_Load()

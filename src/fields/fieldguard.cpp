@@ -2,6 +2,7 @@
 #include "fields/fieldguard.h"
 
 #include "desktop/focustracker.h"
+#include "desktop/handler.h"
 #include "desktop/keycodes.h"
 #include "fields/filters.h"
 
@@ -41,7 +42,7 @@ FieldGuard::FieldGuard(QWidget *form, const FocusTracker *focus, const QList<Fie
         rule.field->setAttribute(Qt::WA_InputMethodEnabled, false);
         rule.field->setContextMenuPolicy(Qt::PreventContextMenu);
     }
-    connect(focus, &FocusTracker::gotFocus, this, [this](QWidget *control) {
+    connectHandler(focus, &FocusTracker::gotFocus, this, [this](QWidget *control) {
         if (m_rules.contains(control))
             SetEnglishKeyboard();
     });

@@ -3,6 +3,7 @@
 
 #include "ui_fprint.h"
 
+#include "desktop/handler.h"
 #include "reports/export.h"
 
 #include <QAction>
@@ -18,8 +19,8 @@ FPrint::FPrint(const QString &name, std::unique_ptr<Report> report, QWidget *par
     m_ui->setupUi(this);
     setObjectName(name);
     setWindowFlag(Qt::WindowMaximizeButtonHint);
-    connect(m_ui->Command1, &QPushButton::clicked, this, &FPrint::Command1_Click);
-    connect(m_ui->Command2, &QPushButton::clicked, this, &FPrint::Command2_Click);
+    connectHandler(m_ui->Command1, &QPushButton::clicked, this, &FPrint::Command1_Click);
+    connectHandler(m_ui->Command2, &QPushButton::clicked, this, &FPrint::Command2_Click);
     Form_Load();
 }
 

@@ -2,6 +2,7 @@
 #include "shell/statuspanels.h"
 
 #include "desktop/clock.h"
+#include "desktop/handler.h"
 #include "desktop/keyboardstate.h"
 #include "desktop/region.h"
 
@@ -41,7 +42,7 @@ StatusPanels::StatusPanels(QWidget *parent) : QStatusBar(parent)
     m_panels[Num]->setText(u"NUM"_s);
     m_panels[Contact]->setText(u"ติดต่อ : support@mirakla-desk.example"_s);
     m_panels[Contact]->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    connect(&m_clock, &QTimer::timeout, this, &StatusPanels::showClock);
+    connectHandler(&m_clock, &QTimer::timeout, this, &StatusPanels::showClock);
     showClock();
     showLocks();
     qApp->installEventFilter(this);
